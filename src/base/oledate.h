@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// Dates as the store keeps them: days since 1899-12-30, the time of day in the
+/// fraction. Before the epoch the fraction still counts forward from midnight of
+/// its day, so -1.25 is 1899-12-29 06:00.
+namespace oledate {
+
+struct Parts
+{
+    int year = 1899;
+    int month = 12;
+    int day = 30;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+};
+
+inline constexpr double smallest = -657434.0; // 100-01-01
+inline constexpr double largest = 2958465.99999999; // 9999-12-31
+
+/// Nothing when the parts name no day of the calendar or no time of the day.
+[[nodiscard]] std::optional<double> fromParts(const Parts &parts);
+/// Rounded to whole seconds.
+[[nodiscard]] Parts toParts(double date);
+
+/// Reads m/d/yyyy (the day first when the first number is over 12), yyyy-mm-dd, month
+/// names, two-digit years (00-29 is 20xx), each with or without a time; a time alone
+/// is on day 0. Nothing when the text is no date.
+[[nodiscard]] std::optional<double> parse(QStringView text);
+
+/// 3/4/2005, 1/15/2005 2:30:00 PM, or the time alone on day 0.
+[[nodiscard]] QString toText(double date);
+/// 2005-03-04 14:30:00, always with the time.
+[[nodiscard]] QString toIso(double date);
+
+} // namespace oledate

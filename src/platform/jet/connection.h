@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+namespace jet {
+
+class Database;
+class Recordset;
+
+inline constexpr int StateClosed = 0;
+inline constexpr int StateOpen = 1;
+inline constexpr int SchemaTables = 20;
+
+/// A session on one store file. Sessions of this process on one file share the handle
+/// below; the file is closed when the last of them closes. Closes itself at the end of
+/// its life; what was written before stays written.
+class Connection final
+{
+public:
+    Connection();
+    ~Connection();
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    /// Takes "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=PATH" with or without further
+    /// properties. Never creates a file. Raises ObjectOpen (3705) when open already,
+    /// ProviderMissing (3706) for another provider, Failure with a text that names the
+    /// file when it is missing, a folder, unreadable or no store.
+    void open(const QString &connectionString, const QString &user = {}, const QString &password = {},
+              int options = -1);
+    /// Commits what is pending. Raises ConnectionClosed's brother ObjectClosed (3704) when not open.
+    void close();
+    [[nodiscard]] int state() const { return m_database ? StateOpen : StateClosed; }
+
+    /// Runs one statement that returns no rows, or drops the rows it returns.
+    void execute(const QString &sql);
+
+    /// The table list (schema 20) as a disconnected recordset with the fields
+    /// TABLE_NAME and TABLE_TYPE, which is "TABLE" or "SYSTEM TABLE", by name.
+    void openSchema(int schema, Recordset &recordset);
+
+    /// Raises ConnectionClosed (3709) when not open.
+    [[nodiscard]] Database &database() const;
+
+private:
+    std::shared_ptr<Database> m_database;
+};
+
+/// The connection text of a store file.
+[[nodiscard]] QString connectionString(const QString &path);
+
+/// Makes a new, empty store file and closes it. Raises Failure when the path exists or
+/// cannot be made; nothing is left behind then.
+void createDatabase(const QString &path);
+
+/// Commits the pending group of writes of every open file of this process. The one
+/// yield of the program calls this before it lets other events run.
+void flushPendingWrites();
+
+} // namespace jet

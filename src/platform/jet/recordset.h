@@ -1,0 +1,137 @@
+#pragma once
+
+#include "base/textcolumn.h"
+#include "base/value.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace jet {
+
+class Connection;
+class Recordset;
+
+/// The type numbers that fields report.
+enum class FieldType {
+    Short = 2,
+    Long = 3,
+    Single = 4,
+    Double = 5,
+    Currency = 6,
+    Date = 7,
+    Boolean = 11,
+    Variant = 12,
+    Byte = 17,
+    VarChar = 200,
+    Text = 202,
+    Memo = 203,
+};
+
+/// One field of the current record. A light reference: valid while its recordset is open.
+class Field final
+{
+public:
+    [[nodiscard]] const QString &name() const;
+    [[nodiscard]] FieldType type() const;
+    [[nodiscard]] int definedSize() const;
+    /// Raises NoCurrentRecord (3021) at the beginning or the end.
+    [[nodiscard]] Value value() const;
+    /// Only in recordsets made in memory; others raise Failure.
+    void setValue(const Value &value);
+
+private:
+    friend class Fields;
+    Field(Recordset *recordset, std::size_t index) : m_recordset(recordset), m_index(index) {}
+    Recordset *m_recordset;
+    std::size_t m_index;
+};
+
+/// The fields of a recordset, by name without regard to case or by index from 0.
+/// A name or index that is not there raises ItemNotFound (3265).
+class Fields final
+{
+public:
+    [[nodiscard]] int count() const;
+    [[nodiscard]] Field item(int index) const;
+    [[nodiscard]] Field item(QStringView name) const;
+    /// The index of a name, or -1.
+    [[nodiscard]] int indexOf(QStringView name) const;
+    /// Adds a field to a closed recordset that is being made in memory.
+    void append(const QString &name, FieldType type, int size, int attributes = -1);
+
+private:
+    friend class Recordset;
+    explicit Fields(Recordset *recordset) : m_recordset(recordset) {}
+    Recordset *m_recordset;
+};
+
+/// Rows that live without a connection. Opened on a statement it holds all of its rows,
+/// typed column by column, and stands on the first; made in memory (append fields, open(),
+/// addNew) it is written by its owner. Walking it is O(1) a step.
+class Recordset final
+{
+public:
+    int cursorType = 0;
+    int cursorLocation = 3;
+    int lockType = 1;
+
+    Recordset() = default;
+    Recordset(const Recordset &) = delete;
+    Recordset &operator=(const Recordset &) = delete;
+
+    /// Runs the statement and takes all of its rows. Raises ObjectOpen (3705) when open,
+    /// ConnectionClosed (3709), or the statement's error. A statement that returns no
+    /// rows at all leaves the recordset closed.
+    void open(const QString &sql, Connection &connection, int cursor = -1, int lock = -1, int options = -1);
+    /// Opens a recordset made in memory, without rows.
+    void open();
+    /// Raises ObjectClosed (3704) when not open.
+    void close();
+    [[nodiscard]] int state() const { return m_open ? 1 : 0; }
+    /// Rows are always disconnected; kept so that callers can say so.
+    void setActiveConnection(std::nullptr_t) {}
+
+    [[nodiscard]] bool bof() const;
+    [[nodiscard]] bool eof() const;
+    [[nodiscard]] int recordCount() const;
+    /// The moves raise NoCurrentRecord (3021) where there is no record to move from.
+    void moveFirst();
+    void moveNext();
+    void moveLast();
+    /// Appends a record of Nulls and makes it the current one.
+    void addNew();
+
+    [[nodiscard]] Fields fields() { return Fields(this); }
+    /// Short for fields().item(name).value().
+    [[nodiscard]] Value value(QStringView name);
+    /// Short for fields().item(index).value().
+    [[nodiscard]] Value value(int index);
+
+private:
+    friend class Field;
+    friend class Fields;
+    friend class RowReader;
+
+    struct Column
+    {
+        QString name;
+        FieldType type = FieldType::Text;
+        int definedSize = 0;
+        TextColumn texts;            // text fields
+        std::vector<double> numbers; // every other kind: whole numbers of the store are exact in a double
+        std::vector<bool> set;       // false where a number is Null; shorter than the rows: Null behind
+    };
+
+    void requireOpen() const;
+    void requireRecord() const;
+    [[nodiscard]] Value valueAt(std::size_t row, const Column &column) const;
+
+    bool m_open = false;
+    bool m_writable = false;
+    std::size_t m_rows = 0;
+    std::size_t m_current = 0; // m_rows is the end
+    std::vector<Column> m_columns;
+};
+
+} // namespace jet
