@@ -1,0 +1,40 @@
+#pragma once
+
+#include "base/error.h"
+#include "store/storesession.h"
+
+/// What the record classes have in common: they hold nothing between calls but the last
+/// failure, and each method visits the store once, with a connection of its own.
+class RecordClass
+{
+public:
+    [[nodiscard]] int errorNumber() const { return m_error.number; }
+    [[nodiscard]] const QString &errorDescription() const { return m_error.description; }
+
+protected:
+    RecordClass() = default;
+    ~RecordClass() = default;
+
+    /// Runs the work over a new session. A failure, the opening's too, is kept in the two
+    /// error fields and raised again.
+    template <typename Work>
+    void withStore(const QString &connectionString, Work &&work)
+    {
+        try {
+            StoreSession store(connectionString);
+            work(store);
+        } catch (const Error &error) {
+            m_error.set(error);
+            throw;
+        }
+    }
+
+    /// The shape of a reading method.
+    void read(const QString &connectionString, jet::Recordset &result, const QString &sql)
+    {
+        withStore(connectionString, [&](StoreSession &store) { store.open(sql, result); });
+    }
+
+private:
+    CurrentError m_error;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class StoreSession;
+
+/// Makes a new store with all tables and no rows. The store is built beside the path and
+/// moved there when it is complete, so a failure leaves nothing behind and nobody ever
+/// opens half a store. Raises jet::Failure when the path exists already or cannot be
+/// written.
+void createStore(const QString &path);
+
+/// The same with first rows: they are part of what is complete or not there at all.
+void createStore(const QString &path, const std::function<void(StoreSession &)> &fill);

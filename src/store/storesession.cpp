@@ -1,0 +1,46 @@
+#include "store/storesession.h"
+
+StoreSession::StoreSession(const QString &connectionString)
+{
+    m_connection.open(connectionString, QString(), QString(), -1);
+    m_command.commandType = jet::CommandTypeText;
+    m_command.setActiveConnection(&m_connection);
+    m_test.lockType = 1;
+    m_test.cursorLocation = 3;
+    m_test.cursorType = 0;
+}
+
+void StoreSession::execute(QString sql)
+{
+    m_command.commandText = std::move(sql);
+    m_command.execute();
+}
+
+bool StoreSession::exists(const QString &sql)
+{
+    openTest(sql);
+    const bool found = !m_test.eof();
+    m_test.close();
+    return found;
+}
+
+Value StoreSession::scalar(const QString &sql)
+{
+    openTest(sql);
+    Value value = m_test.eof() ? Value() : m_test.value(0);
+    m_test.close();
+    return value;
+}
+
+void StoreSession::open(const QString &sql, jet::Recordset &result)
+{
+    result.open(sql, m_connection, -1, -1, -1);
+    result.setActiveConnection(nullptr);
+}
+
+void StoreSession::openTest(const QString &sql)
+{
+    if (m_test.state() != jet::StateClosed)
+        m_test.close();
+    m_test.open(sql, m_connection, -1, -1, -1);
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/jet/command.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/recordset.h"
+
+#include <QString>
+
+/// One visit to the store: a connection, one command and one recordset for tests, all
+/// used again for each statement and gone at the end of the visit.
+class StoreSession final
+{
+public:
+    explicit StoreSession(const QString &connectionString);
+
+    void execute(QString sql);
+    /// Whether the statement gives any row.
+    [[nodiscard]] bool exists(const QString &sql);
+    /// The first field of the first row; Null when there is no row.
+    [[nodiscard]] Value scalar(const QString &sql);
+    /// Opens the caller's recordset and detaches it: its rows outlive the session.
+    void open(const QString &sql, jet::Recordset &result);
+
+private:
+    void openTest(const QString &sql);
+
+    jet::Connection m_connection;
+    jet::Command m_command;
+    jet::Recordset m_test;
+};
