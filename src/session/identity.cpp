@@ -1,0 +1,18 @@
+#include "session/identity.h"
+
+using namespace Qt::StringLiterals;
+
+QString programTitle()
+{
+    return u"Kelvane"_s;
+}
+
+QString programVersion()
+{
+    return QString::number(versionMajor) % u'.' % QString::number(versionMinor);
+}
+
+QString mainCaption()
+{
+    return programTitle() % u' ' % programVersion();
+}
