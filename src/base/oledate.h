@@ -19,7 +19,7 @@ struct Parts
     int second = 0;
 };
 
-inline constexpr double smallest = -657434.0; // 100-01-01
+inline constexpr double smallest = -657434.0;       // 100-01-01
 inline constexpr double largest = 2958465.99999999; // 9999-12-31
 
 /// Nothing when the parts name no day of the calendar or no time of the day.

@@ -2,7 +2,6 @@
 
 #include "base/error.h"
 
-
 #include <limits>
 
 using namespace Qt::StringLiterals;

@@ -65,7 +65,8 @@ qint64 Value::toInteger() const
 
 bool Value::toBoolean() const
 {
-    if (const QString *text = std::get_if<QString>(&m_value); text && text->compare("true"_L1, Qt::CaseInsensitive) == 0)
+    if (const QString *text = std::get_if<QString>(&m_value);
+        text && text->compare("true"_L1, Qt::CaseInsensitive) == 0)
         return true;
     return toDouble() != 0;
 }
