@@ -1,0 +1,141 @@
+#pragma once
+
+#include "toolkit/listrows.h"
+
+#include <QStringList>
+#include <QTreeView>
+
+#include <span>
+#include <vector>
+
+class ListModel;
+
+/// What a row or column number raises that the list does not have.
+inline constexpr int IndexOutOfBounds = 35600;
+
+/// A report-style list with multiple selection: columns with a heading and a width, rows
+/// by index from 0. Column 0 is the item text, sub-item n is column n.
+///
+/// Filling is meant to be done with setRows(): one reset, whatever the number of rows.
+/// The selection is kept as ranges; nothing here walks the rows on a click.
+class ListView final : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit ListView(QWidget *parent = nullptr);
+
+    // Columns.
+    /// In place of all columns; the rows go too.
+    void setColumns(const QStringList &headings);
+    int addColumn(const QString &heading, int width = 100);
+    [[nodiscard]] int columnCount() const;
+    [[nodiscard]] QString heading(int column) const;
+    void setHeading(int column, const QString &heading);
+    /// Picture of ImageListHeaders beside the heading; 0 takes it away.
+    void setHeadingPicture(int column, int picture);
+    [[nodiscard]] int headingPicture(int column) const;
+    /// 0 hides the column.
+    void setColumnWidth(int column, int width);
+    [[nodiscard]] int columnWidth(int column) const;
+    /// Hides column 0 and gives every other the same share of the list's width. A list
+    /// that is not on the screen yet does so once more when it gets its size.
+    void spreadColumns();
+
+    // Rows.
+    /// In place of all rows.
+    void setRows(ListRows rows);
+    [[nodiscard]] const ListRows &rows() const;
+    [[nodiscard]] int rowCount() const;
+    void clearRows();
+    /// Appends a row and gives its index.
+    int addRow(const QString &itemText, const QStringList &subItems = {});
+    void removeRow(int row);
+    /// Any order, each row once.
+    void removeRows(std::vector<int> rows);
+    [[nodiscard]] QString text(int row, int column) const;
+    void setText(int row, int column, const QString &text);
+    [[nodiscard]] QString itemText(int row) const { return text(row, 0); }
+    [[nodiscard]] QString subItem(int row, int index) const { return text(row, index); }
+    [[nodiscard]] int picture(int row, int column) const;
+    void setPicture(int row, int column, int picture);
+    /// The same picture for the cells of all rows, at once.
+    void setColumnPicture(int column, int picture);
+    [[nodiscard]] QString tag(int row) const;
+    void setTag(int row, const QString &tag);
+
+    // Selection.
+    [[nodiscard]] bool isRowSelected(int row) const;
+    void setRowSelected(int row, bool selected = true);
+    /// O(ranges).
+    [[nodiscard]] int selectedCount() const;
+    /// Ascending.
+    [[nodiscard]] std::vector<int> selectedRows() const;
+    void selectAll() override;
+    /// -1 when no row is current. Filling leaves none current: no command acts on a row
+    /// that nobody chose.
+    [[nodiscard]] int currentRow() const;
+    /// Makes a row current and leaves the selection as it is; -1 for none.
+    void setCurrentRow(int row);
+    /// Makes a row current and the only selected one, in view.
+    void chooseRow(int row);
+    void ensureVisible(int row);
+
+    // Order.
+    /// Sorts by a column as text (ListRows::sortedOrder). Rows added later go to the end.
+    void sortByText(int column, Qt::SortOrder order);
+    /// Row i becomes what row order[i] was; selection and current row go with their rows.
+    void reorder(std::span<const int> order);
+    /// Kept for whoever sorts; only told here, nothing is sorted by it.
+    [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
+    void setSortOrder(Qt::SortOrder order) { m_sortOrder = order; }
+
+    void setGridLines(bool shown);
+    [[nodiscard]] bool gridLines() const { return m_gridLines; }
+
+    /// The column under a point of the viewport, or 0 where there is no row.
+    [[nodiscard]] int columnUnder(QPoint point) const;
+    /// The row under a point of the viewport, or -1.
+    [[nodiscard]] int rowUnder(QPoint point) const;
+
+    void keyboardSearch(const QString &) override {}
+
+Q_SIGNALS:
+    void columnClicked(int column);
+    void rowDoubleClicked(int row);
+    void enterPressed();
+    /// A character that was typed into the list.
+    void charTyped(const QString &character);
+    /// The column is columnUnder() the pointer.
+    void mousePressed(Qt::MouseButton button, int column);
+    void mouseReleased(Qt::MouseButton button, QPoint globalPosition);
+    /// The right button went up, or the key for menus was pressed.
+    void contextMenuAsked(QPoint globalPosition);
+    /// Selection or rows changed.
+    void selectedChanged();
+    void focusReceived();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                 const QModelIndex &index) const override;
+    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+
+private:
+    void requireRow(int row) const;
+    void requireColumn(int column) const;
+    void applySpread();
+
+    ListModel *m_model;
+    bool m_gridLines = false;
+    bool m_spreadPending = false;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+};
