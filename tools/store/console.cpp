@@ -54,12 +54,16 @@ int create(const QStringList &arguments, Console &console)
 }
 
 /// Whether the statement was accepted.
-bool answer(const QString &statement, jet::Connection &connection, std::ostream &out)
+bool answer(const QString &statement, jet::Connection &connection, Console &console)
 {
+    std::ostream &out = console.out;
     bool accepted = true;
     try {
         jet::Recordset rows;
         rows.open(statement, connection);
+        // Whoever asks no further for now must find the store written and free.
+        if (console.in.rdbuf()->in_avail() <= 0)
+            jet::flushPendingWrites();
         if (rows.state() == jet::StateOpen)
             jsonlines::writeRows(out, rows);
         else
@@ -85,11 +89,8 @@ int sql(const QStringList &arguments, Console &console)
     int status = ExitDone;
     for (std::string line; std::getline(console.in, line);) {
         const QString statement = QString::fromStdString(line).trimmed();
-        if (!statement.isEmpty() && !answer(statement, connection, console.out))
+        if (!statement.isEmpty() && !answer(statement, connection, console))
             status = ExitRefused;
-        // Whoever asks no further must find the store written and free.
-        if (console.in.rdbuf()->in_avail() <= 0)
-            jet::flushPendingWrites();
     }
     try {
         connection.close();
