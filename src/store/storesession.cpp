@@ -1,5 +1,7 @@
 #include "store/storesession.h"
 
+#include "base/error.h"
+
 StoreSession::StoreSession(const QString &connectionString)
 {
     m_connection.open(connectionString, QString(), QString(), -1);
@@ -14,6 +16,14 @@ void StoreSession::execute(QString sql)
 {
     m_command.commandText = std::move(sql);
     m_command.execute();
+}
+
+void StoreSession::executeSkippingErrors(QString sql)
+{
+    try {
+        execute(std::move(sql));
+    } catch (const Error &) {
+    }
 }
 
 bool StoreSession::exists(const QString &sql)

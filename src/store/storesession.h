@@ -14,6 +14,8 @@ public:
     explicit StoreSession(const QString &connectionString);
 
     void execute(QString sql);
+    /// For steps whose failure is not to be seen.
+    void executeSkippingErrors(QString sql);
     /// Whether the statement gives any row.
     [[nodiscard]] bool exists(const QString &sql);
     /// The first field of the first row; Null when there is no row.

@@ -1,0 +1,121 @@
+#include "store/clsUsers.h"
+
+#include "store/userstatements.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto alreadyExists = "Cannot Add/Edit User. User already exists in the Database"_L1;
+
+QList<QString> valuesOf(const UserRecord &user)
+{
+    QList<QString> values;
+    values.reserve(qsizetype(userColumns().size()));
+    for (const UserColumn &column : userColumns()) {
+        if (const auto *text = std::get_if<QString UserRecord::*>(&column.member))
+            values.append(user.*(*text));
+        else
+            values.append(QString::number(user.*std::get<int UserRecord::*>(column.member)));
+    }
+    return values;
+}
+
+} // namespace
+
+void clsUsers::getStructure(const QString &connectionString, jet::Recordset &result)
+{
+    read(connectionString, result, u"SELECT TOP 1 * FROM Tbl_Users"_s);
+}
+
+void clsUsers::getAll(const QString &connectionString, jet::Recordset &result)
+{
+    read(
+        connectionString, result,
+        u"SELECT UserID, LastName, FirstName, UserName, [ServerName] from Tbl_Users ORDER by LastName ASC"_s);
+}
+
+void clsUsers::getByUserNameAndServer(const QString &connectionString, jet::Recordset &result,
+                                      const QString &name, const QString &server)
+{
+    read(connectionString, result,
+         "SELECT * FROM Tbl_Users WHERE [UserName]='"_L1 + name + "' AND [ServerName]='"_L1 + server +
+             "'"_L1);
+}
+
+void clsUsers::getUserByID(const QString &connectionString, int id, jet::Recordset &result)
+{
+    read(connectionString, result, "SELECT * FROM Tbl_Users WHERE [UserID] ="_L1 + QString::number(id));
+}
+
+void clsUsers::Find(const QString &connectionString, jet::Recordset &result, const QString &lastName,
+                    const QString &userName)
+{
+    read(
+        connectionString, result,
+        "SELECT UserID, LastName, FirstName, UserName, ServerName from Tbl_Users WHERE (LastName LIKE '%"_L1 +
+            lastName + "%' OR LastName is Null) AND (UserName LIKE '%"_L1 + userName +
+            "%' OR UserName is Null) ORDER by LastName ASC"_L1);
+}
+
+void clsUsers::getAllLoginNames(const QString &connectionString, jet::Recordset &result)
+{
+    read(
+        connectionString, result,
+        u"SELECT UserID, [ServerName] & '\\' &  [UserName] as UserName from Tbl_Users ORDER by UserName ASC"_s);
+}
+
+void clsUsers::Add(const QString &connectionString, UserRecord &user)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        if (user.UserID == 0)
+            user.UserID = nextUserId(store);
+        if (store.exists("SELECT * FROM Tbl_Users WHERE [UserName] ='"_L1 + user.UserName +
+                         "' AND [ServerName]='"_L1 + user.ServerName + "'"_L1))
+            raise(RuleViolation, alreadyExists);
+        store.execute(insertUser(userColumns(), valuesOf(user)));
+    });
+}
+
+void clsUsers::update(const QString &connectionString, const UserRecord &user)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        const QString id = QString::number(user.UserID);
+        if (store.exists("SELECT * FROm Tbl_Users WHERE [UserName]='"_L1 + user.UserName +
+                         "' AND [ServerName]  = '"_L1 + user.ServerName + "' AND  [UserID] <> "_L1 + id))
+            raise(RuleViolation, alreadyExists);
+        const QList<QString> values = valuesOf(user);
+        store.execute(updateUser(userColumns().subspan(1), std::span(values).subspan(1)) +
+                      " WHERE [UserID]="_L1 + id);
+    });
+}
+
+void clsUsers::Delete(const QString &connectionString, std::span<const int> ids)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        for (const int id : ids)
+            store.execute("DELETE * FROM Tbl_Users WHERE UserID ="_L1 + QString::number(id));
+    });
+}
+
+void clsUsers::RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        for (const int id : ids)
+            store.execute("DELETE * FROM Tbl_UserFolderPermission WHERE UserID ="_L1 + QString::number(id));
+    });
+}
+
+void clsUsers::TestConnection(const QString &connectionString)
+{
+    withStore(connectionString, [](StoreSession &) {});
+}
+
+void clsUsers::Import(const QString &connectionString)
+{
+    withStore(connectionString, [](StoreSession &store) {
+        store.executeSkippingErrors(u"DROP TABLE Tbl_Users"_s);
+        store.execute(
+            u"SELECT Tbl_Remote_Users.* INTO Tbl_Users FROM Tbl_Remote_Users WHERE UserName <>''"_s);
+    });
+}

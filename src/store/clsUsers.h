@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/jet/recordset.h"
+#include "store/recordclass.h"
+#include "store/userrecord.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <span>
+
+/// Told after each record of a batch how many are done; false ends the batch there.
+using BatchProgress = std::function<bool(int done)>;
+
+/// All that reads and writes Tbl_Users and the user's side of the relationship tables.
+/// A user is known by UserID in the store and by name and server everywhere else; only
+/// the latter survives a new import.
+///
+/// The readers open the caller's recordset; its rows need no store any more. Every method
+/// raises the store's error, except the two batch writers.
+class clsUsers final : public RecordClass
+{
+public:
+    /// Writes the records, whose fields are named as the columns, by name and server: a new
+    /// account is inserted, a known one is updated (its contact columns stay as they are) or,
+    /// with leaveExisting, passed over without being counted. A UserID of 0 asks for the next
+    /// free one. Never stops and never raises for a record: what fails is counted and gets a
+    /// line of the error text. Counters and text are added to.
+    void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting, int &newCount,
+                  int &updatedCount, int &errorCount, QString &errorText, const BatchProgress &progress = {});
+    /// The same for records that hold the fields of a line of an import file. Nothing is escaped.
+    void AddBatchFromFile(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
+                          int &newCount, int &updatedCount, int &errorCount, QString &errorText,
+                          const BatchProgress &progress = {});
+    /// Gives the user the permissions of the records, fields Name (path of a folder) and
+    /// Permission. A folder not known yet is added; one that cannot be is named, with a comma,
+    /// in the failed text. Raises RuleViolation for a user who is not in the store.
+    void addFoldersBatch(const QString &connectionString, const QString &userName, jet::Recordset &records,
+                         QString &failed);
+    void Delete(const QString &connectionString, std::span<const int> ids);
+    void RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids);
+    /// The fields of the result are the template of recordsets made in memory.
+    void getStructure(const QString &connectionString, jet::Recordset &result);
+    void getAll(const QString &connectionString, jet::Recordset &result);
+    void getByUserNameAndServer(const QString &connectionString, jet::Recordset &result, const QString &name,
+                                const QString &server);
+    /// A UserID of 0 is replaced by the next free one; another is used without a test. Raises
+    /// RuleViolation when name and server are taken. Nothing is escaped.
+    void Add(const QString &connectionString, UserRecord &user);
+    /// Opens the store and closes it.
+    void TestConnection(const QString &connectionString);
+    /// Rewrites all columns but UserID, which names the row. Raises RuleViolation when another
+    /// user has the name and server. Nothing is escaped.
+    void update(const QString &connectionString, const UserRecord &user);
+    void getUserByID(const QString &connectionString, int id, jet::Recordset &result);
+    void Find(const QString &connectionString, jet::Recordset &result, const QString &lastName,
+              const QString &userName);
+    void getAllLoginNames(const QString &connectionString, jet::Recordset &result);
+    /// One permission a folder, in the same order. A permission the user has on a folder is
+    /// overwritten; clearFirst takes all others away.
+    void addFolders(const QString &connectionString, int id, std::span<const int> folders,
+                    const QStringList &permissions, bool clearFirst);
+    /// The given rooms become the user's only ones.
+    void addRooms(const QString &connectionString, int id, std::span<const int> rooms);
+    void getByHardwareType(const QString &connectionString, jet::Recordset &result, int hardwareType);
+    void getGlobalGroupMembers(const QString &connectionString, jet::Recordset &result, int group);
+    void getGlobalGroups(const QString &connectionString, jet::Recordset &result, int id);
+    /// The given groups become the user's only ones.
+    void addGlobalGroups(const QString &connectionString, int id, std::span<const int> groups);
+    /// The local groups that reach the user through a global group.
+    void getLocalGroups(const QString &connectionString, jet::Recordset &result, int id);
+    void getNotGlobalGroupMembers(const QString &connectionString, jet::Recordset &result, int group);
+    void getNotLocalGroupMembers(const QString &connectionString, jet::Recordset &result, int group);
+    void getLocalGroupMembers(const QString &connectionString, jet::Recordset &result, int group);
+    /// The user's folders, direct ("N/A" as the group) and through local groups.
+    void getAllFolders(const QString &connectionString, jet::Recordset &result, int id);
+    void getSW(const QString &connectionString, jet::Recordset &result, int id);
+    void getNotGlobalGroups(const QString &connectionString, jet::Recordset &result, int id);
+    void getRooms(const QString &connectionString, jet::Recordset &result, int id);
+    void getNotRooms(const QString &connectionString, jet::Recordset &result, int id);
+    void getNotHW(const QString &connectionString, jet::Recordset &result, int id);
+    void getHW(const QString &connectionString, jet::Recordset &result, int id);
+    /// The given items become the user's only ones and are taken from any other user.
+    void addHW(const QString &connectionString, int id, std::span<const int> items);
+    /// Replaces Tbl_Users by the named rows of Tbl_Remote_Users.
+    void Import(const QString &connectionString);
+};

@@ -1,0 +1,174 @@
+#include "store/clsUsers.h"
+
+#include "platform/jet/errors.h"
+#include "store/userstatements.h"
+
+#include <optional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What differs between the two batch writers.
+struct BatchKind
+{
+    std::span<const UserColumn> inserted;
+    std::span<const UserColumn> updated; // begins with the inserted ones
+    Escaping escaping;
+};
+
+struct BatchOutcome
+{
+    int &newCount;
+    int &updatedCount;
+    int &errorCount;
+    QString &errorText;
+
+    void fail(const QString &account, const QString &message)
+    {
+        ++errorCount;
+        errorText += account + message + "\r\n"_L1;
+    }
+};
+
+/// Membership rows of local groups are not among them: they keep the old id.
+void moveUserRelationships(StoreSession &store, qint64 oldId, const QString &newId)
+{
+    constexpr QLatin1StringView tables[] = {"Tbl_GlobalGroupsUsers"_L1, "Tbl_RoomUsers"_L1, "Tbl_UserHW"_L1,
+                                            "Tbl_UserFolderPermission"_L1};
+    for (const QLatin1StringView table : tables)
+        store.executeSkippingErrors("UPDATE "_L1 + table + " SET [UserID] = "_L1 + newId +
+                                    " WHERE [UserID]="_L1 + QString::number(oldId));
+}
+
+/// Writes one record after the other over one session. The places of the fields in the
+/// records are looked up once.
+class UserBatch final
+{
+public:
+    UserBatch(jet::Recordset &records, const BatchKind &kind, bool leaveExisting, BatchOutcome outcome)
+        : m_records(records)
+        , m_kind(kind)
+        , m_leaveExisting(leaveExisting)
+        , m_outcome(outcome)
+        , m_values(kind.updated.size())
+    {
+        for (std::size_t i = 0; i < kind.updated.size(); ++i) {
+            const QString name = kind.updated[i].name;
+            m_fields.push_back(records.fields().indexOf(name));
+            if (m_fields.back() < 0)
+                raise(jet::ItemNotFound, "The records of the batch have no field '"_L1 + name + "'."_L1);
+            if (name == "UserName"_L1)
+                m_name = i;
+            else if (name == "ServerName"_L1)
+                m_server = i;
+        }
+    }
+
+    void takeRecord()
+    {
+        for (std::size_t i = 0; i < m_fields.size(); ++i)
+            m_values[i] = m_records.value(m_fields[i]).toText();
+    }
+
+    void refuseRecord(const Error &error) { m_outcome.fail(account(), u' ' + error.description()); }
+
+    void writeRecord(StoreSession &store)
+    {
+        if (m_values.front().toInt() == 0)
+            m_values.front() = QString::number(nextUserId(store));
+
+        jet::Recordset found;
+        store.open("SELECT * FROM Tbl_Users WHERE [UserName]='"_L1 + m_values[m_name] +
+                       "' AND ServerName = '"_L1 + m_values[m_server] + "'"_L1,
+                   found);
+        if (found.eof())
+            insert(store);
+        else if (!m_leaveExisting)
+            update(store, found.value(u"UserID").toInteger());
+    }
+
+private:
+    [[nodiscard]] QString account() const { return m_values[m_server] + u'\\' + m_values[m_name]; }
+
+    void insert(StoreSession &store)
+    {
+        QString &id = m_values.front();
+        if (store.exists("SELECT UserID FROM Tbl_Users WHERE UserID = "_L1 + id)) {
+            id = store.scalar(u"Select MAX(UserID) + 1 AS ID FROM Tbl_Users"_s).toText();
+            m_outcome.fail(account(), u" a new UserID has been generated. This User may cause Problems when "
+                                      "Re-Importing Account Settings from Live System."_s);
+        }
+        store.execute(insertUser(m_kind.inserted, m_values, m_kind.escaping));
+        ++m_outcome.newCount;
+    }
+
+    void update(StoreSession &store, qint64 oldId)
+    {
+        store.execute(updateUser(m_kind.updated, m_values, m_kind.escaping) + " WHERE [UserName]='"_L1 +
+                      m_values[m_name] + "' AND [ServerName]='"_L1 + m_values[m_server] + "'"_L1);
+        ++m_outcome.updatedCount;
+        moveUserRelationships(store, oldId, m_values.front());
+    }
+
+    jet::Recordset &m_records;
+    BatchKind m_kind;
+    bool m_leaveExisting;
+    BatchOutcome m_outcome;
+    std::vector<int> m_fields;
+    std::vector<QString> m_values;
+    std::size_t m_name = 0;
+    std::size_t m_server = 0;
+};
+
+/// A store that does not open fails every record: the batch still runs to its end.
+void runBatch(const QString &connectionString, jet::Recordset &records, const BatchKind &kind,
+              bool leaveExisting, BatchOutcome outcome, const BatchProgress &progress)
+{
+    UserBatch batch(records, kind, leaveExisting, outcome);
+    std::optional<StoreSession> store;
+    std::optional<Error> refused;
+    try {
+        store.emplace(connectionString);
+    } catch (const Error &error) {
+        refused = error;
+    }
+
+    const int count = records.recordCount();
+    if (count > 0)
+        records.moveFirst();
+    for (int done = 1; done <= count; ++done) {
+        batch.takeRecord();
+        try {
+            if (refused)
+                throw *refused;
+            batch.writeRecord(*store);
+        } catch (const Error &error) {
+            batch.refuseRecord(error);
+        }
+        if (progress && !progress(done))
+            break;
+        records.moveNext();
+    }
+    if (!outcome.errorText.isEmpty())
+        outcome.errorText.prepend("Following User(s) generated Errors and could not be Imported:\r\n\r\n"_L1);
+}
+
+} // namespace
+
+void clsUsers::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
+                        int &newCount, int &updatedCount, int &errorCount, QString &errorText,
+                        const BatchProgress &progress)
+{
+    runBatch(connectionString, records, {liveColumns(), liveUpdateColumns(), Escaping::Batch}, leaveExisting,
+             {newCount, updatedCount, errorCount, errorText}, progress);
+}
+
+void clsUsers::AddBatchFromFile(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
+                                int &newCount, int &updatedCount, int &errorCount, QString &errorText,
+                                const BatchProgress &progress)
+{
+    runBatch(connectionString, records, {fileColumns(), fileColumns(), Escaping::None}, leaveExisting,
+             {newCount, updatedCount, errorCount, errorText}, progress);
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "store/userrecord.h"
+
+#include <QLatin1StringView>
+
+#include <span>
+#include <variant>
+
+class StoreSession;
+
+/// A column of Tbl_Users as the statements write it: its member tells whether its value
+/// goes in bare (a number) or between quotes (a text).
+struct UserColumn
+{
+    QLatin1StringView name;
+    std::variant<int UserRecord::*, QString UserRecord::*> member;
+    bool escapedInBatch = false;
+
+    [[nodiscard]] constexpr bool isText() const { return member.index() == 1; }
+};
+
+/// All columns in the order of the table.
+[[nodiscard]] std::span<const UserColumn> userColumns();
+/// What an import from the live system inserts: UserID to ServerName.
+[[nodiscard]] std::span<const UserColumn> liveColumns();
+/// What it updates: UserID to SID.
+[[nodiscard]] std::span<const UserColumn> liveUpdateColumns();
+/// What a line of an import file holds, in its order.
+[[nodiscard]] std::span<const UserColumn> fileColumns();
+
+enum class Escaping { None, Batch };
+
+/// The texts of the two statements that write a row; one value a column. The update ends
+/// before its WHERE.
+[[nodiscard]] QString insertUser(std::span<const UserColumn> columns, std::span<const QString> values,
+                                 Escaping escaping = Escaping::None);
+[[nodiscard]] QString updateUser(std::span<const UserColumn> columns, std::span<const QString> values,
+                                 Escaping escaping = Escaping::None);
+
+/// One above the highest UserID, 1 in an empty store. Raises jet::TypeMismatch when the
+/// numbers have run out.
+[[nodiscard]] int nextUserId(StoreSession &store);
