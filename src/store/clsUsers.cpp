@@ -8,19 +8,6 @@ namespace {
 
 constexpr auto alreadyExists = "Cannot Add/Edit User. User already exists in the Database"_L1;
 
-QList<QString> valuesOf(const UserRecord &user)
-{
-    QList<QString> values;
-    values.reserve(qsizetype(userColumns().size()));
-    for (const UserColumn &column : userColumns()) {
-        if (const auto *text = std::get_if<QString UserRecord::*>(&column.member))
-            values.append(user.*(*text));
-        else
-            values.append(QString::number(user.*std::get<int UserRecord::*>(column.member)));
-    }
-    return values;
-}
-
 } // namespace
 
 void clsUsers::getStructure(const QString &connectionString, jet::Recordset &result)
@@ -73,7 +60,7 @@ void clsUsers::Add(const QString &connectionString, UserRecord &user)
         if (store.exists("SELECT * FROM Tbl_Users WHERE [UserName] ='"_L1 + user.UserName +
                          "' AND [ServerName]='"_L1 + user.ServerName + "'"_L1))
             raise(RuleViolation, alreadyExists);
-        store.execute(insertUser(userColumns(), valuesOf(user)));
+        store.execute(insertUser(userColumns(), userValues(user)));
     });
 }
 
@@ -84,7 +71,7 @@ void clsUsers::update(const QString &connectionString, const UserRecord &user)
         if (store.exists("SELECT * FROm Tbl_Users WHERE [UserName]='"_L1 + user.UserName +
                          "' AND [ServerName]  = '"_L1 + user.ServerName + "' AND  [UserID] <> "_L1 + id))
             raise(RuleViolation, alreadyExists);
-        const QList<QString> values = valuesOf(user);
+        const QList<QString> values = userValues(user);
         store.execute(updateUser(userColumns().subspan(1), std::span(values).subspan(1)) +
                       " WHERE [UserID]="_L1 + id);
     });

@@ -162,6 +162,19 @@ QString updateUser(std::span<const UserColumn> columns, std::span<const QString>
     return sql;
 }
 
+QList<QString> userValues(const UserRecord &user)
+{
+    QList<QString> values;
+    values.reserve(qsizetype(userColumns().size()));
+    for (const UserColumn &column : userColumns()) {
+        if (const auto *text = std::get_if<QString UserRecord::*>(&column.member))
+            values.append(user.*(*text));
+        else
+            values.append(QString::number(user.*std::get<int UserRecord::*>(column.member)));
+    }
+    return values;
+}
+
 int nextUserId(StoreSession &store)
 {
     const Value highest = store.scalar(u"Select MAX (UserID) as ID From Tbl_Users"_s);

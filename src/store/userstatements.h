@@ -3,6 +3,7 @@
 #include "store/userrecord.h"
 
 #include <QLatin1StringView>
+#include <QList>
 
 #include <span>
 #include <variant>
@@ -37,6 +38,9 @@ enum class Escaping { None, Batch };
                                  Escaping escaping = Escaping::None);
 [[nodiscard]] QString updateUser(std::span<const UserColumn> columns, std::span<const QString> values,
                                  Escaping escaping = Escaping::None);
+
+/// The values of all columns, in their order.
+[[nodiscard]] QList<QString> userValues(const UserRecord &user);
 
 /// One above the highest UserID, 1 in an empty store. Raises jet::TypeMismatch when the
 /// numbers have run out.

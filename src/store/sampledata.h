@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+
+/// Makes a new store with a company of so many users to try the program on. The same
+/// number gives the same company, and a larger one begins with the users of a smaller one.
+/// Raises what createStore() raises.
+void createSampleStore(const QString &path, int users);
