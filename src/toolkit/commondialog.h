@@ -20,7 +20,7 @@ public:
     /// The name offered before, the name chosen after.
     QString fileName;
 
-    /// An existing file.
+    /// An existing file. A cancelled dialog raises CancelError and leaves fileName as it was.
     void showOpen(QWidget *parent);
     /// Any file; the caller asks about one that exists already.
     void showSave(QWidget *parent);

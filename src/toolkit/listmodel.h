@@ -32,6 +32,8 @@ public:
 
     int appendRow(const QString &itemText, const QStringList &subItems);
     void removeRow(int row);
+    /// Row i becomes what row rows[i] was, the others go: a reset.
+    void takeRows(std::span<const int> rows);
     void setText(int row, int column, const QString &text);
     void setPicture(int row, int column, int picture);
     void setColumnPicture(int column, int picture);

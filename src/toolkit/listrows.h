@@ -39,8 +39,8 @@ public:
     [[nodiscard]] QString tag(int row) const;
     void setTag(int row, QStringView tag);
 
-    /// Row i becomes what row order[i] was. `order` is a permutation of the rows.
-    void reorder(std::span<const int> order);
+    /// Row i becomes what row rows[i] was; rows that are not named go.
+    void take(std::span<const int> rows);
     /// The permutation that sorts by the text of a column: without regard to case, by
     /// code point, rows that compare equal in the order they are in.
     [[nodiscard]] std::vector<int> sortedOrder(int column, Qt::SortOrder order) const;

@@ -51,8 +51,8 @@ public:
     /// Appends a row and gives its index.
     int addRow(const QString &itemText, const QStringList &subItems = {});
     void removeRow(int row);
-    /// Any order, each row once.
-    void removeRows(std::vector<int> rows);
+    /// Any order. One reset, so nothing is selected or current afterwards.
+    void removeRows(std::span<const int> rows);
     [[nodiscard]] QString text(int row, int column) const;
     void setText(int row, int column, const QString &text);
     [[nodiscard]] QString itemText(int row) const { return text(row, 0); }
@@ -133,6 +133,8 @@ private:
     void requireRow(int row) const;
     void requireColumn(int column) const;
     void applySpread();
+    [[nodiscard]] QModelIndex visibleIndex(int row) const;
+    [[nodiscard]] QPoint menuPlace() const;
 
     ListModel *m_model;
     bool m_gridLines = false;

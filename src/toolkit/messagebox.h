@@ -35,7 +35,7 @@ inline constexpr int ResultNo = 7;
 
 /// Asks or tells, titled with the program's title, and waits for the answer. The flags
 /// are the sum of one button set and one icon. The text is shown as it stands, never as
-/// markup. Closing the box without an answer is Cancel, No or OK, the first that is offered.
+/// markup. Closing the box without an answer is the last of its buttons: OK, Cancel or No.
 int messageBox(const QString &text, int flags);
 
 using MessageBoxHandler = std::function<int(const QString &text, int flags)>;

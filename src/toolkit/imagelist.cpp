@@ -1,0 +1,34 @@
+#include "toolkit/imagelist.h"
+
+using namespace Qt::StringLiterals;
+
+ImageList::ImageList(const QString &folder, int count, int size) : m_size(size)
+{
+    m_icons.reserve(std::size_t(count));
+    for (int number = 1; number <= count; ++number)
+        m_icons.emplace_back(":/pictures/"_L1 % folder % "/"_L1 % QString::number(number) % ".svg"_L1);
+}
+
+const QIcon &ImageList::icon(int number) const
+{
+    static const QIcon none;
+    return number >= 1 && number <= count() ? m_icons[std::size_t(number) - 1] : none;
+}
+
+QPixmap ImageList::pixmap(int number, qreal devicePixelRatio) const
+{
+    return icon(number).pixmap(imageSize(), devicePixelRatio);
+}
+
+ImageLists &imageLists()
+{
+    // Never destroyed: the pictures' engine may be gone before the last static object is.
+    static ImageLists &lists = *new ImageLists{
+        .ImageListDataContext{u"datacontext"_s, 2, 16},
+        .ImageListContext{u"context"_s, 12, 32},
+        .ImageListHeaders{u"headers"_s, 2, 12},
+        .ImageListList{u"list"_s, 14, 16},
+        .ImageListToolbar{u"toolbar"_s, 18, 24},
+    };
+    return lists;
+}

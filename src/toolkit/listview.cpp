@@ -1,0 +1,391 @@
+#include "toolkit/listview.h"
+
+#include "base/error.h"
+#include "toolkit/imagelist.h"
+#include "toolkit/listmodel.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int defaultColumnWidth = 100;
+constexpr int smallestColumnWidth = 24;
+
+/// Rows are of one height whether or not their cells have a picture.
+class RowDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QSize size = QStyledItemDelegate::sizeHint(option, index);
+        size.setHeight(qMax(option.decorationSize.height(), option.fontMetrics.height()) + 4);
+        return size;
+    }
+};
+
+QColor gridColor(const QPalette &palette)
+{
+    QColor line = palette.color(QPalette::Text);
+    line.setAlphaF(0.16F);
+    return line;
+}
+
+} // namespace
+
+ListView::ListView(QWidget *parent) : QTreeView(parent), m_model(new ListModel(this))
+{
+    m_model->setImages(&imageLists().ImageListList, &imageLists().ImageListHeaders);
+    setModel(m_model);
+    setItemDelegate(new RowDelegate(this));
+    setIconSize(imageLists().ImageListList.imageSize());
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(NoEditTriggers);
+    setTextElideMode(Qt::ElideRight);
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollMode(ScrollPerPixel);
+
+    header()->setSectionsClickable(true);
+    header()->setSectionsMovable(false);
+    header()->setStretchLastSection(false);
+    header()->setMinimumSectionSize(smallestColumnWidth);
+    header()->setDefaultSectionSize(defaultColumnWidth);
+    header()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    connect(header(), &QHeaderView::sectionClicked, this, &ListView::columnClicked);
+
+    // A reset empties the selection without telling.
+    connect(m_model, &QAbstractItemModel::modelReset, this, &ListView::selectedChanged);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &ListView::selectedChanged);
+}
+
+void ListView::requireRow(int row) const
+{
+    if (row < 0 || row >= rowCount())
+        raise(IndexOutOfBounds, u"Index out of bounds: the list has no row "_s % QString::number(row));
+}
+
+void ListView::requireColumn(int column) const
+{
+    if (column < 0 || column >= columnCount())
+        raise(IndexOutOfBounds, u"Index out of bounds: the list has no column "_s % QString::number(column));
+}
+
+void ListView::setColumns(const QStringList &headings)
+{
+    m_spreadPending = false;
+    m_model->setColumns(headings);
+    for (int column = 0; column < columnCount(); ++column)
+        setColumnWidth(column, defaultColumnWidth);
+}
+
+int ListView::addColumn(const QString &heading, int width)
+{
+    m_model->addColumn(heading);
+    setColumnWidth(columnCount() - 1, width);
+    return columnCount() - 1;
+}
+
+int ListView::columnCount() const
+{
+    return m_model->columnCount();
+}
+
+QString ListView::heading(int column) const
+{
+    requireColumn(column);
+    return m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+}
+
+void ListView::setHeading(int column, const QString &heading)
+{
+    requireColumn(column);
+    m_model->setHeading(column, heading);
+}
+
+void ListView::setHeadingPicture(int column, int picture)
+{
+    requireColumn(column);
+    m_model->setHeadingPicture(column, picture);
+}
+
+int ListView::headingPicture(int column) const
+{
+    requireColumn(column);
+    return m_model->headingPicture(column);
+}
+
+void ListView::setColumnWidth(int column, int width)
+{
+    requireColumn(column);
+    setColumnHidden(column, width <= 0);
+    if (width > 0)
+        header()->resizeSection(column, width);
+}
+
+int ListView::columnWidth(int column) const
+{
+    requireColumn(column);
+    return header()->sectionSize(column);
+}
+
+void ListView::spreadColumns()
+{
+    m_spreadPending = !isVisible();
+    applySpread();
+}
+
+void ListView::applySpread()
+{
+    if (columnCount() == 0)
+        return;
+    setColumnWidth(0, 0);
+    if (columnCount() == 1)
+        return;
+    int room = width() - 2 * frameWidth();
+    if (rowCount() > 0) {
+        const int height = this->height() - 2 * frameWidth() - header()->sizeHint().height();
+        const int rowHeight = qMax(1, indexRowSizeHint(m_model->index(0, 1)));
+        if (rowCount() > height / rowHeight)
+            room -= verticalScrollBar()->sizeHint().width();
+    }
+    const int share = qMax(smallestColumnWidth, room / (columnCount() - 1));
+    for (int column = 1; column < columnCount(); ++column)
+        setColumnWidth(column, share);
+}
+
+void ListView::setRows(ListRows rows)
+{
+    m_model->setRows(std::move(rows));
+}
+
+const ListRows &ListView::rows() const
+{
+    return m_model->rows();
+}
+
+int ListView::rowCount() const
+{
+    return m_model->rowCount();
+}
+
+void ListView::clearRows()
+{
+    setRows(ListRows(columnCount()));
+}
+
+int ListView::addRow(const QString &itemText, const QStringList &subItems)
+{
+    return m_model->appendRow(itemText, subItems);
+}
+
+void ListView::removeRow(int row)
+{
+    requireRow(row);
+    m_model->removeRow(row);
+}
+
+void ListView::removeRows(std::span<const int> rows)
+{
+    std::vector<bool> goes(std::size_t(rowCount()), false);
+    for (const int row : rows) {
+        requireRow(row);
+        goes[std::size_t(row)] = true;
+    }
+    std::vector<int> left;
+    for (int row = 0; row < rowCount(); ++row)
+        if (!goes[std::size_t(row)])
+            left.push_back(row);
+    const int scrolled = verticalScrollBar()->value();
+    m_model->takeRows(left);
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(scrolled);
+}
+
+QString ListView::text(int row, int column) const
+{
+    requireRow(row);
+    requireColumn(column);
+    return m_model->rows().text(row, column);
+}
+
+void ListView::setText(int row, int column, const QString &text)
+{
+    requireRow(row);
+    requireColumn(column);
+    m_model->setText(row, column, text);
+}
+
+int ListView::picture(int row, int column) const
+{
+    requireRow(row);
+    requireColumn(column);
+    return m_model->rows().picture(row, column);
+}
+
+void ListView::setPicture(int row, int column, int picture)
+{
+    requireRow(row);
+    requireColumn(column);
+    m_model->setPicture(row, column, picture);
+}
+
+void ListView::setColumnPicture(int column, int picture)
+{
+    requireColumn(column);
+    m_model->setColumnPicture(column, picture);
+}
+
+QString ListView::tag(int row) const
+{
+    requireRow(row);
+    return m_model->rows().tag(row);
+}
+
+void ListView::setTag(int row, const QString &tag)
+{
+    requireRow(row);
+    m_model->setTag(row, tag);
+}
+
+bool ListView::isRowSelected(int row) const
+{
+    requireRow(row);
+    return selectionModel()->isSelected(m_model->index(row, 0));
+}
+
+void ListView::setRowSelected(int row, bool selected)
+{
+    requireRow(row);
+    selectionModel()->select(m_model->index(row, 0),
+                             (selected ? QItemSelectionModel::Select : QItemSelectionModel::Deselect) |
+                                 QItemSelectionModel::Rows);
+}
+
+int ListView::selectedCount() const
+{
+    int count = 0;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        if (range.left() == 0)
+            count += range.height();
+    return count;
+}
+
+std::vector<int> ListView::selectedRows() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        if (range.left() == 0)
+            for (int row = range.top(); row <= range.bottom(); ++row)
+                rows.push_back(row);
+    std::ranges::sort(rows);
+    return rows;
+}
+
+void ListView::selectAll()
+{
+    if (rowCount() == 0 || columnCount() == 0)
+        return;
+    selectionModel()->select(
+        QItemSelection(m_model->index(0, 0), m_model->index(rowCount() - 1, columnCount() - 1)),
+        QItemSelectionModel::ClearAndSelect);
+}
+
+int ListView::currentRow() const
+{
+    return currentIndex().row();
+}
+
+QModelIndex ListView::visibleIndex(int row) const
+{
+    return m_model->index(row, columnCount() > 1 ? 1 : 0);
+}
+
+void ListView::setCurrentRow(int row)
+{
+    if (row != -1)
+        requireRow(row);
+    selectionModel()->setCurrentIndex(row == -1 ? QModelIndex() : visibleIndex(row),
+                                      QItemSelectionModel::NoUpdate);
+}
+
+void ListView::chooseRow(int row)
+{
+    requireRow(row);
+    selectionModel()->setCurrentIndex(visibleIndex(row),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    ensureVisible(row);
+}
+
+void ListView::ensureVisible(int row)
+{
+    requireRow(row);
+    const int scrolled = horizontalScrollBar()->value();
+    scrollTo(visibleIndex(row), EnsureVisible);
+    horizontalScrollBar()->setValue(scrolled);
+}
+
+void ListView::sortByText(int column, Qt::SortOrder order)
+{
+    requireColumn(column);
+    reorder(rows().sortedOrder(column, order));
+}
+
+void ListView::reorder(std::span<const int> order)
+{
+    m_model->reorder(order);
+}
+
+void ListView::setGridLines(bool shown)
+{
+    m_gridLines = shown;
+    viewport()->update();
+}
+
+int ListView::columnUnder(QPoint point) const
+{
+    const QModelIndex index = indexAt(point);
+    return index.isValid() ? index.column() : 0;
+}
+
+int ListView::rowUnder(QPoint point) const
+{
+    return indexAt(point).row();
+}
+
+void ListView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    if (!m_gridLines)
+        return;
+    const QRect row = option.rect;
+    painter->save();
+    painter->setPen(gridColor(palette()));
+    painter->drawLine(row.bottomLeft(), row.bottomRight());
+    for (int column = 0; column < columnCount(); ++column) {
+        if (isColumnHidden(column))
+            continue;
+        const int right = columnViewportPosition(column) + columnWidth(column) - 1;
+        painter->drawLine(right, row.top(), right, row.bottom());
+    }
+    painter->restore();
+}
+
+void ListView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QTreeView::selectionChanged(selected, deselected);
+    Q_EMIT selectedChanged();
+}

@@ -1,0 +1,122 @@
+#include "toolkit/listview.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QToolTip>
+
+namespace {
+
+bool isMenuKey(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier;
+}
+
+/// A character that is typed and no command. The blank stays the key that selects.
+bool isTyped(const QKeyEvent &event)
+{
+    constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return !(event.modifiers() & commands) && event.key() != Qt::Key_Space && !event.text().isEmpty() &&
+           event.text().front().isPrint();
+}
+
+} // namespace
+
+void ListView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Q_EMIT enterPressed();
+    else if (isMenuKey(*event))
+        Q_EMIT contextMenuAsked(menuPlace());
+    else if (isTyped(*event))
+        Q_EMIT charTyped(event->text());
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void ListView::mousePressEvent(QMouseEvent *event)
+{
+    const int column = columnUnder(event->position().toPoint());
+    QTreeView::mousePressEvent(event);
+    Q_EMIT mousePressed(event->button(), column);
+}
+
+void ListView::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTreeView::mouseReleaseEvent(event);
+    const QPoint place = event->globalPosition().toPoint();
+    const bool right = event->button() == Qt::RightButton;
+    Q_EMIT mouseReleased(event->button(), place);
+    if (right)
+        Q_EMIT contextMenuAsked(place);
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTreeView::mouseDoubleClickEvent(event);
+    const int row = rowUnder(event->position().toPoint());
+    if (row >= 0 && event->button() == Qt::LeftButton)
+        Q_EMIT rowDoubleClicked(row);
+}
+
+QPoint ListView::menuPlace() const
+{
+    const QRect cell = currentRow() >= 0 ? visualRect(currentIndex()) : QRect();
+    const QPoint place = cell.isValid() && viewport()->rect().intersects(cell) ? cell.bottomLeft() : QPoint();
+    return viewport()->mapToGlobal(place);
+}
+
+void ListView::contextMenuEvent(QContextMenuEvent *event)
+{
+    // The mouse asks when its button goes up again, with the selection it has made by then.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT contextMenuAsked(menuPlace());
+    event->accept();
+}
+
+void ListView::focusInEvent(QFocusEvent *event)
+{
+    // Not QTreeView's, which would make the first row current.
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+    Q_EMIT focusReceived();
+}
+
+void ListView::showEvent(QShowEvent *event)
+{
+    QTreeView::showEvent(event);
+    if (!m_spreadPending)
+        return;
+    // Once the sizes have settled that come with being shown.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_spreadPending && isVisible()) {
+                applySpread();
+                m_spreadPending = false;
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void ListView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    if (m_spreadPending)
+        applySpread();
+}
+
+bool ListView::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTreeView::viewportEvent(event);
+    const auto &help = static_cast<const QHelpEvent &>(*event);
+    const QModelIndex index = indexAt(help.pos());
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    if (index.isValid() && itemDelegate()->sizeHint(option, index).width() > columnWidth(index.column()))
+        QToolTip::showText(help.globalPos(), index.data().toString().toHtmlEscaped(), viewport(),
+                           visualRect(index));
+    else
+        QToolTip::hideText();
+    return true;
+}

@@ -1,0 +1,11 @@
+#include "toolkit/yield.h"
+
+#include "platform/jet/connection.h"
+
+#include <QCoreApplication>
+
+void yieldToEvents()
+{
+    jet::flushPendingWrites();
+    QCoreApplication::processEvents();
+}
