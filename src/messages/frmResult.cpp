@@ -1,0 +1,94 @@
+#include "messages/frmResult.h"
+
+#include "base/error.h"
+#include "base/text.h"
+#include "messages/guard.h"
+#include "session/identity.h"
+#include "toolkit/banner.h"
+#include "toolkit/messagebox.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QSaveFile>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int widthInCharacters = 90;
+constexpr int heightInLines = 26;
+
+} // namespace
+
+frmResult::frmResult(QWidget *owner)
+    : QMainWindow(owner, Qt::Window)
+    , picLogoContainer(new Banner)
+    , picContext(picLogoContainer->picContext)
+    , LblInfo(picLogoContainer->LblInfo)
+    , txtResult(new QPlainTextEdit)
+    , mnuFile(menuBar()->addMenu(u"&File"_s))
+    , mnuFileSave(mnuFile->addAction(u"&Save"_s))
+    , mnuExit(mnuFile->addAction(u"&Exit"_s))
+{
+    setObjectName("frmResult"_L1);
+    setWindowTitle(u"Information Window"_s);
+    setAttribute(Qt::WA_DeleteOnClose);
+    txtResult->setObjectName("txtResult"_L1);
+    txtResult->setAccessibleName(u"Result"_s);
+    txtResult->setLineWrapMode(QPlainTextEdit::NoWrap);
+    mnuFile->setObjectName("mnuFile"_L1);
+    mnuFileSave->setObjectName("mnuFileSave"_L1);
+    mnuExit->setObjectName("mnuExit"_L1);
+
+    auto *inside = new QWidget;
+    auto *layout = new QVBoxLayout(inside);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(picLogoContainer);
+    layout->addWidget(txtResult);
+    setCentralWidget(inside);
+    resize(widthInCharacters * fontMetrics().averageCharWidth(), heightInLines * fontMetrics().lineSpacing());
+    txtResult->setFocus();
+
+    connect(mnuFileSave, &QAction::triggered, this, [this] { guarded([this] { Save(); }); });
+    connect(mnuExit, &QAction::triggered, this, &QWidget::close);
+}
+
+void frmResult::setResult(const QString &text, const QString &title)
+{
+    setWindowTitle(mainCaption());
+    LblInfo->setText(title);
+    m_text = text;
+    txtResult->setPlainText(text);
+}
+
+void frmResult::Save()
+{
+    Dialog.filter = u"*.txt | *.txt"_s;
+    if (!attempt([this] { Dialog.showSave(this); }))
+        return;
+    const QString name = Dialog.fileName;
+    if (QFile::exists(name)) {
+        const QString question = fillMarker(u"The File $ already exists. Overwrite?"_s, name);
+        if (messageBox(question, box::YesNo | box::WarningIcon) != box::ResultYes)
+            return;
+    }
+    // Written beside and renamed, so that a full disk leaves the old file.
+    QSaveFile file(name);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(resultText().toUtf8());
+        file.commit();
+    }
+}
+
+// The edit keeps lines, not line breaks: a text that nobody changed is saved as it came.
+QString frmResult::resultText() const
+{
+    if (!txtResult->document()->isModified())
+        return m_text;
+    QString text = txtResult->document()->toRawText();
+    return text.replace(QChar::ParagraphSeparator, "\r\n"_L1).replace(QChar::LineSeparator, "\r\n"_L1);
+}
