@@ -16,3 +16,8 @@ QString mainCaption()
 {
     return programTitle() % u' ' % programVersion();
 }
+
+QString makerAddress()
+{
+    return u"https://www.kelvane.example/"_s;
+}

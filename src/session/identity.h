@@ -12,3 +12,4 @@ inline constexpr int versionRevision = 253;
 [[nodiscard]] QString programVersion();
 /// "Kelvane 3.0": what the captions of the main and the result window show.
 [[nodiscard]] QString mainCaption();
+[[nodiscard]] QString makerAddress();

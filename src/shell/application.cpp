@@ -1,0 +1,123 @@
+#include "shell/application.h"
+
+#include "base/error.h"
+#include "exchange/modImport.h"
+#include "messages/status.h"
+#include "platform/desktop/desktop.h"
+#include "platform/jet/connection.h"
+#include "session/connectionstring.h"
+#include "session/identity.h"
+#include "session/modServers.h"
+#include "shell/frmAbout.h"
+#include "shell/frmMain.h"
+#include "store/clsUsers.h"
+#include "sync/modUsers.h"
+#include "toolkit/messagebox.h"
+#include "toolkit/yield.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QIcon>
+#include <QPointer>
+#include <QScopeGuard>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::function<void()> &processEnd()
+{
+    static std::function<void()> installed;
+    return installed;
+}
+
+// One line a family.
+void registerFamilies()
+{
+    modUsers::registerFamily();
+}
+
+void installDesktop()
+{
+    desktop::installOpener([](const QUrl &url) { return QDesktopServices::openUrl(url); });
+    QGuiApplication::setDesktopFileName(u"kelvane"_s);
+    QGuiApplication::setWindowIcon(QIcon(u":/kelvane.svg"_s));
+}
+
+void showStartWindow()
+{
+    frmAbout window;
+    window.dressAsStartWindow();
+    window.exec();
+}
+
+void resolveNetwork()
+{
+    modServers::resolveSession();
+    if (modServers::DomainName.isEmpty())
+        messageBox(u"Warning! The Domain Name could not be resolved."_s, box::WarningIcon);
+    if (modServers::PDCName.isEmpty())
+        messageBox(u"Warning! The Primary Domain Controller Name could not be resolved. The Default Domain "
+                   "Controller will be used or you will be prompted to provide the PDC Name if necessary"_s,
+                   box::WarningIcon);
+}
+
+void testStore()
+{
+    clsUsers users;
+    if (attempt([&] { users.TestConnection(getConnectionString()); }))
+        return;
+    messageBox(currentError().description %
+                   "\r\n\r\nThe connection to the database could not be established\r\n"
+                   "Check your settings in the Main Menu under Tools > Options..."_L1,
+               box::StopIcon);
+}
+
+} // namespace
+
+void Main()
+{
+    // The start window is the last one open when it closes.
+    const bool quitsWithLastWindow = QGuiApplication::quitOnLastWindowClosed();
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    const auto restore =
+        qScopeGuard([&] { QGuiApplication::setQuitOnLastWindowClosed(quitsWithLastWindow); });
+
+    installDesktop();
+    registerFamilies();
+
+    showStartWindow();
+    yieldToEvents();
+    attempt(resolveNetwork);
+    yieldToEvents();
+    testStore();
+    mainForm().show();
+    showStatusReady();
+}
+
+frmMain &mainForm()
+{
+    static QPointer<frmMain> window;
+    if (!window)
+        window = new frmMain;
+    return *window;
+}
+
+void endProcess()
+{
+    jet::flushPendingWrites();
+    if (processEnd()) {
+        processEnd()();
+        return;
+    }
+    std::fflush(nullptr);
+    std::_Exit(EXIT_SUCCESS);
+}
+
+void setProcessEnd(std::function<void()> end)
+{
+    processEnd() = std::move(end);
+}

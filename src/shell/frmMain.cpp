@@ -1,0 +1,212 @@
+#include "shell/frmMain.h"
+
+#include "base/text.h"
+#include "messages/guard.h"
+#include "messages/status.h"
+#include "session/identity.h"
+#include "session/modRegistry.h"
+#include "session/modServers.h"
+#include "shell/application.h"
+#include "shell/commands.h"
+#include "shell/windowmenu.h"
+#include "toolkit/imagelist.h"
+#include "toolkit/messagebox.h"
+#include "toolkit/statusbar.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStyle>
+#include <QToolBar>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Panel { StatusPanel = 1, StorePanel = 2, ServerPanel = 3, PanelCount = 3 };
+
+constexpr int statusPanelCharacters = 36;
+constexpr int serverPanelCharacters = 44;
+constexpr int livePicture = 1;
+constexpr int databasePicture = 2;
+
+} // namespace
+
+frmMain::frmMain()
+    : picControlContainer(new QWidget)
+    , ToolbarMain(addNamedToolbar("ToolbarMain"_L1, u"Main Toolbar"_s))
+    , ToolBarDisplay(addNamedToolbar("ToolBarDisplay"_L1, u"View Toolbar"_s))
+    , ToolBarModalDisplay(addNamedToolbar("ToolBarModalDisplay"_L1, u"List Toolbar"_s))
+    , StatusBar(new ::StatusBar(PanelCount))
+    , m_area(new QMdiArea)
+    , m_ownMenus(buildMenus(*this, mainMenu()))
+    , m_windowMenu(makeWindowMenu(*m_area, this))
+{
+    setObjectName("frmMain"_L1);
+    setWindowTitle(mainCaption());
+    picControlContainer->setObjectName("picControlContainer"_L1);
+    m_area->setObjectName("mdiArea"_L1);
+    StatusBar->setObjectName("StatusBar"_L1);
+
+    setMainWindow(this);
+    fillToolbar(*this, *ToolbarMain, mainToolbar());
+    showOnlyToolbar(Toolbar::Main);
+
+    // The sidebar takes its frames as they come; without any there is nothing to show.
+    auto *sidebar = new QVBoxLayout(picControlContainer);
+    sidebar->setAlignment(Qt::AlignTop);
+    auto *inside = new QWidget;
+    auto *layout = new QHBoxLayout(inside);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(picControlContainer);
+    layout->addWidget(m_area, 1);
+    setCentralWidget(inside);
+
+    const int character = fontMetrics().averageCharWidth();
+    StatusBar->setPanelWidth(StatusPanel, statusPanelCharacters * character);
+    StatusBar->setPanelWidth(ServerPanel, serverPanelCharacters * character);
+    setStatusBar(StatusBar);
+    showMenus();
+
+    setStatusTarget(StatusBar, this);
+    load();
+}
+
+frmMain::~frmMain()
+{
+    // The views tell the main window when they go, so they go first.
+    delete m_area;
+    setMainWindow(nullptr);
+}
+
+QToolBar *frmMain::addNamedToolbar(QLatin1StringView name, const QString &title)
+{
+    auto *bar = addToolBar(title);
+    bar->setObjectName(name);
+    bar->setMovable(false);
+    const QSize picture = imageLists().ImageListToolbar.imageSize();
+    bar->setIconSize(picture);
+    // A bar keeps its height without buttons, so that the views do not jump.
+    bar->setMinimumHeight(picture.height() + 2 * style()->pixelMetric(QStyle::PM_ButtonMargin));
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    return bar;
+}
+
+void frmMain::load()
+{
+    setGeometry(screen()->availableGeometry());
+    setWindowState(Qt::WindowMaximized);
+}
+
+QToolBar &frmMain::toolbar(Toolbar which)
+{
+    switch (which) {
+    case Toolbar::Display:
+        return *ToolBarDisplay;
+    case Toolbar::ModalDisplay:
+        return *ToolBarModalDisplay;
+    case Toolbar::Main:
+        break;
+    }
+    return *ToolbarMain;
+}
+
+bool frmMain::event(QEvent *event)
+{
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        guarded([this] { activate(); });
+    return handled;
+}
+
+void frmMain::activate()
+{
+    prepareMainWindow();
+    showStatusReady();
+    if (!m_area->currentSubWindow())
+        showOnlyToolbar(Toolbar::Main);
+}
+
+void frmMain::prepareMainWindow()
+{
+    const bool hasFrames = !picControlContainer->layout()->isEmpty();
+    picControlContainer->setVisible(hasFrames && modRegistry::getShowSideBar());
+    showStatusReady();
+    fitStatusPanels();
+    StatusBar->setPanelText(StorePanel, modRegistry::getDataBase());
+    StatusBar->setPanelText(ServerPanel, "PDC: "_L1 % modServers::getServerName() % " Domain: "_L1 %
+                                             modServers::getDomainName());
+    const ImageList &pictures = imageLists().ImageListDataContext;
+    StatusBar->setPanelPicture(StorePanel, pictures, databasePicture);
+    StatusBar->setPanelPicture(ServerPanel, pictures, livePicture);
+    showStatusReady();
+}
+
+void frmMain::fitStatusPanels()
+{
+    const int taken = StatusBar->panelWidth(StatusPanel) + StatusBar->panelWidth(ServerPanel);
+    StatusBar->setPanelWidth(StorePanel, std::max(0, StatusBar->width() - taken));
+}
+
+void frmMain::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    fitStatusPanels();
+}
+
+void frmMain::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    guarded([event] {
+        const QString question = fillMarker(u"Do you really want to quit $?"_s, programTitle());
+        if (messageBox(question, box::YesNo | box::QuestionIcon) != box::ResultYes)
+            return;
+        endProcess();
+        event->accept();
+    });
+}
+
+void frmMain::Arrange(int arrangement)
+{
+    arrange(*m_area, Arrangement(arrangement));
+}
+
+void frmMain::setWindowMenuShown(bool shown)
+{
+    m_windowMenuShown = shown;
+    m_windowMenu->menuAction()->setVisible(shown);
+}
+
+void frmMain::setViewMenus(const QList<QMenu *> &menus)
+{
+    m_viewMenus = QList<QPointer<QMenu>>(menus.begin(), menus.end());
+    showMenus();
+}
+
+// The menus of the active view with the window menu behind them, or the window's own with
+// the window menu before Help, which stands last.
+void frmMain::showMenus()
+{
+    QList<QAction *> shown;
+    for (const QPointer<QMenu> &menu : m_viewMenus) {
+        if (menu)
+            shown.append(menu->menuAction());
+    }
+    const bool own = shown.isEmpty();
+    if (own) {
+        for (const QMenu *menu : m_ownMenus)
+            shown.append(menu->menuAction());
+    }
+    shown.insert(own ? shown.size() - 1 : shown.size(), m_windowMenu->menuAction());
+    m_windowMenu->menuAction()->setVisible(m_windowMenuShown);
+    if (menuBar()->actions() == shown)
+        return;
+    menuBar()->clear();
+    menuBar()->addActions(shown);
+}

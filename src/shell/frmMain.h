@@ -1,0 +1,61 @@
+#pragma once
+
+#include "toolkit/commondialog.h"
+#include "views/mainwindowlink.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+/// The parent window of the application: the menu, the sidebar, the three toolbars, the
+/// main status bar and the area of the object views. Every command is one call into the
+/// module it concerns; which commands there are stands in the tables of shell/commands.h.
+class frmMain final : public QMainWindow, public MainWindowLink
+{
+    Q_OBJECT
+
+public:
+    frmMain();
+    ~frmMain() override;
+
+    QWidget *picControlContainer;
+    QToolBar *ToolbarMain;
+    QToolBar *ToolBarDisplay;
+    QToolBar *ToolBarModalDisplay;
+    ::StatusBar *StatusBar;
+    CommonDialog Dialog;
+
+    /// Brings the sidebar and the status bar up to the settings and the session. Yields.
+    void prepareMainWindow();
+
+    /// Arranges the open views: 0 cascade, 1 tile horizontally, 2 tile vertically, 3
+    /// arrange icons.
+    void Arrange(int arrangement);
+
+    // MainWindowLink
+    [[nodiscard]] QMdiArea &mdiArea() override { return *m_area; }
+    [[nodiscard]] ::StatusBar &mainStatusBar() override { return *StatusBar; }
+    [[nodiscard]] QToolBar &toolbar(Toolbar which) override;
+    void setTargetDisplay(QWidget *view) override { m_targetDisplay = view; }
+    [[nodiscard]] QWidget *targetDisplay() const override { return m_targetDisplay; }
+    void setWindowMenuShown(bool shown) override;
+    void setViewMenus(const QList<QMenu *> &menus) override;
+
+protected:
+    bool event(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    [[nodiscard]] QToolBar *addNamedToolbar(QLatin1StringView name, const QString &title);
+    void load();
+    void activate();
+    void fitStatusPanels();
+    void showMenus();
+
+    QMdiArea *m_area;
+    QList<QMenu *> m_ownMenus;
+    QList<QPointer<QMenu>> m_viewMenus;
+    QMenu *m_windowMenu;
+    bool m_windowMenuShown = false;
+    QPointer<QWidget> m_targetDisplay;
+};
