@@ -1,0 +1,33 @@
+#include "gallery.h"
+
+#include "base/error.h"
+
+#include <QPixmap>
+#include <QSaveFile>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int NotWritable = 75;
+
+} // namespace
+
+Gallery::Gallery(const QString &folder, const QString &suffix) : m_folder(folder), m_suffix(suffix)
+{
+    const QFileInfo info(folder);
+    if (info.exists() && !info.isDir())
+        raise(NotWritable, folder % " is not a folder."_L1);
+    if (!m_folder.mkpath(u"."_s))
+        raise(NotWritable, "The folder "_L1 % folder % " cannot be made."_L1);
+}
+
+void Gallery::add(QWidget &window, const QString &name)
+{
+    QSaveFile file(m_folder.filePath(name % m_suffix % ".png"_L1));
+    const bool written = file.open(QIODevice::WriteOnly) && window.grab().save(&file, "PNG") && file.commit();
+    if (!written)
+        raise(NotWritable, file.fileName() % " cannot be written: "_L1 % file.errorString());
+    ++m_count;
+}

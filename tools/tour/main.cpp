@@ -1,0 +1,118 @@
+#include "gallery.h"
+#include "tour.h"
+
+#include "base/error.h"
+#include "platform/settings/settings.h"
+#include "session/identity.h"
+#include "session/modRegistry.h"
+#include "store/sampledata.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int sampleUsers = 200;
+constexpr int usageStatus = 2;
+
+constexpr auto usage = "Usage: kelvane-tour OUTDIR [light|dark|large]\n"
+                       "Opens every window of Kelvane on sample data and saves a picture of each in the\n"
+                       "folder OUTDIR: light, dark and at 200 %, or only the one that is named.\n";
+
+/// The scale of a process is fixed at its start, so each variant is a process of its own.
+struct Variant
+{
+    QLatin1StringView name;
+    QLatin1StringView suffix;
+    bool dark;
+    const char *scale;
+};
+
+constexpr Variant variants[] = {
+    {"light"_L1, ""_L1, false, "1"},
+    {"dark"_L1, "-dark"_L1, true, "1"},
+    {"large"_L1, "-200"_L1, false, "2"},
+};
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x2b, 0x2d, 0x30), QColor(0x23, 0x25, 0x28));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x6c, 0xa8, 0xf5));
+    return palette;
+}
+
+int complain(const QString &text)
+{
+    std::fputs(qPrintable("kelvane-tour: "_L1 % text % u'\n'), stderr);
+    return EXIT_FAILURE;
+}
+
+int walk(const Variant &variant, const QString &folder)
+{
+    try {
+        Gallery gallery(folder, variant.suffix);
+        const QTemporaryDir home;
+        if (!home.isValid())
+            return complain("No temporary folder can be made: "_L1 % home.errorString());
+        const QString store = home.filePath(u"sample.kelvane"_s);
+        createSampleStore(store, sampleUsers);
+        settings::setFolder(home.path());
+        modRegistry::saveDataBase(store);
+
+        if (variant.dark)
+            QApplication::setPalette(darkPalette());
+        walkWindows(gallery);
+        std::printf("%s: %d pictures\n", variant.name.data(), gallery.count());
+        return EXIT_SUCCESS;
+    } catch (const Error &error) {
+        return complain(error.description());
+    }
+}
+
+int walkAll(const QString &folder)
+{
+    for (const Variant &variant : variants) {
+        const int status =
+            QProcess::execute(QCoreApplication::applicationFilePath(), {folder, QString(variant.name)});
+        if (status == EXIT_SUCCESS)
+            continue;
+        return status == EXIT_FAILURE ? status : complain("The walk "_L1 % variant.name % " broke off."_L1);
+    }
+    return EXIT_SUCCESS;
+}
+
+const Variant *variantOf(QLatin1StringView name)
+{
+    for (const Variant &variant : variants) {
+        if (variant.name == name)
+            return &variant;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Variant *variant = argc == 3 ? variantOf(QLatin1StringView(argv[2])) : nullptr;
+    if ((argc != 2 && !variant) || QLatin1StringView(argv[1]).isEmpty()) {
+        std::fputs(usage, stderr);
+        return usageStatus;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", variant ? variant->scale : "1");
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(programTitle());
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+    return variant ? walk(*variant, folder) : walkAll(folder);
+}

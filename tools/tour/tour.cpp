@@ -1,0 +1,149 @@
+#include "tour.h"
+
+#include "gallery.h"
+
+#include "base/error.h"
+#include "messages/frmProgress.h"
+#include "messages/frmResult.h"
+#include "messages/modProgress.h"
+#include "messages/showresult.h"
+#include "shell/application.h"
+#include "shell/frmAbout.h"
+#include "shell/frmMain.h"
+#include "toolkit/listview.h"
+#include "toolkit/yield.h"
+#include "views/frmDisplay.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMdiArea>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize mainWindowSize(1180, 720);
+
+[[noreturn]] void missing(const QString &what)
+{
+    raise(RuleViolation, what % " did not appear."_L1);
+}
+
+/// Takes the picture of each modal window that opens while `open` runs, by the names in
+/// turn, and closes it. As many windows have to come as there are names.
+void walkModal(Gallery &gallery, QStringList names, const std::function<void()> &open)
+{
+    CurrentError failure;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        QWidget *window = QApplication::activeModalWidget();
+        if (!window || !window->isVisible())
+            return;
+        if (names.isEmpty())
+            failure.set(Error(RuleViolation, "An unexpected window appeared: "_L1 % window->windowTitle()));
+        try {
+            if (!names.isEmpty())
+                gallery.add(*window, names.takeFirst());
+        } catch (const Error &error) {
+            failure.set(error);
+        }
+        window->close();
+    });
+    watch.start(0);
+    open();
+    if (failure.isSet())
+        raise(failure.number, failure.description);
+    if (!names.isEmpty())
+        missing(names.first());
+}
+
+void trigger(const QString &entry)
+{
+    auto *action = mainForm().findChild<QAction *>(entry);
+    if (!action)
+        missing(entry);
+    action->trigger();
+    yieldToEvents();
+}
+
+template <typename Window>
+Window &topLevel()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *window = qobject_cast<Window *>(widget); window && window->isVisible())
+            return *window;
+    }
+    missing(QString::fromLatin1(Window::staticMetaObject.className()));
+}
+
+void walkMainWindow(Gallery &gallery)
+{
+    frmMain &window = mainForm();
+    window.showNormal();
+    window.resize(mainWindowSize);
+    window.activateWindow();
+    yieldToEvents();
+    gallery.add(window, u"main"_s);
+
+    auto *users = window.findChild<QMenu *>(u"mnuUsers"_s);
+    if (!users)
+        missing(u"mnuUsers"_s);
+    users->popup(window.mapToGlobal(QPoint(0, 0)));
+    yieldToEvents();
+    gallery.add(*users, u"menu-users"_s);
+    users->close();
+}
+
+void walkViews(Gallery &gallery)
+{
+    trigger(u"mnuShowAllUsers"_s);
+    auto *view = qobject_cast<frmDisplay *>(mainForm().mdiArea().currentSubWindow());
+    if (!view)
+        missing(u"frmDisplay"_s);
+    view->listDisplay->setRowSelected(1);
+    view->listDisplay->setRowSelected(2);
+    yieldToEvents();
+    gallery.add(mainForm(), u"users"_s);
+
+    trigger(u"mnuShowAllUsers"_s);
+    mainForm().Arrange(1);
+    yieldToEvents();
+    gallery.add(mainForm(), u"users-tiled"_s);
+    mainForm().mdiArea().closeAllSubWindows();
+    yieldToEvents();
+}
+
+void walkMessages(Gallery &gallery)
+{
+    startProgress(1, 12, u"Exporting User Settings"_s, true, true);
+    if (stepProgress(u"CENTRAL\\m.keller"_s, 5))
+        missing(u"frmProgress"_s);
+    gallery.add(topLevel<frmProgress>(), u"progress"_s);
+    endProgress();
+
+    showResult(
+        u"The following Users could not be deleted:\r\n\r\nCENTRAL\\m.keller\r\nCENTRAL\\j.meyer\r\n"_s,
+        u"Import/Export Result"_s);
+    yieldToEvents();
+    auto &result = topLevel<frmResult>();
+    gallery.add(result, u"result"_s);
+    result.close();
+    yieldToEvents();
+}
+
+} // namespace
+
+void walkWindows(Gallery &gallery)
+{
+    walkModal(gallery, {u"start"_s, u"warning-domain"_s, u"warning-controller"_s}, [] { Main(); });
+    walkMainWindow(gallery);
+    walkViews(gallery);
+    walkModal(gallery, {u"import"_s}, [] { trigger(u"mnuImport"_s); });
+    walkModal(gallery, {u"about"_s}, [] { trigger(u"mnuAbout"_s); });
+    walkMessages(gallery);
+}
