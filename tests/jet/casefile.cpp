@@ -47,9 +47,13 @@ private:
         if (line == "done"_L1)
             step.done = true;
         else if (line == "no rows"_L1)
-            step.noRows = true;
+            step.count = 0;
         else if (line == "any order"_L1)
             step.anyOrder = true;
+        else if (const auto count = after(line, "count "_L1))
+            step.count = wholeNumber(*count);
+        else if (const auto column = after(line, "ordered by "_L1))
+            step.orderedBy = wholeNumber(*column);
         else if (const auto names = after(line, "columns "_L1))
             step.columns = names->split(" | "_L1);
         else if (const auto error = after(line, "error "_L1))
@@ -58,6 +62,15 @@ private:
             step.rows.push_back(*row);
         else
             mistake("is no row and no other expectation: "_L1 + line);
+    }
+
+    int wholeNumber(const QString &text)
+    {
+        bool isNumber = false;
+        const int number = text.toInt(&isNumber);
+        if (!isNumber || number < 0)
+            mistake("needs a number: "_L1 + text);
+        return number;
     }
 
     void expectError(Step &step, const QString &text)

@@ -90,10 +90,15 @@ bool sameRow(const Row &expected, const Row &actual)
 
 bool sameRows(const Step &step, const std::vector<Row> &actual)
 {
-    return step.anyOrder
-               ? std::is_permutation(step.rows.begin(), step.rows.end(), actual.begin(), actual.end(),
-                                     sameRow)
-               : std::equal(step.rows.begin(), step.rows.end(), actual.begin(), actual.end(), sameRow);
+    if (!step.anyOrder && step.orderedBy == 0)
+        return std::equal(step.rows.begin(), step.rows.end(), actual.begin(), actual.end(), sameRow);
+    const auto column = std::size_t(step.orderedBy) - 1;
+    const auto sameInColumn = [&](const Row &expected, const Row &row) {
+        return column < expected.size() && column < row.size() &&
+               casefile::same(expected[column], row[column]);
+    };
+    return std::is_permutation(step.rows.begin(), step.rows.end(), actual.begin(), actual.end(), sameRow) &&
+           (step.anyOrder || std::equal(step.rows.begin(), step.rows.end(), actual.begin(), sameInColumn));
 }
 
 std::string text(const std::vector<Row> &rows)
@@ -115,11 +120,13 @@ void checkRows(const Step &step, jet::Connection &connection)
             names.append(recordset.fields().item(field).name());
         EXPECT_EQ(step.columns->join(" | "_L1).toStdString(), names.join(" | "_L1).toStdString());
     }
-    if (!step.noRows && step.rows.empty())
-        return;
     const int count = recordset.recordCount();
     const std::vector<Row> actual = rowsOf(recordset);
     EXPECT_EQ(std::size_t(count), actual.size());
+    if (step.count >= 0)
+        EXPECT_EQ(step.count, count) << text(actual);
+    if (step.rows.empty())
+        return;
     EXPECT_TRUE(sameRows(step, actual)) << "expected\n" << text(step.rows) << "actual\n" << text(actual);
 }
 
