@@ -130,6 +130,13 @@ void checkRows(const Step &step, jet::Connection &connection)
     EXPECT_TRUE(sameRows(step, actual)) << "expected\n" << text(step.rows) << "actual\n" << text(actual);
 }
 
+void checkDone(const Step &step, jet::Connection &connection)
+{
+    jet::Recordset recordset;
+    recordset.open(step.sql, connection);
+    EXPECT_EQ(recordset.state(), 0) << "returns rows";
+}
+
 void checkError(const Step &step, jet::Connection &connection)
 {
     try {
@@ -148,6 +155,8 @@ void runStep(const Step &step, jet::Connection &connection)
     } else if (step.expectsRows()) {
         checkRows(step, connection);
         checkRows(step, connection); // the same again from the cache of prepared statements
+    } else if (step.done) {
+        checkDone(step, connection);
     } else {
         connection.execute(step.sql);
     }

@@ -1,0 +1,146 @@
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/errors.h"
+#include "store/storefile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <functional>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+void makeForeignDatabase(const QString &path)
+{
+    sqlite3 *handle = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &handle);
+    sqlite3_exec(handle, "CREATE TABLE Tbl_Users (UserID INTEGER)", nullptr, nullptr, nullptr);
+    sqlite3_close(handle);
+}
+
+void cutStore(const QString &path, double part)
+{
+    createStore(path);
+    const QByteArray whole = contentOf(path);
+    writeFile(path, whole.left(qsizetype(double(whole.size()) * part)));
+}
+
+struct BadFile
+{
+    const char *name;
+    std::function<void(const QString &)> make;
+};
+
+const BadFile badFiles[] = {
+    {"Missing", [](const QString &) {}},
+    {"InAMissingFolder", [](const QString &path) { QDir().rmdir(QFileInfo(path).path()); }},
+    {"AFolder", [](const QString &path) { QDir().mkpath(path); }},
+    {"Empty", [](const QString &path) { writeFile(path, ""); }},
+    {"AText", [](const QString &path) { writeFile(path, QByteArray("Dear diary,\n").repeated(2000)); }},
+    {"AnotherKindOfDatabase", makeForeignDatabase},
+    {"CutInTheHeader", [](const QString &path) { cutStore(path, 0.0005); }},
+    {"CutInTheMiddle", [](const QString &path) { cutStore(path, 0.5); }},
+};
+
+class BadFileTest : public testing::TestWithParam<BadFile>
+{
+};
+
+/// What opening the file and reading a table of it is answered with.
+std::optional<Error> openAndRead(const QString &path)
+{
+    try {
+        jet::Connection connection;
+        connection.open(jet::connectionString(path));
+        connection.execute(u"SELECT * FROM Tbl_Rooms"_s);
+        connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('1')"_s);
+        connection.close();
+        return std::nullopt;
+    } catch (const Error &error) {
+        return error;
+    }
+}
+
+} // namespace
+
+TEST_P(BadFileTest, IsRefusedByNameAndLeftAlone)
+{
+    const QTemporaryDir folder;
+    QDir().mkdir(folder.filePath("in"_L1));
+    const QString path = folder.filePath("in/plan.mdb"_L1);
+    GetParam().make(path);
+    const QByteArray before = contentOf(path);
+    const QStringList filesBefore = QDir(folder.filePath("in"_L1)).entryList();
+
+    const std::optional<Error> error = openAndRead(path);
+
+    ASSERT_TRUE(error) << "was opened and written";
+    EXPECT_EQ(error->number(), jet::Failure) << error->what();
+    EXPECT_TRUE(error->description().contains("plan.mdb"_L1)) << error->what();
+    EXPECT_EQ(contentOf(path), before);
+    EXPECT_EQ(QDir(folder.filePath("in"_L1)).entryList(), filesBefore);
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, BadFileTest, testing::ValuesIn(badFiles),
+                         [](const auto &info) { return std::string(info.param.name); });
+
+TEST(ReadOnlyStore, IsReadAndRefusesWrites)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    createStore(path);
+    const QByteArray before = contentOf(path);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    QFile::setPermissions(folder.path(),
+                          QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+
+    // Permission bits do not bind the superuser, so the question is asked as nobody.
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr uid_t nobody = 65534;
+        if (getuid() == 0 && setuid(nobody) != 0)
+            _exit(2);
+        try {
+            jet::Connection connection;
+            connection.open(jet::connectionString(path));
+            connection.execute(u"SELECT * FROM Tbl_Rooms"_s);
+            connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('1')"_s);
+        } catch (const Error &error) {
+            const bool told = error.number() == jet::Failure &&
+                              error.description().contains("updat"_L1, Qt::CaseInsensitive);
+            if (!told)
+                fprintf(stderr, "%d %s\n", error.number(), error.what());
+            _exit(told ? 0 : 1);
+        }
+        _exit(3);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    ASSERT_TRUE(WIFEXITED(status));
+    if (WEXITSTATUS(status) == 2)
+        GTEST_SKIP() << "this process may not become another user";
+    EXPECT_EQ(WEXITSTATUS(status), 0) << (WEXITSTATUS(status) == 3 ? "the write went through" : "");
+    EXPECT_EQ(contentOf(path), before);
+}

@@ -1,0 +1,188 @@
+#include "console.h"
+
+#include "platform/jet/connection.h"
+#include "platform/jet/recordset.h"
+#include "store/storefile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Answer
+{
+    int status = 0;
+    std::string out;
+    std::string complaints;
+};
+
+class ConsoleTest : public testing::Test
+{
+protected:
+    Answer run(const QStringList &arguments, const std::string &input = {})
+    {
+        std::istringstream in(input);
+        std::ostringstream out;
+        std::ostringstream complaints;
+        Console console{in, out, complaints};
+        const int status = runCommand(arguments, console);
+        return {status, out.str(), complaints.str()};
+    }
+
+    Answer sql(const std::string &input)
+    {
+        if (!QFile::exists(path))
+            createStore(path);
+        return run({u"sql"_s, path}, input);
+    }
+
+    qint64 number(const QString &statement)
+    {
+        jet::Connection connection;
+        connection.open(jet::connectionString(path));
+        jet::Recordset result;
+        result.open(statement, connection);
+        return result.value(0).toInteger();
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath("plan.mdb"_L1);
+};
+
+} // namespace
+
+TEST_F(ConsoleTest, Create_MakesAnEmptyStoreOrASample)
+{
+    EXPECT_EQ(run({u"create"_s, path}).status, ExitDone);
+    EXPECT_EQ(number(u"SELECT Count(*) FROM Tbl_Users"_s), 0);
+
+    path = folder.filePath("sample.mdb"_L1);
+    EXPECT_EQ(run({u"create"_s, path, u"--sample"_s, u"30"_s}).status, ExitDone);
+    EXPECT_EQ(number(u"SELECT Count(*) FROM Tbl_Users"_s), 30);
+}
+
+TEST_F(ConsoleTest, Create_LeavesAFileThatIsThereAlone)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("mine");
+    file.close();
+    const Answer answer = run({u"create"_s, path});
+    EXPECT_EQ(answer.status, ExitRefused);
+    EXPECT_NE(answer.complaints.find("plan.mdb"), std::string::npos) << answer.complaints;
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "mine");
+}
+
+TEST_F(ConsoleTest, Sql_AnswersEachStatementInOrder)
+{
+    const Answer answer = sql("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('A \"1\"')\n"
+                              "\n"
+                              "  \r\n"
+                              "SELECT ID, RoomNumber, Description FROM Tbl_Rooms\r\n"
+                              "SELECT * FROM Tbl_Nowhere\n"
+                              "SELECT ID FROM Tbl_Rooms WHERE ID = 2");
+    EXPECT_EQ(answer.status, ExitRefused);
+    EXPECT_EQ(answer.complaints, "");
+    std::istringstream lines(answer.out);
+    std::string line;
+    std::getline(lines, line);
+    EXPECT_EQ(line, R"({"ok":true})");
+    std::getline(lines, line);
+    EXPECT_EQ(line, R"({"columns":["ID","RoomNumber","Description"],"rows":[[1,"A \"1\"",null]]})");
+    std::getline(lines, line);
+    const QJsonObject error = QJsonDocument::fromJson(QByteArray::fromStdString(line))["error"_L1].toObject();
+    EXPECT_EQ(error["number"_L1].toInt(), -2147217865);
+    EXPECT_TRUE(error["text"_L1].toString().contains("Tbl_Nowhere"_L1));
+    std::getline(lines, line);
+    EXPECT_EQ(line, R"({"columns":["ID"],"rows":[]})");
+    EXPECT_FALSE(std::getline(lines, line));
+}
+
+TEST_F(ConsoleTest, Sql_WritesEveryKindOfValue)
+{
+    const Answer answer =
+        sql("INSERT INTO Tbl_HW (HWTypeID,SerialNumber,PurchaseDate,EUCD) VALUES (-7,'\xC3\x84\\',#3/4/2005 "
+            "14:30:00#,1)\n"
+            "SELECT HWTypeID, HWTypeID / 2 AS Half, SerialNumber, PurchaseDate, EUCD, Network, Usage FROM "
+            "Tbl_HW\n");
+    EXPECT_EQ(answer.status, ExitDone);
+    EXPECT_NE(answer.out.find("[-7,-3.5,\"\xC3\x84\\\\\",\"2005-03-04 14:30:00\",true,false,null]"),
+              std::string::npos)
+        << answer.out;
+}
+
+TEST_F(ConsoleTest, Sql_KeepsWhatWasWrittenBeforeARefusal)
+{
+    EXPECT_EQ(sql("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('1')\nrubbish\n"
+                  "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('2')\n")
+                  .status,
+              ExitRefused);
+    EXPECT_EQ(number(u"SELECT Count(*) FROM Tbl_Rooms"_s), 2);
+}
+
+TEST_F(ConsoleTest, Sql_RefusesAMissingStore)
+{
+    const Answer answer = run({u"sql"_s, path}, "SELECT 1\n");
+    EXPECT_EQ(answer.status, ExitRefused);
+    EXPECT_EQ(answer.out, "");
+    EXPECT_NE(answer.complaints.find("plan.mdb"), std::string::npos) << answer.complaints;
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(ConsoleTest, RefusesArgumentsThatMakeNoSense)
+{
+    const QStringList nonsense[] = {
+        {},
+        {u"create"_s},
+        {u"sql"_s},
+        {u"sql"_s, path, path},
+        {u"destroy"_s, path},
+        {u"create"_s, path, u"--sample"_s},
+        {u"create"_s, path, u"--sample"_s, u"many"_s},
+        {u"create"_s, path, u"--sample"_s, u"-1"_s},
+        {u"create"_s, path, u"30"_s, u"30"_s},
+    };
+    for (const QStringList &arguments : nonsense) {
+        const Answer answer = run(arguments);
+        EXPECT_EQ(answer.status, ExitUsage) << arguments.join(u' ').toStdString();
+        EXPECT_NE(answer.complaints.find("usage:"), std::string::npos);
+        EXPECT_FALSE(QFile::exists(path)) << arguments.join(u' ').toStdString();
+    }
+}
+
+TEST_F(ConsoleTest, Sql_WaitsForTheNextStatementWithNothingPending)
+{
+    createStore(path);
+    QProcess process;
+    process.start(QStringLiteral(KELVANE_STORE), {u"sql"_s, path});
+    process.write("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('1')\n");
+    ASSERT_TRUE(process.waitForReadyRead());
+    EXPECT_EQ(process.readAllStandardOutput(), "{\"ok\":true}\n");
+
+    // It still runs, and another user of the store sees the row and may write.
+    sql("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('2')\n");
+    EXPECT_EQ(number(u"SELECT Count(*) FROM Tbl_Rooms"_s), 2);
+
+    process.closeWriteChannel();
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), ExitDone);
+}
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
