@@ -3,6 +3,8 @@
 #include "base/error.h"
 #include "toolkit/imagelist.h"
 
+#include <QEvent>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>
@@ -84,7 +86,7 @@ StatusBar::StatusBar(int panels, QWidget *parent) : QStatusBar(parent)
 StatusBar::Panel &StatusBar::panelAt(int panel) const
 {
     if (panel < 1 || panel > panelCount())
-        raise(indexOutOfBounds,
+        ::raise(indexOutOfBounds,
               u"Index out of bounds: the status bar has no panel "_s % QString::number(panel));
     return *m_panels[std::size_t(panel) - 1];
 }

@@ -36,8 +36,8 @@ public:
     [[nodiscard]] int contextColumn() const { return m_contextColumn; }
     void setContextColumn(int column) { m_contextColumn = column; }
 
-    /// Shows the view in the main window and makes it the active one, which prepares it;
-    /// a view that is the active one already is prepared anew.
+    /// Shows the view in the main window, which takes it over, and makes it the active one;
+    /// becoming active prepares it.
     void showView();
 
     Banner *picLogoContainer;
@@ -70,11 +70,13 @@ private:
     void load();
     void connectList();
     void unload();
+    void joinArea(QMdiArea &area);
+    void takeCaption();
 
     QString m_action;
     QString m_globalGroupName;
     QString m_localGroupName;
     int m_contextColumn = 0;
     bool m_doNotResizeIDColumn = false;
-    bool m_shown = false;
+    bool m_closing = false;
 };

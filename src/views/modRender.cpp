@@ -1,0 +1,161 @@
+#include "views/modRender.h"
+
+#include "base/error.h"
+#include "base/text.h"
+#include "platform/jet/recordset.h"
+#include "toolkit/banner.h"
+#include "toolkit/imagelist.h"
+#include "toolkit/listview.h"
+#include "toolkit/statusbar.h"
+#include "toolkit/yield.h"
+#include "views/displaymodes.h"
+#include "views/frmDisplay.h"
+
+#include <QComboBox>
+#include <QLabel>
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Subject { Value, Field };
+
+struct PictureTest
+{
+    Subject subject;
+    QLatin1StringView text;
+    int picture;
+};
+
+// Made in this order on every cell; the last that matches wins.
+constexpr PictureTest pictureTests[] = {
+    {Subject::Value, "N/A"_L1, 10},         {Subject::Field, "UserName"_L1, 14},
+    {Subject::Field, "Server"_L1, 11},      {Subject::Field, "ServerName"_L1, 11},
+    {Subject::Field, "Description"_L1, 12}, {Subject::Value, "CH"_L1, 13},
+    {Subject::Value, "R"_L1, 13},           {Subject::Value, "Full Control"_L1, 13},
+    {Subject::Value, "L"_L1, 13},           {Subject::Field, "FolderName"_L1, 4},
+    {Subject::Field, "GlobalGroup"_L1, 1},  {Subject::Field, "LocalGroup"_L1, 2},
+};
+
+/// The tests with what is known before the first row: which of them a field name passes.
+class CellPicture final
+{
+public:
+    explicit CellPicture(QStringView field)
+    {
+        for (const PictureTest &test : pictureTests)
+            if (test.subject == Subject::Value || field == test.text)
+                m_tests.push_back(&test);
+    }
+
+    [[nodiscard]] int operator()(QStringView value) const
+    {
+        for (auto test = m_tests.rbegin(); test != m_tests.rend(); ++test)
+            if ((*test)->subject == Subject::Field || value == (*test)->text)
+                return (*test)->picture;
+        return 0;
+    }
+
+private:
+    std::vector<const PictureTest *> m_tests;
+};
+
+QString textOf(jet::Recordset &recordset, int field)
+{
+    QString text;
+    attempt([&] { text = recordset.value(field).toText(); });
+    return text;
+}
+
+ListRows readRows(jet::Recordset &recordset, const QStringList &fields)
+{
+    const int count = int(fields.size());
+    std::vector<CellPicture> pictures;
+    for (const QString &field : fields)
+        pictures.emplace_back(field);
+
+    ListRows rows(count);
+    if (recordset.recordCount() == 0)
+        return rows;
+    for (recordset.moveFirst(); !recordset.eof(); recordset.moveNext()) {
+        const int row = rows.addRow();
+        rows.setText(row, 0, textOf(recordset, 0));
+        for (int field = 1; field < count; ++field) {
+            const QString text = textOf(recordset, field);
+            rows.setText(row, field, text);
+            rows.setPicture(row, field, pictures[std::size_t(field)](text));
+        }
+    }
+    return rows;
+}
+
+struct FamilyLook
+{
+    QLatin1StringView text;
+    int dataPicture;    // of ImageListDataContext, panel 2
+    int toolbarPicture; // of ImageListToolbar, panel 1
+};
+
+constexpr FamilyLook databaseLook{"You are Viewing Database Objects"_L1, 2, 15};
+constexpr FamilyLook liveLook{"You are Viewing Live System Objects"_L1, 1, 16};
+constexpr QColor liveTitleColor(255, 0, 0);
+
+} // namespace
+
+void modRender::renderList(ListView &list, jet::Recordset &recordset)
+{
+    QStringList headings;
+    attempt([&] {
+        const jet::Fields fields = recordset.fields();
+        for (int field = 0; field < fields.count(); ++field)
+            headings += fields.item(field).name();
+    });
+    list.setColumns(headings);
+    if (recordset.state() != 0 && !headings.isEmpty())
+        attempt([&] { list.setRows(readRows(recordset, headings)); });
+    list.spreadColumns();
+}
+
+void modRender::renderContext(frmDisplay &view, QStringView mode)
+{
+    const DisplayMode &look = displayMode(mode);
+    view.picLogoContainer->setPicture(look.bannerPicture);
+    view.setWindowIcon(imageLists().ImageListContext.icon(look.bannerPicture));
+    if (look.family == ModeFamily::None)
+        return;
+
+    const bool live = look.family == ModeFamily::Live;
+    const FamilyLook &family = live ? liveLook : databaseLook;
+    ImageLists &images = imageLists();
+    view.StatusBar->setPanelPicture(2, images.ImageListDataContext, family.dataPicture);
+    view.StatusBar->setPanelPicture(1, images.ImageListToolbar, family.toolbarPicture);
+    view.StatusBar->setPanelText(1, family.text);
+    if (live) {
+        QPalette palette = view.LblInfo->palette();
+        palette.setColor(view.LblInfo->foregroundRole(), liveTitleColor);
+        view.LblInfo->setPalette(palette);
+        view.picNT->show();
+    }
+}
+
+void modRender::showRecordCount(frmDisplay &view, int count)
+{
+    view.StatusBar->setPanelText(2, QString::number(count) % " Record(s)"_L1);
+    view.StatusBar->repaint();
+    yieldToEvents();
+}
+
+void modRender::showSelectedCount(const ListView &list, StatusBar &bar, int panel)
+{
+    bar.setPanelText(panel, fillMarker(u"$ Object(s) Selected"_s, QString::number(list.selectedCount())));
+}
+
+void modRender::fillComboFromRecordset(jet::Recordset &recordset, QComboBox &combo)
+{
+    if (recordset.recordCount() == 0)
+        return;
+    for (recordset.moveFirst(); !recordset.eof(); recordset.moveNext())
+        combo.addItem(recordset.value(1).toText(), recordset.value(0).toInteger());
+}
