@@ -5,12 +5,14 @@
 
 #include <QString>
 
+#include <memory>
 #include <vector>
 
 namespace jet {
 
 class Connection;
 class Recordset;
+struct HeaderField;
 
 /// The type numbers that fields report.
 enum class FieldType {
@@ -76,7 +78,8 @@ public:
     int cursorLocation = 3;
     int lockType = 1;
 
-    Recordset() = default;
+    Recordset();
+    ~Recordset();
     Recordset(const Recordset &) = delete;
     Recordset &operator=(const Recordset &) = delete;
 
@@ -111,26 +114,27 @@ public:
 private:
     friend class Field;
     friend class Fields;
-    friend class RowReader;
 
+    /// The values of one field; only what its type needs is filled.
     struct Column
     {
-        QString name;
-        FieldType type = FieldType::Text;
-        int definedSize = 0;
-        TextColumn texts;            // text fields
-        std::vector<double> numbers; // every other kind: whole numbers of the store are exact in a double
-        std::vector<bool> set;       // false where a number is Null; shorter than the rows: Null behind
+        TextColumn texts;
+        std::vector<double> numbers; // whole numbers of the store are exact in a double
+        std::vector<bool> set;       // false where a number is Null
+        std::vector<Value> variants;
     };
 
     void requireOpen() const;
     void requireRecord() const;
-    [[nodiscard]] Value valueAt(std::size_t row, const Column &column) const;
+    [[nodiscard]] Value valueAt(std::size_t row, std::size_t column) const;
+    void setValueAt(std::size_t row, std::size_t column, const Value &value);
+    void clearRows();
 
     bool m_open = false;
     bool m_writable = false;
     std::size_t m_rows = 0;
     std::size_t m_current = 0; // m_rows is the end
+    std::shared_ptr<const std::vector<HeaderField>> m_header;
     std::vector<Column> m_columns;
 };
 

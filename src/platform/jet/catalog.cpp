@@ -1,0 +1,119 @@
+#include "platform/jet/catalog.h"
+
+#include "platform/jet/errortexts.h"
+#include "platform/jet/sqlite.h"
+
+#include <charconv>
+
+namespace jet {
+namespace {
+
+std::string_view textOf(sqlite3_stmt *statement, int column)
+{
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
+    return text == nullptr
+               ? std::string_view()
+               : std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+}
+
+ColumnType declaredType(std::string_view declared, bool primaryKey)
+{
+    const std::size_t open = declared.find('(');
+    ColumnType column;
+    column.type = typeByName(declared.substr(0, open));
+    if (open != std::string_view::npos && isText(column.type)) {
+        column.type = DataType::Text;
+        std::from_chars(declared.data() + open + 1, declared.data() + declared.size(), column.width);
+    }
+    if (primaryKey && sameWord(declared, "INTEGER"))
+        column.type = DataType::Counter;
+    return column;
+}
+
+} // namespace
+
+std::string quotedName(std::string_view name)
+{
+    std::string quoted = "\"";
+    for (const char c : name) {
+        if (c == '"')
+            quoted += '"';
+        quoted += c;
+    }
+    quoted += '"';
+    return quoted;
+}
+
+const TableColumn *Table::column(std::string_view column) const
+{
+    for (const TableColumn &candidate : columns) {
+        if (sameWord(candidate.name, column))
+            return &candidate;
+    }
+    return nullptr;
+}
+
+void Catalog::refresh()
+{
+    const long long version = queryNumber(m_handle, "PRAGMA schema_version");
+    if (version == m_version)
+        return;
+    m_version = version;
+    m_tables.clear();
+}
+
+const Table *Catalog::find(std::string_view name)
+{
+    const std::string key = loweredWord(name);
+    if (const auto known = m_tables.find(key); known != m_tables.end())
+        return known->second.get();
+
+    const StatementHandle statement =
+        prepareSqlite(m_handle, "SELECT t.name, c.name, c.type, c.pk, c.\"notnull\" FROM sqlite_schema AS t, "
+                                "pragma_table_info(t.name) AS c "
+                                "WHERE t.type = 'table' AND lower(t.name) = ?1 AND t.name NOT LIKE "
+                                "'sqlite!_%' ESCAPE '!' ORDER BY c.cid");
+    sqlite3_bind_text(statement.get(), 1, key.data(), static_cast<int>(key.size()), SQLITE_STATIC);
+    auto table = std::make_unique<Table>();
+    int result = SQLITE_ROW;
+    while ((result = sqlite3_step(statement.get())) == SQLITE_ROW) {
+        table->name = textOf(statement.get(), 0);
+        TableColumn column;
+        column.name = textOf(statement.get(), 1);
+        column.type = declaredType(textOf(statement.get(), 2), sqlite3_column_int(statement.get(), 3) != 0);
+        column.notNull = sqlite3_column_int(statement.get(), 4) != 0;
+        table->columns.push_back(std::move(column));
+    }
+    if (result != SQLITE_DONE)
+        raiseSqlite(m_handle, result);
+    if (table->columns.empty())
+        return nullptr;
+    return m_tables.emplace(key, std::move(table)).first->second.get();
+}
+
+const Table &Catalog::table(std::string_view name)
+{
+    if (const Table *known = find(name))
+        return *known;
+    const std::vector<std::string> names = tableNames();
+    raiseError(MissingTable, "The Microsoft Jet database engine cannot find the input table or query '" +
+                                 std::string(name) +
+                                 "'.  Make sure it exists and that its name is spelled correctly." +
+                                 suggestion(name, {names.begin(), names.end()}));
+}
+
+std::vector<std::string> Catalog::tableNames()
+{
+    const StatementHandle statement = prepareSqlite(
+        m_handle, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite!_%' "
+                  "ESCAPE '!' ORDER BY name COLLATE JET");
+    std::vector<std::string> names;
+    int result = SQLITE_ROW;
+    while ((result = sqlite3_step(statement.get())) == SQLITE_ROW)
+        names.emplace_back(textOf(statement.get(), 0));
+    if (result != SQLITE_DONE)
+        raiseSqlite(m_handle, result);
+    return names;
+}
+
+} // namespace jet

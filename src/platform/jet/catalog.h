@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/jet/types.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+struct sqlite3;
+
+namespace jet {
+
+struct TableColumn
+{
+    std::string name;
+    ColumnType type;
+    bool notNull = false;
+};
+
+struct Table
+{
+    std::string name; ///< as its definition spells it
+    std::vector<TableColumn> columns;
+
+    /// Without regard to case; null when there is none.
+    [[nodiscard]] const TableColumn *column(std::string_view column) const;
+};
+
+/// The tables of one open file. Read when first asked for, forgotten when the schema changes.
+class Catalog final
+{
+public:
+    explicit Catalog(sqlite3 *handle) : m_handle(handle) {}
+
+    /// Forgets what another program may have changed. Called before a statement is parsed.
+    void refresh();
+    /// Raises MissingTable with the nearest known name.
+    [[nodiscard]] const Table &table(std::string_view name);
+    [[nodiscard]] const Table *find(std::string_view name);
+    [[nodiscard]] std::vector<std::string> tableNames();
+
+private:
+    sqlite3 *m_handle;
+    long long m_version = -1;
+    std::unordered_map<std::string, std::unique_ptr<Table>> m_tables;
+};
+
+/// "name" for SQLite.
+[[nodiscard]] std::string quotedName(std::string_view name);
+
+} // namespace jet

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "base/error.h"
+#include "platform/jet/catalog.h"
+#include "platform/jet/emitter.h"
+#include "platform/jet/lexer.h"
+#include "platform/jet/recordheader.h"
+#include "platform/jet/sqlite.h"
+
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+namespace jet {
+
+/// One open store file, shared by all connections of the process to it. Statements are
+/// compiled once for each shape and kept; writes are grouped into transactions of bounded
+/// size and age, so that a batch does not pay for the disk row by row.
+class Database final
+{
+public:
+    /// Opens the file, or joins those that have it open. Raises Failure with a text that
+    /// names the file when it is missing, a folder, unreadable or no store.
+    [[nodiscard]] static std::shared_ptr<Database> open(const QString &path);
+    static void create(const QString &path);
+    /// Commits the pending writes of every open file.
+    static void flushAll();
+
+    ~Database();
+    Database(const Database &) = delete;
+    Database &operator=(const Database &) = delete;
+
+    /// Runs a statement; rows it returns are dropped.
+    void execute(const QString &sql);
+
+    /// Calls `header` once and `row` for each row, on a statement that returns rows. Returns
+    /// false for one that returns none and has been run.
+    bool read(const QString &sql, const std::function<void(const HeaderPtr &)> &header,
+              const std::function<void(sqlite3_stmt *)> &row);
+
+    /// Ends the group of writes at hand.
+    void flush();
+
+    [[nodiscard]] Catalog &catalog() { return m_catalog; }
+    [[nodiscard]] sqlite3 *handle() const { return m_handle; }
+
+private:
+    struct Prepared
+    {
+        StatementHandle statement;
+        std::vector<std::string> before;
+        HeaderPtr header; ///< null for a statement that returns no rows
+        std::vector<std::pair<int, std::string>> pinned;
+        int parameters = 0;
+        bool writes = false;
+        bool changesSchema = false;
+        bool mayFailMidway = false;
+    };
+
+    struct Closer
+    {
+        void operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
+    };
+    using Handle = std::unique_ptr<sqlite3, Closer>;
+
+    explicit Database(Handle handle);
+
+    Prepared &prepare(const QString &sql);
+    [[nodiscard]] Prepared compile();
+    [[nodiscard]] bool fits(const Prepared &prepared) const;
+    void bind(const Prepared &prepared);
+    void write(Prepared &prepared);
+    void runWrite(Prepared &prepared);
+    void beginGroup();
+    void endOfWrite();
+    [[nodiscard]] bool groupLost() const;
+    [[noreturn]] void raiseGroupLost(const Error &cause);
+
+    Handle m_owner;
+    sqlite3 *m_handle;
+    Catalog m_catalog;
+    std::unordered_map<std::string, Prepared> m_prepared;
+
+    // The statement at hand; the memory is used again.
+    QByteArray m_text;
+    LiftedStatement m_lifted;
+    std::string m_unquoted;
+
+    StatementHandle m_begin;
+    StatementHandle m_commit;
+    bool m_inGroup = false;
+    int m_groupWrites = 0;
+    std::chrono::steady_clock::time_point m_groupStart;
+};
+
+} // namespace jet

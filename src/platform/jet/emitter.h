@@ -1,0 +1,149 @@
+#pragma once
+
+#include "platform/jet/catalog.h"
+#include "platform/jet/lexer.h"
+#include "platform/jet/scope.h"
+#include "platform/jet/tree.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace jet {
+
+struct OutputColumn
+{
+    std::string name;
+    ColumnType type;
+};
+
+/// A statement in SQLite's words. Literal n of the statement is its parameter ?n+1.
+struct EmittedStatement
+{
+    std::vector<std::string> before; ///< to be run first; without parameters
+    std::string sql;
+    std::vector<OutputColumn> columns; ///< of a query; empty for a statement that returns no rows
+    bool writes = false;
+    bool changesSchema = false;
+    bool mayFailMidway = false; ///< a function can raise when some rows are written already
+    std::vector<int> pinned;    ///< literals whose values shaped the SQL
+};
+
+/// Turns a tree into SQLite SQL: resolves every name against the catalog, checks types and
+/// writes each operator as SQLite has to be told it. One use an object.
+class Emitter final
+{
+public:
+    Emitter(Catalog &catalog, const std::vector<Literal> &literals) : m_catalog(catalog), m_literals(literals)
+    {
+    }
+
+    [[nodiscard]] EmittedStatement emit(const Statement &statement);
+
+private:
+    /// An expression in SQL.
+    struct Piece
+    {
+        std::string sql;
+        ColumnType type{};
+        bool condition = false; ///< SQLite's 1 and 0, not the dialect's -1 and 0
+        bool column = false;    ///< a column, which carries its collation along
+        bool exact = false;     ///< whole and within 32 bits
+    };
+    struct Output
+    {
+        Piece piece;
+        std::string name;  ///< as the recordset will show it
+        std::string table; ///< of a plain column without an alias, otherwise empty
+        const Expression *expression = nullptr;
+    };
+    struct Rows
+    {
+        std::string sql;
+        std::vector<OutputColumn> columns;
+    };
+    enum class Aggregates { Forbidden, Allowed, Inside };
+
+    // emitter_select.cpp
+    Rows query(const Query &query, Scope *outer, bool numbered = false);
+    Rows unionOf(const Query &query, Scope *outer, bool numbered);
+    Rows select(const Select &select, const std::vector<OrderItem> &order, Scope *outer, bool numbered);
+    std::vector<Output> outputs(const Select &select, Scope &scope);
+    void nameOutputs(std::vector<Output> &outputs) const;
+    void checkGrouping(const Select &select, const std::vector<Output> &outputs,
+                       const std::vector<OrderItem> &order, Scope &scope);
+    void checkGrouped(const Expression &expression, const std::set<std::string> &keys, Scope &scope);
+    std::string orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
+                         Scope &scope);
+    std::string distinctRows(const Select &select, const Scope &scope) const;
+    std::string withTop(const Select &select, const std::string &rows, const std::vector<Output> &outputs,
+                        const std::vector<OrderItem> &order, std::size_t keys, bool numbered) const;
+    static std::string outputName(const Output &output, std::size_t index, bool numbered);
+
+    // emitter_from.cpp
+    void addSources(const Source &source, Scope &scope);
+    std::string from(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope);
+    std::string joined(const Source &source, Scope &scope);
+    void innerParts(const Source &source, Scope &scope, std::vector<std::string> &tables,
+                    std::vector<std::string> &conditions);
+
+    // emitter_expression.cpp
+    Piece expression(const Expression &expression, Scope &scope);
+    Piece literal(const Expression &expression);
+    Piece column(const Expression &expression, Scope &scope);
+    Piece alias(const Expression &expression, Scope &scope);
+    Piece arithmetic(const Expression &expression, Scope &scope);
+    Piece joinTexts(const Expression &expression, Scope &scope);
+    Piece logic(const Expression &expression, Scope &scope);
+    Piece compare(const Expression &expression, Scope &scope);
+    Piece between(const Expression &expression, Scope &scope);
+    Piece inList(const Expression &expression, Scope &scope);
+    Piece subquery(const Expression &expression, Scope &scope);
+    Piece quantified(const Expression &expression, Scope &scope);
+    Piece scalar(const Expression &expression, Scope &scope);
+    std::string conditionOf(const Expression &expression, Scope &scope, std::string_view clause);
+    [[noreturn]] void raiseUnknown(const Expression &expression, const Scope &scope) const;
+    void requireComparable(const Expression &expression, const Piece &left, const Piece &right) const;
+    std::string fingerprint(const Expression &expression, Scope &scope);
+
+    // emitter_call.cpp
+    static bool isAggregate(const Expression &expression);
+    Piece call(const Expression &expression, Scope &scope);
+    Piece aggregate(const Expression &expression, Scope &scope);
+    Piece branches(const Expression &expression, Scope &scope);
+    Piece function(const Expression &expression, Scope &scope);
+    std::string argument(const Piece &piece, char kind);
+
+    // emitter_write.cpp
+    void write(const Query &query, EmittedStatement &result);
+    void write(const Insert &insert, EmittedStatement &result);
+    void write(const Update &update, EmittedStatement &result);
+    void write(const Delete &statement, EmittedStatement &result);
+    void write(const CreateTable &table, EmittedStatement &result);
+    void write(const CreateIndex &index, EmittedStatement &result);
+    void write(const DropTable &table, EmittedStatement &result);
+    void write(const DropIndex &index, EmittedStatement &result);
+    std::string coerced(const Piece &piece, const TableColumn &column);
+    std::string insertedRows(const Insert &insert, std::vector<const TableColumn *> &columns,
+                             const Table &table);
+
+    static std::string value(const Piece &piece);
+    static std::string condition(const Piece &piece);
+    static std::string collated(const Piece &piece);
+    static std::string asText(const Piece &piece);
+    std::string asNumber(const Piece &piece);
+    void pin(int literal);
+
+    Catalog &m_catalog;
+    const std::vector<Literal> &m_literals;
+    Aggregates m_aggregates = Aggregates::Forbidden;
+    std::string_view m_clause;
+    bool m_literalsAsValues = false;
+    bool m_mayRaise = false;
+    int m_subqueries = 0;
+    std::map<const Source *, std::string> m_derivedTables;
+    std::vector<int> m_pinned;
+};
+
+} // namespace jet

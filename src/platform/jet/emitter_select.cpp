@@ -1,0 +1,349 @@
+#include "platform/jet/emitter.h"
+#include "platform/jet/errortexts.h"
+
+#include <algorithm>
+
+namespace jet {
+namespace {
+
+std::string numberedName(std::size_t index)
+{
+    return "\"c" + std::to_string(index) + '"';
+}
+
+std::string keyName(std::size_t index)
+{
+    return "\"k" + std::to_string(index) + '"';
+}
+
+bool isPosition(const OrderItem &item, const std::vector<Literal> &literals)
+{
+    return item.expression->kind == ExpressionKind::Literal &&
+           literals[std::size_t(item.expression->literal)].kind == TokenKind::Integer;
+}
+
+[[noreturn]] void raiseNoSuchPosition(std::string_view text)
+{
+    raiseError(SyntaxError,
+               "Syntax error in ORDER BY clause. There is no column " + std::string(text) + " to order by.");
+}
+
+} // namespace
+
+Emitter::Rows Emitter::query(const Query &query, Scope *outer, bool numbered)
+{
+    const Aggregates aggregates = m_aggregates;
+    m_aggregates = Aggregates::Allowed;
+    Rows rows = query.arms.size() == 1 ? select(query.arms[0], query.orderBy, outer, numbered)
+                                       : unionOf(query, outer, numbered);
+    m_aggregates = aggregates;
+    return rows;
+}
+
+Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
+{
+    Rows result;
+    bool duplicatesDropped = false;
+    const std::vector<OrderItem> none;
+    for (std::size_t i = 0; i < query.arms.size(); ++i) {
+        const Select &arm = query.arms[i];
+        // Only with TOP does a branch's own order tell which rows it gives.
+        Rows rows = select(arm, arm.top ? arm.orderBy : none, outer, numbered);
+        if (arm.top)
+            rows.sql = "SELECT * FROM (" + rows.sql + ')';
+        if (i == 0) {
+            result = std::move(rows);
+            continue;
+        }
+        if (rows.columns.size() != result.columns.size())
+            raiseError(SyntaxError,
+                       "The number of columns in the two selected tables or queries of a union query do "
+                       "not match.");
+        for (std::size_t column = 0; column < rows.columns.size(); ++column) {
+            ColumnType &type = result.columns[column].type;
+            type = {commonType(type.type, rows.columns[column].type.type),
+                    std::max(type.width, rows.columns[column].type.width)};
+        }
+        duplicatesDropped = duplicatesDropped || !query.unionAll[i - 1];
+        result.sql += (query.unionAll[i - 1] ? " UNION ALL " : " UNION ") + rows.sql;
+    }
+
+    std::string order;
+    const auto add = [&order](std::size_t position, bool descending) {
+        order +=
+            (order.empty() ? " ORDER BY " : ", ") + std::to_string(position) + (descending ? " DESC" : "");
+    };
+    for (const OrderItem &item : query.orderBy) {
+        std::size_t position = 0;
+        if (isPosition(item, m_literals)) {
+            pin(item.expression->literal);
+            position = static_cast<std::size_t>(m_literals[std::size_t(item.expression->literal)].number);
+        } else if (item.expression->kind == ExpressionKind::Column && item.expression->qualifier.empty()) {
+            for (std::size_t i = 0; i < result.columns.size() && position == 0; ++i) {
+                if (sameWord(result.columns[i].name, item.expression->name))
+                    position = i + 1;
+            }
+        }
+        if (position == 0 || position > result.columns.size())
+            raiseError(SyntaxError,
+                       "The ORDER BY expression (" + std::string(item.expression->text) +
+                           ") includes fields that are not selected by the query.  Only those fields "
+                           "requested in the first query can be included in an ORDER BY expression.");
+        add(position, item.descending);
+    }
+    // Dropping duplicates leaves the rows in their order.
+    if (query.orderBy.empty() && duplicatesDropped) {
+        for (std::size_t position = 1; position <= result.columns.size(); ++position)
+            add(position, false);
+    }
+    result.sql += order;
+    return result;
+}
+
+std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope)
+{
+    std::vector<Output> result;
+    scope.items = &select.items;
+    for (std::size_t i = 0; i < select.items.size(); ++i) {
+        const SelectItem &item = select.items[i];
+        scope.visibleItems = i;
+        if (item.expression) {
+            Output output;
+            output.piece = expression(*item.expression, scope);
+            output.expression = item.expression.get();
+            output.name = item.alias;
+            if (item.alias.empty() && output.piece.column) {
+                const Expression &column = *item.expression;
+                for (Scope *at = &scope; at != nullptr && output.name.empty(); at = at->outer) {
+                    if (const Scope::Found found = at->find(column.qualifier, column.name);
+                        found.column != nullptr) {
+                        output.name = found.column->name;
+                        output.table = found.source->name;
+                    }
+                }
+            }
+            result.push_back(std::move(output));
+            continue;
+        }
+        if (!item.starOf.empty() && scope.source(item.starOf) == nullptr)
+            raiseError(MissingTable,
+                       "The Microsoft Jet database engine cannot find the input table or query '" +
+                           std::string(item.starOf) +
+                           "'.  Make sure it exists and that its name is spelled correctly.");
+        if (scope.sources.empty())
+            raiseError(SyntaxError, "Query input must contain at least one table or query.");
+        for (const ScopeSource &source : scope.sources) {
+            if (!item.starOf.empty() && !sameWord(source.name, item.starOf))
+                continue;
+            for (const TableColumn &column : source.columns) {
+                Output output;
+                output.piece = {.sql = quotedName(source.name) + '.' + quotedName(column.name),
+                                .type = column.type,
+                                .column = true,
+                                .exact = isWhole(column.type.type)};
+                output.name = column.name;
+                output.table = source.name;
+                result.push_back(std::move(output));
+            }
+        }
+    }
+    scope.visibleItems = select.items.size();
+    nameOutputs(result);
+    return result;
+}
+
+// Equal names of different tables are told apart by the table; what has no name or one that
+// is taken is called Expr1000, Expr1001 ...
+void Emitter::nameOutputs(std::vector<Output> &outputs) const
+{
+    const auto sameName = [](const Output &a, const Output &b) {
+        return !a.name.empty() && sameWord(a.name, b.name);
+    };
+    std::vector<std::string> qualified(outputs.size());
+    for (std::size_t i = 0; i < outputs.size(); ++i) {
+        for (const Output &other : outputs) {
+            if (!outputs[i].table.empty() && !other.table.empty() && sameName(outputs[i], other) &&
+                !sameWord(outputs[i].table, other.table))
+                qualified[i] = outputs[i].table + '.' + outputs[i].name;
+        }
+    }
+    int unnamed = 1000;
+    for (std::size_t i = 0; i < outputs.size(); ++i) {
+        Output &output = outputs[i];
+        if (!qualified[i].empty())
+            output.name = qualified[i];
+        const auto taken = [&](const Output &earlier) { return sameName(earlier, output); };
+        while (output.name.empty() ||
+               std::any_of(outputs.begin(), outputs.begin() + std::ptrdiff_t(i), taken))
+            output.name = "Expr" + std::to_string(unnamed++);
+    }
+}
+
+std::string Emitter::outputName(const Output &output, std::size_t index, bool numbered)
+{
+    return numbered ? numberedName(index) : quotedName(output.name);
+}
+
+Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem> &order, Scope *outer,
+                              bool numbered)
+{
+    Scope scope;
+    scope.outer = outer;
+    const std::string source = from(select.from, scope);
+    std::vector<Output> columns = outputs(select, scope);
+    if (select.from.empty() && select.where)
+        raiseError(SyntaxError, "Query input must contain at least one table or query.");
+
+    std::string tail;
+    if (!source.empty())
+        tail += " FROM " + source;
+    if (select.where)
+        tail += " WHERE " + conditionOf(*select.where, scope, "WHERE clause");
+
+    std::string groups;
+    for (const ExpressionPtr &group : select.groupBy) {
+        m_aggregates = Aggregates::Forbidden;
+        m_clause = "GROUP BY clause";
+        groups += (groups.empty() ? " GROUP BY " : ", ") + collated(expression(*group, scope));
+        m_aggregates = Aggregates::Allowed;
+    }
+    if (select.having)
+        groups += " HAVING " + conditionOf(*select.having, scope, "HAVING clause");
+
+    std::vector<std::string> keys;
+    for (const OrderItem &item : order)
+        keys.push_back(orderKey(item, columns, select, scope));
+    checkGrouping(select, columns, order, scope);
+    tail += groups.empty() ? distinctRows(select, scope) : groups;
+
+    const bool ranked = select.top && (select.percent || !order.empty());
+    Rows result;
+    result.sql = select.distinct ? "SELECT DISTINCT " : "SELECT ";
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        ColumnType type = columns[i].piece.type;
+        result.columns.push_back({columns[i].name, type});
+        result.sql += (i == 0 ? "" : ", ") + collated(columns[i].piece) + " AS " +
+                      outputName(columns[i], i, numbered || ranked);
+    }
+    if (ranked) {
+        for (std::size_t i = 0; i < keys.size(); ++i)
+            result.sql += ", " + keys[i] + " AS " + keyName(i);
+        result.sql = withTop(select, result.sql + tail, columns, order, keys.size(), numbered);
+        pin(select.topLiteral);
+        return result;
+    }
+    result.sql += tail;
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        result.sql += (i == 0 ? " ORDER BY " : ", ") + keys[i] + (order[i].descending ? " DESC" : "");
+    if (select.top) {
+        pin(select.topLiteral);
+        result.sql += " LIMIT " + std::to_string(*select.top);
+    }
+    return result;
+}
+
+std::string Emitter::orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
+                              Scope &scope)
+{
+    std::string key;
+    std::string distinctKey;
+    if (isPosition(item, m_literals)) {
+        pin(item.expression->literal);
+        const double position = m_literals[std::size_t(item.expression->literal)].number;
+        if (position < 1 || position > double(outputs.size()))
+            raiseNoSuchPosition(item.expression->text);
+        return collated(outputs[static_cast<std::size_t>(position) - 1].piece);
+    }
+    key = collated(expression(*item.expression, scope));
+    if (select.distinct) {
+        const std::string wanted = fingerprint(*item.expression, scope);
+        const bool selected = std::any_of(outputs.begin(), outputs.end(), [&](const Output &output) {
+            return (output.expression != nullptr ? fingerprint(*output.expression, scope)
+                                                 : output.piece.sql) == wanted;
+        });
+        if (!selected)
+            raiseError(SyntaxError, "ORDER BY clause (" + std::string(item.expression->text) +
+                                        ") conflicts with DISTINCT.");
+    }
+    return key;
+}
+
+void Emitter::checkGrouping(const Select &select, const std::vector<Output> &outputs,
+                            const std::vector<OrderItem> &order, Scope &scope)
+{
+    if (select.groupBy.empty() && !scope.hasAggregate && !select.having)
+        return;
+    std::set<std::string> keys;
+    for (const ExpressionPtr &group : select.groupBy)
+        keys.insert(fingerprint(*group, scope));
+    for (const Output &output : outputs) {
+        if (output.expression != nullptr)
+            checkGrouped(*output.expression, keys, scope);
+        else if (!keys.contains(output.piece.sql))
+            raiseError(SyntaxError, "Cannot group on fields selected with '*'.");
+    }
+    if (select.having)
+        checkGrouped(*select.having, keys, scope);
+    for (const OrderItem &item : order) {
+        if (!isPosition(item, m_literals))
+            checkGrouped(*item.expression, keys, scope);
+    }
+}
+
+void Emitter::checkGrouped(const Expression &source, const std::set<std::string> &keys, Scope &scope)
+{
+    if (source.kind == ExpressionKind::Literal || isAggregate(source))
+        return;
+    if (!keys.empty() && keys.contains(fingerprint(source, scope)))
+        return;
+    if (source.kind == ExpressionKind::Column && scope.find(source.qualifier, source.name).column != nullptr)
+        raiseError(SyntaxError,
+                   "You tried to execute a query that does not include the specified expression '" +
+                       std::string(source.text) + "' as part of an aggregate function.");
+    for (const ExpressionPtr &argument : source.arguments)
+        checkGrouped(*argument, keys, scope);
+}
+
+std::string Emitter::distinctRows(const Select &select, const Scope &scope) const
+{
+    if (!select.distinctRow || scope.hasAggregate)
+        return {};
+    std::string shown;
+    bool allShown = true;
+    for (const ScopeSource &source : scope.sources) {
+        const bool selected =
+            std::any_of(select.items.begin(), select.items.end(), [&](const SelectItem &item) {
+                if (!item.expression)
+                    return item.starOf.empty() || sameWord(item.starOf, source.name);
+                if (item.expression->kind != ExpressionKind::Column)
+                    return true;
+                const Scope::Found found = scope.find(item.expression->qualifier, item.expression->name);
+                return found.source == &source;
+            });
+        if (selected && source.isTable())
+            shown += (shown.empty() ? " GROUP BY " : ", ") + quotedName(source.name) + ".rowid";
+        else
+            allShown = false;
+    }
+    return allShown ? std::string() : shown;
+}
+
+// TOP takes all rows that tie with the last one, so rows are ranked by their order.
+std::string Emitter::withTop(const Select &select, const std::string &rows,
+                             const std::vector<Output> &outputs, const std::vector<OrderItem> &order,
+                             std::size_t keys, bool numbered) const
+{
+    std::string window;
+    for (std::size_t i = 0; i < keys; ++i)
+        window += (i == 0 ? "ORDER BY " : ", ") + keyName(i) + (order[i].descending ? " DESC" : "");
+    std::string sql = "SELECT ";
+    for (std::size_t i = 0; i < outputs.size(); ++i)
+        sql += (i == 0 ? "" : ", ") + numberedName(i) + " AS " + outputName(outputs[i], i, numbered);
+    sql += " FROM (SELECT *, " + std::string(keys == 0 ? "ROW_NUMBER" : "RANK") + "() OVER (" + window +
+           ") AS \"%rank\", COUNT(*) OVER () AS \"%count\" FROM (" + rows + ")) WHERE \"%rank\" <= ";
+    const std::string top = std::to_string(*select.top);
+    sql += select.percent ? "(\"%count\" * " + top + " + 99) / 100" : top;
+    return sql + " ORDER BY \"%rank\"";
+}
+
+} // namespace jet

@@ -1,0 +1,317 @@
+#include "platform/jet/emitter.h"
+#include "platform/jet/errortexts.h"
+
+#include <algorithm>
+
+namespace jet {
+namespace {
+
+std::string columnDefinition(std::string_view name, ColumnType type, bool notNull, bool counter)
+{
+    std::string sql = quotedName(name) + ' ';
+    if (counter)
+        return sql + "INTEGER PRIMARY KEY AUTOINCREMENT";
+    sql += declaration(type.type == DataType::Counter ? ColumnType{DataType::Long} : type);
+    if (isText(type.type))
+        sql += " COLLATE JET";
+    if (type.type == DataType::Boolean)
+        return sql + " NOT NULL DEFAULT 0";
+    return notNull ? sql + " NOT NULL" : sql;
+}
+
+void requireColumn(const Table &table, std::string_view name)
+{
+    if (table.column(name) == nullptr)
+        raiseError(MissingParameter,
+                   "No such field '" + std::string(name) + "' in table '" + table.name + "'.");
+}
+
+void requireNoTable(Catalog &catalog, std::string_view name)
+{
+    if (catalog.find(name) != nullptr)
+        raiseError(TableExists, "Table '" + std::string(name) + "' already exists.");
+}
+
+const Table &existing(Catalog &catalog, std::string_view name)
+{
+    const Table *table = catalog.find(name);
+    if (table == nullptr)
+        raiseError(MissingTable, "Table '" + std::string(name) + "' does not exist.");
+    return *table;
+}
+
+} // namespace
+
+EmittedStatement Emitter::emit(const Statement &statement)
+{
+    EmittedStatement result;
+    std::visit([&](const auto &kind) { write(kind, result); }, statement);
+    std::sort(m_pinned.begin(), m_pinned.end());
+    m_pinned.erase(std::unique(m_pinned.begin(), m_pinned.end()), m_pinned.end());
+    result.pinned = m_pinned;
+    result.mayFailMidway = m_mayRaise;
+    return result;
+}
+
+void Emitter::write(const Query &source, EmittedStatement &result)
+{
+    const Rows rows = query(source, nullptr);
+    result.sql = rows.sql;
+    if (source.arms.front().into.empty()) {
+        result.columns = rows.columns;
+        return;
+    }
+    const std::string_view into = source.arms.front().into;
+    requireNoTable(m_catalog, into);
+    std::string columns;
+    for (const OutputColumn &column : rows.columns)
+        columns += (columns.empty() ? "" : ", ") + columnDefinition(column.name, column.type, false, false);
+    result.before.push_back("CREATE TABLE " + quotedName(into) + " (" + columns + ')');
+    result.sql = "INSERT INTO " + quotedName(into) + ' ' + rows.sql;
+    result.writes = true;
+    result.changesSchema = true;
+}
+
+// What a column of its type takes of a value; `exact` values are taken as they are.
+std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
+{
+    const DataType from = piece.type.type;
+    const DataType to = column.type.type;
+    const std::string sql = value(piece);
+    const auto through = [&](const char *function) {
+        m_mayRaise = true;
+        return std::string(function) + '(' + sql + ')';
+    };
+    switch (to) {
+    case DataType::Boolean:
+        if (from == DataType::Boolean)
+            return piece.column || piece.exact ? sql : "IFNULL(" + sql + ", 0)";
+        if (isNumber(from))
+            return piece.exact && !piece.column ? "(-(" + sql + " <> 0))" : "IFNULL(-(" + sql + " <> 0), 0)";
+        return "IFNULL(" + through("jet_tobool") + ", 0)";
+    case DataType::Byte:
+        return from == DataType::Byte ? sql : through("jet_tobyte");
+    case DataType::Short:
+        return from == DataType::Short || from == DataType::Byte ? sql : through("jet_toshort");
+    case DataType::Long:
+    case DataType::Counter:
+        return isWhole(from) && piece.exact ? sql : through("jet_tolong");
+    case DataType::Single:
+    case DataType::Double:
+        return isNumber(from) ? sql : through("jet_todouble");
+    case DataType::Currency:
+        return through("jet_tocurrency");
+    case DataType::Date:
+        return from == DataType::Date ? sql : through("jet_todate");
+    case DataType::Text:
+    case DataType::Memo: {
+        const std::string text = isText(from) || from == DataType::Date || from == DataType::Boolean
+                                     ? asText(piece)
+                                     : "jet_text(" + sql + ')';
+        if (column.type.width == 0)
+            return text;
+        m_mayRaise = true;
+        return "jet_fit(" + text + ", " + std::to_string(column.type.width) + ')';
+    }
+    case DataType::Unknown:
+        break;
+    }
+    return sql;
+}
+
+void Emitter::write(const Insert &insert, EmittedStatement &result)
+{
+    const Table *table = m_catalog.find(insert.table);
+    if (table == nullptr)
+        raiseError(MissingTable, "Could not find output table '" + std::string(insert.table) + "'.");
+
+    std::vector<const TableColumn *> columns;
+    for (const std::string_view name : insert.columns) {
+        const TableColumn *column = table->column(name);
+        if (column == nullptr) {
+            std::vector<std::string_view> names;
+            for (const TableColumn &known : table->columns)
+                names.push_back(known.name);
+            raiseError(SyntaxError,
+                       "The INSERT INTO statement contains the following unknown field name: '" +
+                           std::string(name) +
+                           "'.  Make sure you have typed the name correctly, and try the operation again." +
+                           suggestion(name, names));
+        }
+        if (std::find(columns.begin(), columns.end(), column) != columns.end())
+            raiseError(SyntaxError, "Duplicate output destination '" + column->name + "'.");
+        columns.push_back(column);
+    }
+    const std::string rows = insertedRows(insert, columns, *table);
+    std::string list;
+    for (const TableColumn *column : columns)
+        list += (list.empty() ? " (" : ", ") + quotedName(column->name);
+    result.sql = "INSERT INTO " + quotedName(table->name) + list + ") " + rows;
+    result.writes = true;
+}
+
+std::string Emitter::insertedRows(const Insert &insert, std::vector<const TableColumn *> &columns,
+                                  const Table &table)
+{
+    const auto takeAllColumns = [&] {
+        for (const TableColumn &column : table.columns)
+            columns.push_back(&column);
+    };
+    const auto requireCount = [&](std::size_t count) {
+        if (count != columns.size())
+            raiseError(SyntaxError, "Number of query values and destination fields are not the same.");
+    };
+
+    std::string sql;
+    if (!insert.query) {
+        if (columns.empty())
+            takeAllColumns();
+        requireCount(insert.values.size());
+        Scope scope;
+        m_clause = "INSERT INTO statement";
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            sql += (i == 0 ? "VALUES (" : ", ") + coerced(expression(*insert.values[i], scope), *columns[i]);
+        return sql + ')';
+    }
+
+    const Rows rows = query(*insert.query, nullptr, true);
+    const Select &first = insert.query->arms.front();
+    const bool byName = columns.empty() && first.items.size() == 1 && !first.items[0].expression;
+    if (byName) {
+        for (const OutputColumn &output : rows.columns) {
+            requireColumn(table, output.name);
+            columns.push_back(table.column(output.name));
+        }
+    } else if (columns.empty())
+        takeAllColumns();
+    requireCount(rows.columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const Piece piece{
+            .sql = "\"c" + std::to_string(i) + '"', .type = rows.columns[i].type, .column = true};
+        sql += (i == 0 ? "SELECT " : ", ") + coerced(piece, *columns[i]);
+    }
+    return sql + " FROM (" + rows.sql + ')';
+}
+
+void Emitter::write(const Update &update, EmittedStatement &result)
+{
+    Scope scope;
+    addSources(*update.source, scope);
+    m_clause = "UPDATE statement";
+    const ScopeSource *target = nullptr;
+    std::string assignments;
+    std::string values;
+    const bool joinedTables = update.source->left != nullptr || update.source->query != nullptr;
+    for (std::size_t i = 0; i < update.assignments.size(); ++i) {
+        const Assignment &assignment = update.assignments[i];
+        const Scope::Found found = scope.find(assignment.column->qualifier, assignment.column->name);
+        if (found.column == nullptr)
+            raiseUnknown(*assignment.column, scope);
+        if (!found.source->isTable() || (target != nullptr && target != found.source))
+            raiseError(Failure, "Operation must use an updatable query.");
+        if (found.column->type.type == DataType::Counter)
+            raiseError(Failure, "Cannot update '" + found.column->name + "'; field not updateable.");
+        target = found.source;
+        const std::string changed = coerced(expression(*assignment.value, scope), *found.column);
+        const std::string name = "\"v" + std::to_string(i) + '"';
+        assignments += (i == 0 ? "" : ", ") + quotedName(found.column->name) + " = " +
+                       (joinedTables ? "\"%rows\"." + name : changed);
+        values += ", " + changed + " AS " + name;
+    }
+    const std::string where =
+        update.where ? " WHERE " + conditionOf(*update.where, scope, "WHERE clause") : std::string();
+    const std::string source = joined(*update.source, scope);
+    result.writes = true;
+    if (!joinedTables) {
+        result.sql = "UPDATE " + source + " SET " + assignments + where;
+        return;
+    }
+    // Which rows change, and to what, is worked out before the first of them changes.
+    result.sql = "UPDATE " + quotedName(target->table) + " AS \"%target\" SET " + assignments +
+                 " FROM (SELECT " + quotedName(target->name) + ".rowid AS \"%row\"" + values + " FROM " +
+                 source + where + ") AS \"%rows\" WHERE \"%target\".rowid = \"%rows\".\"%row\"";
+}
+
+void Emitter::write(const Delete &statement, EmittedStatement &result)
+{
+    Scope scope;
+    addSources(*statement.source, scope);
+    const std::string where =
+        statement.where ? " WHERE " + conditionOf(*statement.where, scope, "WHERE clause") : std::string();
+    const std::string source = joined(*statement.source, scope);
+    result.writes = true;
+    if (!statement.source->left) {
+        if (statement.source->query)
+            raiseError(Failure, "Could not delete from specified tables.");
+        if (!statement.starOf.empty() && scope.source(statement.starOf) == nullptr)
+            (void)m_catalog.table(statement.starOf);
+        result.sql = "DELETE FROM " + source + where;
+        return;
+    }
+    if (statement.starOf.empty())
+        raiseError(Failure, "Specify the table containing the records you want to delete.");
+    const ScopeSource *target = scope.source(statement.starOf);
+    if (target == nullptr || !target->isTable())
+        raiseError(Failure, "Could not delete from specified tables.");
+    result.sql = "DELETE FROM " + quotedName(target->table) + " WHERE rowid IN (SELECT " +
+                 quotedName(target->name) + ".rowid FROM " + source + where + ')';
+}
+
+void Emitter::write(const CreateTable &table, EmittedStatement &result)
+{
+    requireNoTable(m_catalog, table.table);
+    std::string columns;
+    std::string counter;
+    for (const ColumnDefinition &column : table.columns) {
+        // SQLite counts in the primary key only, so a counter is always that.
+        const bool counts = column.type.type == DataType::Counter;
+        if (counts && !counter.empty())
+            raiseError(SyntaxError, "Table '" + std::string(table.table) + "' has more than one counter.");
+        if (counts)
+            counter = column.name;
+        columns += (columns.empty() ? "" : ", ") +
+                   columnDefinition(column.name, column.type, column.notNull, counts) +
+                   (column.unique && !counts ? " UNIQUE" : "");
+    }
+    const bool onCounter = table.primaryKey.size() == 1 && sameWord(table.primaryKey[0], counter);
+    if (!table.primaryKey.empty() && !onCounter) {
+        std::string key;
+        for (const std::string_view column : table.primaryKey)
+            key += (key.empty() ? "" : ", ") + quotedName(column);
+        columns += (counter.empty() ? ", PRIMARY KEY (" : ", UNIQUE (") + key + ')';
+    }
+    result.sql = "CREATE TABLE " + quotedName(table.table) + " (" + columns + ')';
+    result.writes = true;
+    result.changesSchema = true;
+}
+
+void Emitter::write(const CreateIndex &index, EmittedStatement &result)
+{
+    const Table &table = m_catalog.table(index.table);
+    std::string columns;
+    for (const auto &[name, descending] : index.columns) {
+        requireColumn(table, name);
+        columns += (columns.empty() ? "" : ", ") + quotedName(name) + (descending ? " DESC" : "");
+    }
+    result.sql = std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
+                 quotedName(index.index) + " ON " + quotedName(table.name) + " (" + columns + ')';
+    result.writes = true;
+    result.changesSchema = true;
+}
+
+void Emitter::write(const DropTable &table, EmittedStatement &result)
+{
+    result.sql = "DROP TABLE " + quotedName(existing(m_catalog, table.table).name);
+    result.writes = true;
+    result.changesSchema = true;
+}
+
+void Emitter::write(const DropIndex &index, EmittedStatement &result)
+{
+    (void)existing(m_catalog, index.table);
+    result.sql = "DROP INDEX " + quotedName(index.index);
+    result.writes = true;
+    result.changesSchema = true;
+}
+
+} // namespace jet

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/jet/errors.h"
+#include "platform/jet/words.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace jet {
+
+/// Raises an Error whose text is UTF-8.
+[[noreturn]] void raiseError(int number, std::string_view text);
+
+/// Raises SyntaxError with the text, and the word at the place and its character position.
+[[noreturn]] void raiseSyntax(std::string_view text, std::string_view statement, std::size_t offset,
+                              std::size_t end);
+
+/// Raises "WHAT in query expression 'EXPRESSION'."
+[[noreturn]] void raiseInExpression(int number, std::string_view what, std::string_view expression);
+
+/// " Did you mean 'NAME'?" with the nearest of the names, or nothing when none is near.
+[[nodiscard]] std::string suggestion(std::string_view word, const std::vector<std::string_view> &names);
+
+[[noreturn]] void raiseTypeMismatch(std::string_view expression, std::string_view left,
+                                    std::string_view right);
+
+} // namespace jet

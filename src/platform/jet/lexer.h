@@ -1,0 +1,75 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace jet {
+
+enum class TokenKind { Name, QuotedName, Text, Integer, Float, Date, Symbol, End };
+
+/// One word of a statement. `text` is a piece of the statement: of a quoted name or a text
+/// without its quotes, of a literal as it was typed.
+struct Token
+{
+    TokenKind kind = TokenKind::End;
+    std::string_view text;
+    std::size_t offset = 0; ///< of its first byte, quotes included
+    std::size_t end = 0;
+    int literal = -1; ///< its place among the literals, or -1
+};
+
+/// A value lifted out of a statement. Whole numbers beyond 32 bits are of kind Float.
+struct Literal
+{
+    TokenKind kind = TokenKind::Text;
+    std::string_view text;
+    bool doubledQuotes = false; ///< the text holds a quote twice for each once
+    char quote = '\'';
+    double number = 0; ///< of numbers and dates
+};
+
+/// Takes a statement apart, one token a call. The statement (UTF-8) must outlive it. Raises
+/// SyntaxError for an unclosed text, name or date and for a character that is none of the
+/// dialect's, TypeMismatch for an impossible date.
+class Lexer final
+{
+public:
+    explicit Lexer(std::string_view statement) : m_statement(statement) {}
+
+    Token next();
+    [[nodiscard]] std::string_view statement() const { return m_statement; }
+    [[nodiscard]] const std::vector<Literal> &literals() const { return m_literals; }
+    [[nodiscard]] std::vector<Literal> &&takeLiterals() { return std::move(m_literals); }
+
+private:
+    Token name();
+    Token number();
+    Token quoted(char close, TokenKind kind);
+    Token text(char quote);
+    Token date();
+    Token symbol(std::size_t length);
+    Token finish(TokenKind kind, std::size_t start, std::string_view text);
+    Token finishLiteral(Token token, Literal literal);
+
+    std::string_view m_statement;
+    std::size_t m_at = 0;
+    bool m_operandBefore = false;
+    std::vector<Literal> m_literals;
+};
+
+/// A statement whose literals are lifted out: `shape` is the same for all statements that
+/// differ in their literals only, and can be told apart from any other statement.
+struct LiftedStatement
+{
+    std::string shape;
+    std::vector<Literal> literals;
+};
+
+/// Fills `lifted`, whose memory is used again. Raises as the lexer does.
+void liftLiterals(std::string_view statement, LiftedStatement &lifted);
+
+/// The 1-based number of the character at a byte offset.
+[[nodiscard]] std::size_t characterAt(std::string_view statement, std::size_t offset);
+
+} // namespace jet

@@ -1,0 +1,353 @@
+#include "platform/jet/parser.h"
+
+#include "platform/jet/errortexts.h"
+#include "platform/jet/parser_guards.h"
+
+#include <array>
+
+namespace jet {
+namespace {
+
+// Words that end a clause: they are no names unless bracketed.
+constexpr std::array reserved = {
+    std::string_view("SELECT"),  std::string_view("FROM"),     std::string_view("WHERE"),
+    std::string_view("GROUP"),   std::string_view("HAVING"),   std::string_view("ORDER"),
+    std::string_view("UNION"),   std::string_view("INNER"),    std::string_view("LEFT"),
+    std::string_view("RIGHT"),   std::string_view("JOIN"),     std::string_view("ON"),
+    std::string_view("AS"),      std::string_view("AND"),      std::string_view("OR"),
+    std::string_view("NOT"),     std::string_view("XOR"),      std::string_view("EQV"),
+    std::string_view("IMP"),     std::string_view("LIKE"),     std::string_view("ALIKE"),
+    std::string_view("IN"),      std::string_view("IS"),       std::string_view("NULL"),
+    std::string_view("BETWEEN"), std::string_view("SET"),      std::string_view("VALUES"),
+    std::string_view("INTO"),    std::string_view("INSERT"),   std::string_view("UPDATE"),
+    std::string_view("DELETE"),  std::string_view("DISTINCT"), std::string_view("DISTINCTROW"),
+    std::string_view("MOD"),     std::string_view("EXISTS"),   std::string_view("TRUE"),
+    std::string_view("FALSE"),   std::string_view("BY"),       std::string_view("ASC"),
+    std::string_view("DESC"),    std::string_view("BAND"),     std::string_view("BOR"),
+    std::string_view("BXOR"),    std::string_view("BNOT"),     std::string_view("CREATE"),
+    std::string_view("TABLE"),   std::string_view("ALL"),
+};
+
+// Before a parenthesis these are functions all the same.
+constexpr bool isReserved(std::string_view word)
+{
+    for (const std::string_view entry : reserved) {
+        if (sameWord(entry, word))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+Parser::Parser(std::string_view statement) : m_lexer(statement)
+{
+    do
+        m_tokens.push_back(m_lexer.next());
+    while (m_tokens.back().kind != TokenKind::End);
+}
+
+const Token &Parser::peek(std::size_t ahead) const
+{
+    return m_tokens[std::min(m_at + ahead, m_tokens.size() - 1)];
+}
+
+Token Parser::take()
+{
+    const Token token = peek();
+    if (token.kind != TokenKind::End)
+        ++m_at;
+    return token;
+}
+
+bool Parser::at(std::string_view word, std::size_t ahead) const
+{
+    const Token &token = peek(ahead);
+    return (token.kind == TokenKind::Name || token.kind == TokenKind::Symbol) && sameWord(token.text, word);
+}
+
+bool Parser::accept(std::string_view word)
+{
+    if (!at(word))
+        return false;
+    ++m_at;
+    return true;
+}
+
+void Parser::expect(std::string_view word)
+{
+    if (!accept(word))
+        fail();
+}
+
+bool Parser::atIdentifier(std::size_t ahead) const
+{
+    const Token &token = peek(ahead);
+    return token.kind == TokenKind::QuotedName || (token.kind == TokenKind::Name && !isReserved(token.text));
+}
+
+std::string_view Parser::identifier()
+{
+    if (!atIdentifier())
+        fail();
+    return take().text;
+}
+
+std::string_view Parser::textFrom(std::size_t start) const
+{
+    const std::size_t end = m_at > 0 ? m_tokens[m_at - 1].end : start;
+    return m_lexer.statement().substr(start, end > start ? end - start : 0);
+}
+
+void Parser::fail() const
+{
+    const Token &token = peek();
+    if (m_expressionStart != std::string_view::npos)
+        failMissingOperator(m_expressionStart);
+    raiseSyntax("Syntax error" + (m_clause.empty() ? std::string() : " in " + std::string(m_clause)),
+                m_lexer.statement(), token.offset, token.end);
+}
+
+void Parser::failMissingOperator(std::size_t start) const
+{
+    const Token &token = peek();
+    const std::string_view expression = m_lexer.statement().substr(start, token.end - start);
+    raiseSyntax("Syntax error (missing operator) in query expression '" + std::string(expression) + '\'',
+                m_lexer.statement(), token.offset, token.end);
+}
+
+Statement Parser::parse()
+{
+    Statement statement = [this]() -> Statement {
+        if (at("SELECT") || at("(") || at("TABLE"))
+            return std::move(*query(true));
+        if (accept("INSERT"))
+            return insert();
+        if (accept("UPDATE"))
+            return update();
+        if (accept("DELETE"))
+            return deleteRows();
+        if (accept("CREATE"))
+            return create();
+        if (accept("DROP"))
+            return drop();
+        const Token &token = peek();
+        raiseSyntax("Invalid SQL statement; expected 'DELETE', 'INSERT', 'PROCEDURE', 'SELECT', or 'UPDATE'",
+                    m_lexer.statement(), token.offset, token.end);
+    }();
+    if (accept(";")) {
+        if (peek().kind != TokenKind::End)
+            raiseSyntax("Characters found after end of SQL statement", m_lexer.statement(), peek().offset,
+                        peek().end);
+    } else if (peek().kind != TokenKind::End)
+        fail();
+    return statement;
+}
+
+QueryPtr Parser::query(bool allowInto)
+{
+    const DepthGuard depth(*this);
+    const ClauseGuard clause(*this, "query");
+    const std::size_t start = peek().offset;
+    auto query = std::make_unique<Query>();
+    selectArm(*query, allowInto);
+    while (accept("UNION")) {
+        query->unionAll.push_back(accept("ALL"));
+        selectArm(*query, false);
+    }
+    query->orderBy = std::move(query->arms.back().orderBy);
+    query->arms.back().orderBy.clear();
+    query->text = textFrom(start);
+    return query;
+}
+
+void Parser::selectArm(Query &query, bool allowInto)
+{
+    if (at("(")) {
+        const DepthGuard depth(*this);
+        take();
+        selectArm(query, false);
+        expect(")");
+        if (at("ORDER"))
+            query.arms.back().orderBy = orderBy();
+        return;
+    }
+    Select select;
+    if (accept("TABLE")) {
+        select.items.emplace_back();
+        auto source = std::make_unique<Source>();
+        source->offset = peek().offset;
+        source->table = identifier();
+        select.from.push_back(std::move(source));
+        query.arms.push_back(std::move(select));
+        return;
+    }
+    expect("SELECT");
+    accept("ALL");
+    if (accept("DISTINCT"))
+        select.distinct = true;
+    else if (accept("DISTINCTROW"))
+        select.distinctRow = true;
+    if (at("TOP") && (peek(1).kind == TokenKind::Integer || at("(", 1) || at("-", 1)))
+        top(select);
+    items(select);
+    if (allowInto && accept("INTO")) {
+        const ClauseGuard clause(*this, "INTO clause");
+        select.into = identifier();
+    }
+    if (accept("FROM"))
+        select.from = from();
+    if (accept("WHERE")) {
+        const ClauseGuard clause(*this, "WHERE clause");
+        select.where = expression();
+    }
+    if (accept("GROUP")) {
+        const ClauseGuard clause(*this, "GROUP BY clause");
+        expect("BY");
+        do
+            select.groupBy.push_back(expression());
+        while (accept(","));
+    }
+    if (accept("HAVING")) {
+        const ClauseGuard clause(*this, "HAVING clause");
+        select.having = expression();
+    }
+    if (at("ORDER"))
+        select.orderBy = orderBy();
+    query.arms.push_back(std::move(select));
+}
+
+void Parser::top(Select &select)
+{
+    take();
+    const Token count = peek();
+    if (count.kind != TokenKind::Integer || m_lexer.literals()[std::size_t(count.literal)].number < 1)
+        raiseSyntax("Invalid argument of TOP", m_lexer.statement(), count.offset, count.end);
+    select.topLiteral = count.literal;
+    select.top = static_cast<int>(m_lexer.literals()[std::size_t(count.literal)].number);
+    take();
+    select.percent = accept("PERCENT");
+}
+
+void Parser::items(Select &select)
+{
+    const ClauseGuard clause(*this, "SELECT statement");
+    do
+        select.items.push_back(item());
+    while (accept(","));
+}
+
+SelectItem Parser::item()
+{
+    SelectItem item;
+    if (accept("*"))
+        return item;
+    if (atIdentifier() && at(".", 1) && at("*", 2)) {
+        item.starOf = identifier();
+        m_at += 2;
+        return item;
+    }
+    if (at("FROM") || at(",") || peek().kind == TokenKind::End)
+        raiseSyntax("The SELECT statement includes a reserved word or an argument name that is misspelled or "
+                    "missing, "
+                    "or the punctuation is incorrect",
+                    m_lexer.statement(), peek().offset, peek().end);
+    const std::size_t start = peek().offset;
+    item.expression = expression();
+    if (accept("AS")) {
+        // A keyword is a good enough name behind AS: nothing else can stand there.
+        if (peek().kind != TokenKind::Name && peek().kind != TokenKind::QuotedName)
+            fail();
+        item.alias = take().text;
+    } else if (peek().kind == TokenKind::QuotedName || peek().literal >= 0 || atIdentifier())
+        failMissingOperator(start);
+    return item;
+}
+
+std::vector<OrderItem> Parser::orderBy()
+{
+    const ClauseGuard clause(*this, "ORDER BY clause");
+    expect("ORDER");
+    expect("BY");
+    std::vector<OrderItem> items;
+    do {
+        OrderItem item;
+        item.expression = expression();
+        if (accept("DESC"))
+            item.descending = true;
+        else
+            accept("ASC");
+        items.push_back(std::move(item));
+    } while (accept(","));
+    return items;
+}
+
+std::vector<std::unique_ptr<Source>> Parser::from()
+{
+    const ClauseGuard clause(*this, "FROM clause");
+    std::vector<std::unique_ptr<Source>> sources;
+    do
+        sources.push_back(joinedSource());
+    while (accept(","));
+    return sources;
+}
+
+std::unique_ptr<Source> Parser::joinedSource()
+{
+    const DepthGuard depth(*this);
+    std::unique_ptr<Source> left = singleSource();
+    for (;;) {
+        JoinKind kind = JoinKind::Inner;
+        if (at("LEFT") || at("RIGHT")) {
+            kind = at("LEFT") ? JoinKind::Left : JoinKind::Right;
+            take();
+            accept("OUTER");
+        } else if (at("INNER"))
+            take();
+        else
+            return left;
+        expect("JOIN");
+        auto join = std::make_unique<Source>();
+        join->offset = left->offset;
+        join->join = kind;
+        join->left = std::move(left);
+        // a JOIN b JOIN c ON .. ON .. binds the inner one first.
+        join->right = singleSource();
+        if (at("INNER") || at("LEFT") || at("RIGHT")) {
+            --m_at;
+            fail();
+        }
+        expect("ON");
+        {
+            const ClauseGuard clause(*this, "JOIN operation");
+            join->on = expression();
+        }
+        left = std::move(join);
+    }
+}
+
+std::unique_ptr<Source> Parser::singleSource()
+{
+    auto source = std::make_unique<Source>();
+    source->offset = peek().offset;
+    if (at("(")) {
+        take();
+        std::size_t ahead = 0;
+        while (at("(", ahead))
+            ++ahead;
+        if (at("SELECT", ahead) || at("TABLE", ahead))
+            source->query = query();
+        else
+            source = joinedSource();
+        expect(")");
+        if (!source->query)
+            return source;
+    } else
+        source->table = identifier();
+    const bool as = accept("AS");
+    if (as || atIdentifier())
+        source->alias = identifier();
+    return source;
+}
+
+} // namespace jet

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "platform/jet/lexer.h"
+#include "platform/jet/tree.h"
+
+#include <span>
+
+namespace jet {
+
+/// Recursive descent over the dialect and nothing else. One statement: a semicolon may end
+/// it, text behind that is refused. The tree points into the statement's text.
+class Parser final
+{
+public:
+    explicit Parser(std::string_view statement);
+
+    [[nodiscard]] Statement parse();
+    /// The values that literals of the tree point to.
+    [[nodiscard]] const std::vector<Literal> &literals() const { return m_lexer.literals(); }
+
+private:
+    // The words at hand.
+    [[nodiscard]] const Token &peek(std::size_t ahead = 0) const;
+    Token take();
+    [[nodiscard]] bool at(std::string_view word, std::size_t ahead = 0) const;
+    bool accept(std::string_view word);
+    void expect(std::string_view word);
+    std::string_view identifier();
+    [[nodiscard]] bool atIdentifier(std::size_t ahead = 0) const;
+    [[noreturn]] void fail() const;
+    [[noreturn]] void failMissingOperator(std::size_t start) const;
+    [[nodiscard]] std::string_view textFrom(std::size_t start) const;
+
+    // parser.cpp
+    QueryPtr query(bool allowInto = false);
+    void selectArm(Query &query, bool allowInto);
+    void top(Select &select);
+    void items(Select &select);
+    SelectItem item();
+    std::vector<OrderItem> orderBy();
+    std::vector<std::unique_ptr<Source>> from();
+    std::unique_ptr<Source> joinedSource();
+    std::unique_ptr<Source> singleSource();
+
+    // parser_write.cpp
+    Insert insert();
+    Update update();
+    Delete deleteRows();
+    Statement create();
+    CreateTable createTable();
+    CreateIndex createIndex(bool unique);
+    ColumnDefinition columnDefinition(CreateTable &table);
+    Statement drop();
+
+    // parser_expression.cpp
+    ExpressionPtr expression();
+    ExpressionPtr logic(std::size_t level);
+    ExpressionPtr negation();
+    ExpressionPtr comparison();
+    ExpressionPtr predicate(ExpressionPtr left, std::size_t start, bool &done);
+    ExpressionPtr joinedTexts();
+    ExpressionPtr arithmetic(std::size_t level);
+    ExpressionPtr sign();
+    ExpressionPtr power();
+    ExpressionPtr primary();
+    ExpressionPtr nameOrCall();
+    ExpressionPtr call(std::string_view name, std::size_t start);
+    ExpressionPtr make(ExpressionKind kind, std::size_t start, std::string_view name = {});
+    template <typename... Arguments>
+    ExpressionPtr node(ExpressionKind kind, std::size_t start, std::string_view name, Arguments... arguments);
+
+    Lexer m_lexer;
+    std::vector<Token> m_tokens;
+    std::size_t m_at = 0;
+    std::string_view m_clause; ///< names the clause in "Syntax error in FROM clause"
+    std::size_t m_expressionStart = std::string_view::npos;
+    int m_depth = 0;
+
+    friend class DepthGuard;
+    friend class ClauseGuard;
+};
+
+} // namespace jet

@@ -1,0 +1,189 @@
+#include "platform/jet/errortexts.h"
+#include "platform/jet/parser.h"
+#include "platform/jet/parser_guards.h"
+
+namespace jet {
+
+Insert Parser::insert()
+{
+    const ClauseGuard clause(*this, "INSERT INTO statement");
+    expect("INTO");
+    Insert insert;
+    insert.table = identifier();
+    if (at("(") && !at("SELECT", 1)) {
+        take();
+        do {
+            if (atIdentifier() && at(".", 1))
+                m_at += 2;
+            insert.columns.push_back(identifier());
+        } while (accept(","));
+        expect(")");
+    }
+    if (accept("VALUES")) {
+        expect("(");
+        do
+            insert.values.push_back(expression());
+        while (accept(","));
+        expect(")");
+        if (at(","))
+            raiseSyntax("Missing semicolon (;) at end of SQL statement", m_lexer.statement(), peek().offset,
+                        peek().end);
+    } else
+        insert.query = query();
+    return insert;
+}
+
+Update Parser::update()
+{
+    const ClauseGuard clause(*this, "UPDATE statement");
+    Update update;
+    update.source = joinedSource();
+    expect("SET");
+    do {
+        Assignment assignment;
+        const std::size_t start = peek().offset;
+        assignment.column = make(ExpressionKind::Column, start);
+        assignment.column->name = identifier();
+        if (accept(".") || accept("!")) {
+            assignment.column->qualifier = assignment.column->name;
+            assignment.column->name = identifier();
+        }
+        assignment.column->text = textFrom(start);
+        expect("=");
+        assignment.value = expression();
+        update.assignments.push_back(std::move(assignment));
+    } while (accept(","));
+    if (accept("WHERE")) {
+        const ClauseGuard where(*this, "WHERE clause");
+        update.where = expression();
+    }
+    return update;
+}
+
+Delete Parser::deleteRows()
+{
+    const ClauseGuard clause(*this, "DELETE statement");
+    Delete statement;
+    if (!accept("*") && atIdentifier()) {
+        statement.starOf = identifier();
+        expect(".");
+        expect("*");
+    }
+    expect("FROM");
+    {
+        const ClauseGuard from(*this, "FROM clause");
+        statement.source = joinedSource();
+    }
+    if (accept("WHERE")) {
+        const ClauseGuard where(*this, "WHERE clause");
+        statement.where = expression();
+    }
+    return statement;
+}
+
+Statement Parser::create()
+{
+    if (accept("TABLE"))
+        return createTable();
+    const bool unique = accept("UNIQUE");
+    if (accept("INDEX"))
+        return createIndex(unique);
+    fail();
+}
+
+CreateTable Parser::createTable()
+{
+    const ClauseGuard clause(*this, "CREATE TABLE statement");
+    CreateTable table;
+    table.table = identifier();
+    expect("(");
+    do {
+        if (at("CONSTRAINT") || at("PRIMARY")) {
+            if (accept("CONSTRAINT"))
+                identifier();
+            expect("PRIMARY");
+            expect("KEY");
+            expect("(");
+            do
+                table.primaryKey.push_back(identifier());
+            while (accept(","));
+            expect(")");
+        } else
+            table.columns.push_back(columnDefinition(table));
+    } while (accept(","));
+    expect(")");
+    return table;
+}
+
+ColumnDefinition Parser::columnDefinition(CreateTable &table)
+{
+    ColumnDefinition column;
+    column.name = identifier();
+    const Token word = peek();
+    column.type.type = word.kind == TokenKind::Name ? typeByName(word.text) : DataType::Unknown;
+    if (column.type.type == DataType::Unknown)
+        fail();
+    take();
+    if (isText(column.type.type) && at("(")) {
+        take();
+        const Token width = peek();
+        if (width.kind != TokenKind::Integer)
+            fail();
+        const double characters = m_lexer.literals()[std::size_t(width.literal)].number;
+        if (characters < 1 || characters > 255)
+            raiseSyntax("Size of field '" + std::string(column.name) + "' is too long", m_lexer.statement(),
+                        width.offset, width.end);
+        take();
+        expect(")");
+        column.type = {DataType::Text, static_cast<int>(characters)};
+    }
+    for (;;) {
+        if (at("NOT") && at("NULL", 1)) {
+            m_at += 2;
+            column.notNull = true;
+        } else if (at("PRIMARY")) {
+            take();
+            expect("KEY");
+            column.primaryKey = true;
+            table.primaryKey.push_back(column.name);
+        } else if (accept("UNIQUE"))
+            column.unique = true;
+        else
+            return column;
+    }
+}
+
+CreateIndex Parser::createIndex(bool unique)
+{
+    const ClauseGuard clause(*this, "CREATE INDEX statement");
+    CreateIndex index;
+    index.unique = unique;
+    index.index = identifier();
+    expect("ON");
+    index.table = identifier();
+    expect("(");
+    do {
+        const std::string_view column = identifier();
+        const bool descending = accept("DESC");
+        if (!descending)
+            accept("ASC");
+        index.columns.emplace_back(column, descending);
+    } while (accept(","));
+    expect(")");
+    return index;
+}
+
+Statement Parser::drop()
+{
+    const ClauseGuard clause(*this, "DROP TABLE or DROP INDEX");
+    if (accept("TABLE"))
+        return DropTable{identifier()};
+    expect("INDEX");
+    DropIndex index;
+    index.index = identifier();
+    expect("ON");
+    index.table = identifier();
+    return index;
+}
+
+} // namespace jet

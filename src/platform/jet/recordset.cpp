@@ -1,0 +1,335 @@
+#include "platform/jet/recordset.h"
+
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/database.h"
+#include "platform/jet/errors.h"
+#include "platform/jet/recordheader.h"
+#include "platform/jet/words.h"
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+namespace {
+
+enum class Storage { Texts, Numbers, Variants };
+
+Storage storageOf(FieldType type)
+{
+    switch (type) {
+    case FieldType::VarChar:
+    case FieldType::Text:
+    case FieldType::Memo:
+        return Storage::Texts;
+    case FieldType::Variant:
+        return Storage::Variants;
+    default:
+        return Storage::Numbers;
+    }
+}
+
+QUtf8StringView textAt(sqlite3_stmt *statement, int column)
+{
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
+    return {text, sqlite3_column_bytes(statement, column)};
+}
+
+Value variantAt(sqlite3_stmt *statement, int column)
+{
+    switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_INTEGER:
+        return qint64(sqlite3_column_int64(statement, column));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(statement, column);
+    case SQLITE_NULL:
+        return {};
+    default:
+        return textAt(statement, column).toString();
+    }
+}
+
+void setNumber(std::vector<double> &numbers, std::vector<bool> &set, std::size_t row, double number)
+{
+    if (row >= numbers.size()) {
+        numbers.resize(row + 1);
+        set.resize(row + 1, false);
+    }
+    numbers[row] = number;
+    set[row] = true;
+}
+
+} // namespace
+
+Recordset::Recordset() = default;
+Recordset::~Recordset() = default;
+
+void Recordset::requireOpen() const
+{
+    if (!m_open)
+        raise(ObjectClosed, u"Operation is not allowed when the object is closed."_s);
+}
+
+void Recordset::requireRecord() const
+{
+    requireOpen();
+    if (m_current >= m_rows)
+        raise(NoCurrentRecord,
+              u"Either BOF or EOF is True, or the current record has been deleted. Requested operation "
+              "requires a current record."_s);
+}
+
+void Recordset::clearRows()
+{
+    m_rows = 0;
+    m_current = 0;
+    for (Column &column : m_columns) {
+        column.texts.clear();
+        column.numbers.clear();
+        column.set.clear();
+        column.variants.clear();
+    }
+}
+
+void Recordset::open(const QString &sql, Connection &connection, int cursor, int lock, int options)
+{
+    Q_UNUSED(cursor);
+    Q_UNUSED(lock);
+    Q_UNUSED(options);
+    if (m_open)
+        raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+    clearRows();
+    std::vector<Storage> storage;
+    const auto takeHeader = [&](const HeaderPtr &header) {
+        m_header = header;
+        m_columns.resize(header->size());
+        storage.reserve(header->size());
+        for (const HeaderField &field : *header)
+            storage.push_back(storageOf(field.type));
+    };
+    const auto takeRow = [&](sqlite3_stmt *statement) {
+        for (std::size_t i = 0; i < storage.size(); ++i) {
+            const int column = static_cast<int>(i);
+            Column &values = m_columns[i];
+            if (storage[i] == Storage::Texts) {
+                if (sqlite3_column_type(statement, column) != SQLITE_NULL)
+                    values.texts.set(m_rows, textAt(statement, column));
+            } else if (storage[i] == Storage::Numbers) {
+                if (sqlite3_column_type(statement, column) != SQLITE_NULL)
+                    setNumber(values.numbers, values.set, m_rows, sqlite3_column_double(statement, column));
+            } else
+                values.variants.push_back(variantAt(statement, column));
+        }
+        ++m_rows;
+    };
+    try {
+        m_open = connection.database().read(sql, takeHeader, takeRow);
+    } catch (...) {
+        clearRows();
+        throw;
+    }
+    m_writable = false;
+}
+
+void Recordset::open()
+{
+    if (m_open)
+        raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+    clearRows();
+    m_open = true;
+    m_writable = true;
+}
+
+void Recordset::close()
+{
+    requireOpen();
+    m_open = false;
+    clearRows();
+}
+
+bool Recordset::bof() const
+{
+    requireOpen();
+    return m_rows == 0;
+}
+
+bool Recordset::eof() const
+{
+    requireOpen();
+    return m_current >= m_rows;
+}
+
+int Recordset::recordCount() const
+{
+    requireOpen();
+    return static_cast<int>(m_rows);
+}
+
+void Recordset::moveFirst()
+{
+    requireOpen();
+    m_current = 0;
+    requireRecord();
+}
+
+void Recordset::moveNext()
+{
+    requireRecord();
+    ++m_current;
+}
+
+void Recordset::moveLast()
+{
+    requireOpen();
+    m_current = m_rows == 0 ? 0 : m_rows - 1;
+    requireRecord();
+}
+
+void Recordset::addNew()
+{
+    requireOpen();
+    if (!m_writable)
+        raise(Failure, u"Operation must use an updatable query."_s);
+    m_current = m_rows++;
+}
+
+Value Recordset::value(QStringView name)
+{
+    return fields().item(name).value();
+}
+
+Value Recordset::value(int index)
+{
+    return fields().item(index).value();
+}
+
+Value Recordset::valueAt(std::size_t row, std::size_t column) const
+{
+    const Column &values = m_columns[column];
+    const FieldType type = (*m_header)[column].type;
+    switch (storageOf(type)) {
+    case Storage::Texts:
+        return values.texts.isNull(row) ? Value() : Value(values.texts.text(row));
+    case Storage::Variants:
+        return row < values.variants.size() ? values.variants[row] : Value();
+    case Storage::Numbers:
+        break;
+    }
+    if (row >= values.set.size() || !values.set[row])
+        return {};
+    const double number = values.numbers[row];
+    switch (type) {
+    case FieldType::Boolean:
+        return number != 0;
+    case FieldType::Date:
+        return OleDate{number};
+    case FieldType::Byte:
+    case FieldType::Short:
+    case FieldType::Long:
+        return qint64(number);
+    default:
+        return number;
+    }
+}
+
+void Recordset::setValueAt(std::size_t row, std::size_t column, const Value &value)
+{
+    Column &values = m_columns[column];
+    const HeaderField &field = (*m_header)[column];
+    switch (storageOf(field.type)) {
+    case Storage::Texts:
+        if (value.isNull())
+            values.texts.setNull(row);
+        else
+            values.texts.set(row, QStringView(value.toText()));
+        return;
+    case Storage::Variants:
+        if (row >= values.variants.size())
+            values.variants.resize(row + 1);
+        values.variants[row] = value;
+        return;
+    case Storage::Numbers:
+        break;
+    }
+    if (!value.isNull())
+        setNumber(values.numbers, values.set, row, value.toDouble());
+    else if (row < values.set.size())
+        values.set[row] = false;
+}
+
+const QString &Field::name() const
+{
+    return (*m_recordset->m_header)[m_index].name;
+}
+
+FieldType Field::type() const
+{
+    return (*m_recordset->m_header)[m_index].type;
+}
+
+int Field::definedSize() const
+{
+    return (*m_recordset->m_header)[m_index].definedSize;
+}
+
+Value Field::value() const
+{
+    m_recordset->requireRecord();
+    return m_recordset->valueAt(m_recordset->m_current, m_index);
+}
+
+void Field::setValue(const Value &value)
+{
+    m_recordset->requireRecord();
+    if (!m_recordset->m_writable)
+        raise(Failure, u"Operation must use an updatable query."_s);
+    m_recordset->setValueAt(m_recordset->m_current, m_index, value);
+}
+
+int Fields::count() const
+{
+    return m_recordset->m_header ? static_cast<int>(m_recordset->m_header->size()) : 0;
+}
+
+int Fields::indexOf(QStringView name) const
+{
+    for (int i = 0; i < count(); ++i) {
+        if (name.compare((*m_recordset->m_header)[std::size_t(i)].name, Qt::CaseInsensitive) == 0)
+            return i;
+    }
+    return -1;
+}
+
+Field Fields::item(int index) const
+{
+    if (index < 0 || index >= count())
+        raise(
+            ItemNotFound,
+            "Item cannot be found in the collection corresponding to the requested name or ordinal. (item "_L1 +
+                QString::number(index) + ')'_L1);
+    return Field(m_recordset, std::size_t(index));
+}
+
+Field Fields::item(QStringView name) const
+{
+    const int index = indexOf(name);
+    if (index < 0)
+        raise(ItemNotFound,
+              "Item cannot be found in the collection corresponding to the requested name or ordinal. ('"_L1 +
+                  name + "')"_L1);
+    return Field(m_recordset, std::size_t(index));
+}
+
+void Fields::append(const QString &name, FieldType type, int size, int attributes)
+{
+    Q_UNUSED(attributes);
+    if (m_recordset->m_open)
+        raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+    auto header = std::make_shared<std::vector<HeaderField>>();
+    if (m_recordset->m_header)
+        *header = *m_recordset->m_header;
+    header->push_back({name, type, size});
+    m_recordset->m_header = std::move(header);
+    m_recordset->m_columns.resize(m_recordset->m_header->size());
+}
+
+} // namespace jet

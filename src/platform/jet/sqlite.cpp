@@ -1,0 +1,110 @@
+#include "platform/jet/sqlite.h"
+
+#include "platform/jet/collation.h"
+#include "platform/jet/errortexts.h"
+#include "platform/jet/functions.h"
+#include "platform/jet/sqlitesetup.h"
+
+#include <string>
+
+namespace jet {
+namespace {
+
+struct ErrorRow
+{
+    int result;
+    int number;
+    const char *text;
+};
+
+// The extended result first; a row of the plain result stands for all of its kind.
+constexpr ErrorRow errors[] = {
+    {SQLITE_CONSTRAINT_UNIQUE, DuplicateValue, nullptr},
+    {SQLITE_CONSTRAINT_PRIMARYKEY, DuplicateValue, nullptr},
+    {SQLITE_CONSTRAINT_ROWID, DuplicateValue, nullptr},
+    {SQLITE_BUSY, Failure, "Could not update; currently locked by another program."},
+    {SQLITE_LOCKED, Failure, "Could not update; currently locked."},
+    {SQLITE_READONLY, Failure, "Operation must use an updatable query."},
+    {SQLITE_CANTOPEN, Failure, "The file or its journal could not be opened."},
+    {SQLITE_FULL, Failure, "There isn't enough disk space."},
+    {SQLITE_IOERR, Failure, "Disk or network error."},
+    {SQLITE_CORRUPT, Failure, "The store file is damaged."},
+    {SQLITE_NOTADB, Failure, "Unrecognized database format."},
+    {SQLITE_NOMEM, Failure, "Not enough memory."},
+    {SQLITE_INTERRUPT, Failure, "The operation was cancelled."},
+    {SQLITE_TOOBIG, Failure, "A value is too large."},
+};
+
+constexpr const char *duplicateText =
+    "The changes you requested to the table were not successful because they would create duplicate values "
+    "in the "
+    "index, primary key, or relationship.  Change the data in the field or fields that contain duplicate "
+    "data, remove "
+    "the index, or redefine the index to permit duplicate entries and try again.";
+
+} // namespace
+
+void raiseSqlite(sqlite3 *handle, int result)
+{
+    const int extended = sqlite3_extended_errcode(handle);
+    std::string_view message = sqlite3_errmsg(handle);
+    if (const int number = takeErrorNumber(message); number != 0)
+        raiseError(number, message);
+    if (extended == SQLITE_CONSTRAINT_NOTNULL) {
+        const std::size_t colon = message.rfind(": ");
+        const std::string field(colon == std::string_view::npos ? message : message.substr(colon + 2));
+        raiseError(Failure,
+                   "The field '" + field +
+                       "' cannot contain a Null value because the Required property for this field is set to "
+                       "True.  Enter a value in this field.");
+    }
+    for (const ErrorRow &row : errors) {
+        if (row.result == extended || row.result == (result & 0xff))
+            raiseError(row.number, row.text != nullptr ? row.text : duplicateText);
+    }
+    raiseError(Failure, message);
+}
+
+StatementHandle prepareSqlite(sqlite3 *handle, std::string_view sql)
+{
+    sqlite3_stmt *statement = nullptr;
+    const int result = sqlite3_prepare_v3(handle, sql.data(), static_cast<int>(sql.size()),
+                                          SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+    if (result != SQLITE_OK)
+        raiseSqlite(handle, result);
+    return StatementHandle(statement);
+}
+
+void runSqlite(sqlite3 *handle, const char *sql)
+{
+    const int result = sqlite3_exec(handle, sql, nullptr, nullptr, nullptr);
+    if (result != SQLITE_OK)
+        raiseSqlite(handle, result);
+}
+
+sqlite3_int64 queryNumber(sqlite3 *handle, std::string_view sql)
+{
+    const StatementHandle statement = prepareSqlite(handle, sql);
+    const int result = sqlite3_step(statement.get());
+    if (result != SQLITE_ROW && result != SQLITE_DONE)
+        raiseSqlite(handle, result);
+    return result == SQLITE_ROW ? sqlite3_column_int64(statement.get(), 0) : 0;
+}
+
+void registerDialect(sqlite3 *handle)
+{
+    registerCollation(handle);
+    registerFunctions(handle);
+}
+
+void applyPragmas(sqlite3 *handle)
+{
+    constexpr int waitMilliseconds = 5000;
+    sqlite3_busy_timeout(handle, waitMilliseconds);
+    // A rollback journal, not a write-ahead log: stores lie on file servers too, where the
+    // log's shared memory does not work, and a store at rest is one file.
+    runSqlite(handle, "PRAGMA journal_mode = TRUNCATE; PRAGMA synchronous = FULL; PRAGMA temp_store = MEMORY;"
+                      "PRAGMA cache_size = -65536; PRAGMA foreign_keys = OFF");
+}
+
+} // namespace jet

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace jet {
+
+/// Raises Failure with a text that names the file unless it is a store this program can
+/// read: missing, a folder, no store at all, made by a newer version. Looks only.
+void checkStoreFile(const QString &path);
+
+/// Makes an empty store. Raises Failure when the path is taken or cannot be made.
+void createStoreFile(const QString &path);
+
+} // namespace jet

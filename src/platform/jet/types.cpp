@@ -1,0 +1,145 @@
+#include "platform/jet/types.h"
+
+#include "platform/jet/words.h"
+
+namespace jet {
+namespace {
+
+struct TypeRow
+{
+    DataType type;
+    FieldType field;
+    int size;
+    const char *declaration;
+};
+
+constexpr int MemoSize = 1073741823;
+
+// The declared names are chosen so that SQLite gives every one of them numeric affinity, but
+// the texts, and none of them integer primary key behaviour.
+constexpr TypeRow types[] = {
+    {DataType::Unknown, FieldType::Text, 255, ""},
+    {DataType::Boolean, FieldType::Boolean, 2, "YESNO"},
+    {DataType::Byte, FieldType::Byte, 1, "BYTE"},
+    {DataType::Short, FieldType::Short, 2, "SHORT"},
+    {DataType::Long, FieldType::Long, 4, "LONG"},
+    {DataType::Counter, FieldType::Long, 4, "INTEGER"},
+    {DataType::Single, FieldType::Single, 4, "SINGLE"},
+    {DataType::Double, FieldType::Double, 8, "DOUBLE"},
+    {DataType::Currency, FieldType::Currency, 8, "CURRENCY"},
+    {DataType::Date, FieldType::Date, 8, "DATETIME"},
+    {DataType::Text, FieldType::Text, 255, "TEXT"},
+    {DataType::Memo, FieldType::Memo, MemoSize, "TEXT"},
+};
+
+struct TypeName
+{
+    std::string_view name;
+    DataType type;
+};
+
+constexpr TypeName names[] = {
+    {"BIT", DataType::Boolean},
+    {"BOOLEAN", DataType::Boolean},
+    {"LOGICAL", DataType::Boolean},
+    {"LOGICAL1", DataType::Boolean},
+    {"YESNO", DataType::Boolean},
+    {"BYTE", DataType::Byte},
+    {"INTEGER1", DataType::Byte},
+    {"TINYINT", DataType::Byte},
+    {"SHORT", DataType::Short},
+    {"INTEGER2", DataType::Short},
+    {"SMALLINT", DataType::Short},
+    {"LONG", DataType::Long},
+    {"INT", DataType::Long},
+    {"INTEGER", DataType::Long},
+    {"INTEGER4", DataType::Long},
+    {"COUNTER", DataType::Counter},
+    {"AUTOINCREMENT", DataType::Counter},
+    {"IDENTITY", DataType::Counter},
+    {"SINGLE", DataType::Single},
+    {"REAL", DataType::Single},
+    {"FLOAT4", DataType::Single},
+    {"DOUBLE", DataType::Double},
+    {"FLOAT", DataType::Double},
+    {"FLOAT8", DataType::Double},
+    {"NUMBER", DataType::Double},
+    {"NUMERIC", DataType::Double},
+    {"DECIMAL", DataType::Double},
+    {"CURRENCY", DataType::Currency},
+    {"MONEY", DataType::Currency},
+    {"DATETIME", DataType::Date},
+    {"DATE", DataType::Date},
+    {"TIME", DataType::Date},
+    {"TIMESTAMP", DataType::Date},
+    {"TEXT", DataType::Memo},
+    {"CHAR", DataType::Text},
+    {"VARCHAR", DataType::Text},
+    {"STRING", DataType::Text},
+    {"CHARACTER", DataType::Text},
+    {"ALPHANUMERIC", DataType::Text},
+    {"NCHAR", DataType::Text},
+    {"NVARCHAR", DataType::Text},
+    {"MEMO", DataType::Memo},
+    {"LONGTEXT", DataType::Memo},
+    {"LONGCHAR", DataType::Memo},
+    {"NOTE", DataType::Memo},
+    {"NTEXT", DataType::Memo},
+};
+
+const TypeRow &row(DataType type)
+{
+    return types[static_cast<int>(type)];
+}
+
+} // namespace
+
+FieldType fieldType(DataType type)
+{
+    return row(type).field;
+}
+
+int definedSize(ColumnType type)
+{
+    return type.width > 0 ? type.width : row(type.type).size;
+}
+
+DataType typeByName(std::string_view name)
+{
+    for (const TypeName &entry : names) {
+        if (sameWord(entry.name, name))
+            return entry.type;
+    }
+    return DataType::Unknown;
+}
+
+std::string declaration(ColumnType type)
+{
+    if (type.type == DataType::Text)
+        return "TEXT(" + std::to_string(type.width > 0 ? type.width : 255) + ")";
+    return row(type.type).declaration;
+}
+
+bool comparable(DataType left, DataType right)
+{
+    if (left == DataType::Unknown || right == DataType::Unknown)
+        return true;
+    return isText(left) == isText(right);
+}
+
+DataType commonType(DataType left, DataType right)
+{
+    if (left == right || right == DataType::Unknown)
+        return left;
+    if (left == DataType::Unknown)
+        return right;
+    if (isText(left) || isText(right))
+        return isText(left) && isText(right) ? DataType::Memo : DataType::Unknown;
+    if (left == DataType::Date || right == DataType::Date)
+        return DataType::Date;
+    if (isWhole(left) && isWhole(right))
+        return DataType::Long;
+    return DataType::Double;
+}
+
+} // namespace jet

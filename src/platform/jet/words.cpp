@@ -1,0 +1,25 @@
+#include "platform/jet/words.h"
+
+#include <vector>
+
+namespace jet {
+
+std::size_t wordDistance(std::string_view left, std::string_view right)
+{
+    std::vector<std::size_t> row(right.size() + 1);
+    for (std::size_t j = 0; j <= right.size(); ++j)
+        row[j] = j;
+    for (std::size_t i = 1; i <= left.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i;
+        for (std::size_t j = 1; j <= right.size(); ++j) {
+            const std::size_t above = row[j];
+            const std::size_t change = diagonal + (lowered(left[i - 1]) == lowered(right[j - 1]) ? 0 : 1);
+            row[j] = std::min({above + 1, row[j - 1] + 1, change});
+            diagonal = above;
+        }
+    }
+    return row[right.size()];
+}
+
+} // namespace jet
