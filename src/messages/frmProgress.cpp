@@ -2,6 +2,7 @@
 
 #include "messages/modProgress.h"
 #include "toolkit/banner.h"
+#include "toolkit/imagelist.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -14,6 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int widthInCharacters = 52;
+constexpr int busyPicture = 17;
 
 template <typename Widget>
 Widget *named(Widget *widget, QLatin1StringView name)
@@ -37,6 +39,7 @@ frmProgress::frmProgress(QWidget *owner)
     setObjectName("frmProgress"_L1);
     setWindowTitle(u"Progress"_s);
     picInfo->setObjectName("picInfo"_L1);
+    picLogoContainer->setPicture(imageLists().ImageListToolbar, busyPicture);
     lblObject->setTextFormat(Qt::PlainText);
     lblObject->setWordWrap(true);
     lblObject->setMinimumHeight(2 * fontMetrics().lineSpacing());

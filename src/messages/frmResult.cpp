@@ -5,6 +5,7 @@
 #include "messages/guard.h"
 #include "session/identity.h"
 #include "toolkit/banner.h"
+#include "toolkit/imagelist.h"
 #include "toolkit/messagebox.h"
 
 #include <QFile>
@@ -20,6 +21,7 @@ namespace {
 
 constexpr int widthInCharacters = 90;
 constexpr int heightInLines = 26;
+constexpr int textPicture = 12;
 
 } // namespace
 
@@ -36,6 +38,7 @@ frmResult::frmResult(QWidget *owner)
     setObjectName("frmResult"_L1);
     setWindowTitle(u"Information Window"_s);
     setAttribute(Qt::WA_DeleteOnClose);
+    picLogoContainer->setPicture(imageLists().ImageListList, textPicture);
     txtResult->setObjectName("txtResult"_L1);
     txtResult->setAccessibleName(u"Result"_s);
     txtResult->setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -22,7 +22,7 @@ QLabel *makePicture(QWidget *parent, QLatin1StringView name)
 
 } // namespace
 
-Banner::Banner(QWidget *parent, Live live) : QFrame(parent)
+Banner::Banner(QWidget *parent, Live live) : QFrame(parent), m_pictures(&imageLists().ImageListContext)
 {
     setObjectName("picLogoContainer"_L1);
     setFrameStyle(int(StyledPanel) | int(Plain));
@@ -57,13 +57,19 @@ Banner::Banner(QWidget *parent, Live live) : QFrame(parent)
 
 void Banner::setPicture(int number)
 {
+    setPicture(imageLists().ImageListContext, number);
+}
+
+void Banner::setPicture(const ImageList &pictures, int number)
+{
+    m_pictures = &pictures;
     m_picture = number;
     showPicture();
 }
 
 void Banner::showPicture()
 {
-    picContext->setPixmap(imageLists().ImageListContext.pixmap(m_picture, devicePixelRatioF()));
+    picContext->setPixmap(m_pictures->icon(m_picture).pixmap(picContext->size(), devicePixelRatioF()));
     if (picNT)
         picNT->setPixmap(
             imageLists().ImageListDataContext.icon(livePicture).pixmap(picNT->size(), devicePixelRatioF()));

@@ -2,6 +2,7 @@
 
 #include <QFrame>
 
+class ImageList;
 class QLabel;
 
 /// The strip across the top of a window, named picLogoContainer: the picture of what the
@@ -16,6 +17,8 @@ public:
 
     /// Picture of ImageListContext.
     void setPicture(int number);
+    /// A picture of another list, in the size of the banner's own.
+    void setPicture(const ImageList &pictures, int number);
     /// 0 before the first setPicture().
     [[nodiscard]] int picture() const { return m_picture; }
 
@@ -28,5 +31,6 @@ protected:
 
 private:
     void showPicture();
+    const ImageList *m_pictures;
     int m_picture = 0;
 };
