@@ -89,13 +89,13 @@ void Main()
     installDesktop();
     registerFamilies();
 
-    showStartWindow();
-    yieldToEvents();
+    attempt(showStartWindow);
+    attempt(yieldToEvents);
     attempt(resolveNetwork);
-    yieldToEvents();
+    attempt(yieldToEvents);
     testStore();
     mainForm().show();
-    showStatusReady();
+    attempt(showStatusReady);
 }
 
 frmMain &mainForm()

@@ -53,6 +53,12 @@ frmMain::frmMain()
     m_area->setObjectName("mdiArea"_L1);
     StatusBar->setObjectName("StatusBar"_L1);
 
+    connect(m_area, &QMdiArea::subWindowActivated, this, [this] {
+        if (m_area->currentSubWindow())
+            return;
+        setViewMenus({});
+        setWindowMenuShown(false);
+    });
     setMainWindow(this);
     fillToolbar(*this, *ToolbarMain, mainToolbar());
     showOnlyToolbar(Toolbar::Main);

@@ -35,7 +35,9 @@ QList<QMdiSubWindow *> shownWindows(const QMdiArea &area, bool minimized)
 void tile(const QMdiArea &area, Qt::Orientation side)
 {
     const QList<QMdiSubWindow *> windows = shownWindows(area, false);
-    const QRect room = area.viewport()->rect();
+    const QList<QMdiSubWindow *> icons = shownWindows(area, true);
+    const QRect room =
+        area.viewport()->rect().adjusted(0, 0, 0, icons.isEmpty() ? 0 : -icons.first()->height());
     const int count = int(windows.size());
     for (int i = 0; i < count; ++i) {
         windows[i]->showNormal();

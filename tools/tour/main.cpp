@@ -44,6 +44,8 @@ constexpr Variant variants[] = {
 QPalette darkPalette()
 {
     QPalette palette(QColor(0x2b, 0x2d, 0x30), QColor(0x23, 0x25, 0x28));
+    palette.setColor(QPalette::Base, QColor(0x1c, 0x1e, 0x21));
+    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2c));
     palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, QColor(0x6c, 0xa8, 0xf5));
