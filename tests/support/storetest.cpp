@@ -1,0 +1,53 @@
+#include "support/storetest.h"
+
+#include "platform/jet/connection.h"
+#include "platform/jet/recordset.h"
+#include "platform/settings/settings.h"
+#include "session/modRegistry.h"
+#include "store/storefile.h"
+#include "store/storesession.h"
+
+using namespace Qt::StringLiterals;
+
+void FolderTest::SetUp()
+{
+    ASSERT_TRUE(m_folder.isValid());
+    settings::setFolder(m_folder.path());
+}
+
+void StoreTest::SetUp()
+{
+    FolderTest::SetUp();
+    createStore(storePath());
+    modRegistry::saveDataBase(storePath());
+}
+
+QString StoreTest::storePath() const
+{
+    return path(u"store.mdb"_s);
+}
+
+QString StoreTest::connection() const
+{
+    return jet::connectionString(storePath());
+}
+
+void StoreTest::execute(const QString &sql) const
+{
+    StoreSession(connection()).execute(sql);
+}
+
+QStringList StoreTest::column(const QString &sql) const
+{
+    jet::Recordset rows;
+    StoreSession(connection()).open(sql, rows);
+    QStringList texts;
+    for (; !rows.eof(); rows.moveNext())
+        texts += rows.value(0).toText();
+    return texts;
+}
+
+Value StoreTest::scalar(const QString &sql) const
+{
+    return StoreSession(connection()).scalar(sql);
+}
