@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+#include <QStringView>
+
+#include <span>
+
+class QWidget;
+
+/// The import of text files into the store.
+namespace modImport {
+
+struct ImportType
+{
+    QLatin1StringView name;   ///< as the user picks it
+    QLatin1StringView format; ///< what the information button shows
+    void (*read)(const QString &path);
+};
+
+/// In the order in which they are offered.
+[[nodiscard]] std::span<const ImportType> importTypes();
+/// Nothing for a text that names no type.
+[[nodiscard]] const ImportType *importType(QStringView name);
+
+/// Opens the dialog, modal to the owner.
+void showImport(QWidget *owner);
+
+/// The Import button: refuses what is incomplete, asks, and runs the reader of the type,
+/// which reports by itself.
+void startImport(const QString &typeName, const QString &path);
+/// Hands the file to the program that the user opens such files with.
+void previewFile(const QString &path);
+/// Shows the format of the type in the result window.
+void showFormat(const QString &typeName);
+
+} // namespace modImport

@@ -1,0 +1,113 @@
+#include "sync/modUsers.h"
+
+#include "exchange/modImportSteps.h"
+#include "messages/guard.h"
+#include "platform/jet/recordset.h"
+#include "session/connectionstring.h"
+#include "store/clsUsers.h"
+#include "toolkit/pointer.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView fieldsOfALine[] = {
+    "UserName"_L1, "ServerName"_L1, "FullName"_L1,   "Comment"_L1,     "UserComment"_L1, "HomeDirDrive"_L1,
+    "HomeDir"_L1,  "Profile"_L1,    "ScriptPath"_L1, "AccDisabled"_L1, "NoChangePwd"_L1, "NoExpirePwd"_L1,
+};
+constexpr QLatin1StringView whenEmpty[] = {"No Username on Line "_L1, "No Server Information on Line "_L1};
+
+// The three flags at the end go bare into the statement, so there is no user without them.
+constexpr modImportSteps::LineFormat userLine{whenEmpty, std::size(fieldsOfALine)};
+
+constexpr int textSize = 255;
+
+/// The users of the good lines, in a recordset of the shape of Tbl_Users with all fields text.
+class UserLines final
+{
+public:
+    explicit UserLines(const QString &connectionString)
+    {
+        jet::Recordset structure;
+        clsUsers().getStructure(connectionString, structure);
+        for (int i = 0; i < structure.fields().count(); ++i)
+            records.fields().append(structure.fields().item(i).name(), jet::FieldType::VarChar, textSize);
+        records.open();
+        for (std::size_t i = 0; i < m_places.size(); ++i)
+            m_places[i] = records.fields().indexOf(QString(fieldsOfALine[i]));
+        m_id = records.fields().indexOf(u"UserID");
+    }
+
+    void add(const modImportSteps::Fields &fields)
+    {
+        records.addNew();
+        records.fields().item(m_id).setValue(u"0"_s);
+        for (std::size_t i = 0; i < m_places.size(); ++i)
+            records.fields().item(m_places[i]).setValue(fields[qsizetype(i)].toString());
+    }
+
+    [[nodiscard]] QString currentName() { return records.value(m_places.front()).toText(); }
+
+    jet::Recordset records;
+
+private:
+    std::array<int, std::size(fieldsOfALine)> m_places{};
+    int m_id = 0;
+};
+
+struct Outcome
+{
+    bool cancelled = false;
+    modImportSteps::ImportCounts counts;
+    QString fileErrors;
+    QString batchErrors;
+};
+
+/// Nothing when the user cancels before anything is written.
+std::optional<Outcome> readAndWrite(const QString &path, bool leaveExisting)
+{
+    const Hourglass hourglass;
+    modImportSteps::ImportProgress progress;
+    Outcome outcome;
+    const QString store = getConnectionString();
+    UserLines users(store);
+    if (!modImportSteps::readLines(path, userLine, progress, outcome.fileErrors,
+                                   [&](const modImportSteps::Fields &fields) { users.add(fields); }))
+        return std::nullopt;
+
+    progress.begin(u"Writing Users to DB. Please Wait."_s, users.records.recordCount());
+    const auto showWritten = [&](int done) {
+        outcome.cancelled = progress.isDue(done) && !progress.step(users.currentName(), done);
+        return !outcome.cancelled;
+    };
+    clsUsers().AddBatchFromFile(store, users.records, leaveExisting, outcome.counts.added,
+                                outcome.counts.updated, outcome.counts.failed, outcome.batchErrors,
+                                showWritten);
+    return outcome;
+}
+
+void importUsers(const QString &path)
+{
+    const std::optional<bool> leaveExisting = modImportSteps::askLeaveExisting();
+    if (!leaveExisting)
+        return;
+    const std::optional<Outcome> outcome = readAndWrite(path, *leaveExisting);
+    if (!outcome)
+        return;
+    if (outcome->cancelled)
+        modImportSteps::reportCancelledImport(path, outcome->counts, outcome->fileErrors,
+                                              outcome->batchErrors);
+    else
+        modImportSteps::reportImport(path, outcome->fileErrors, outcome->batchErrors,
+                                     u"The Operation was completed successfully\r\nYou may refresh your User "
+                                     "Database View to see changes applied to your existing Users"_s);
+}
+
+} // namespace
+
+void modUsers::importUsersFromFile(const QString &path)
+{
+    guarded([&] { importUsers(path); });
+}
