@@ -206,8 +206,9 @@ private:
             if (parts > 0)
                 separators[parts - 1] = between;
         }
-        return monthPlace < 3 ? setNamed(numbers, count, month)
-                              : parts == 3 && setNumbers(numbers, separators);
+        if (monthPlace < 3)
+            return setNamed(numbers, count, month);
+        return parts == 3 ? setNumbers(numbers, separators) : fail();
     }
 
     /// 15 Jan 2005, Jan 15, 2005, 2005 Jan 15 and Jan 2005, the first of that month.
