@@ -1,0 +1,87 @@
+#pragma once
+
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/recordset.h"
+#include "store/clsUsers.h"
+#include "store/storefile.h"
+#include "store/storesession.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+using namespace Qt::StringLiterals;
+
+/// A row as text: its values with a bar between, Null as "-".
+using Rows = QStringList;
+
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+inline Rows rowsOf(jet::Recordset &records)
+{
+    Rows rows;
+    for (; !records.eof(); records.moveNext()) {
+        QStringList values;
+        for (int i = 0; i < records.fields().count(); ++i)
+            values.append(records.value(i).isNull() ? u"-"_s : records.value(i).toText());
+        rows.append(values.join(u'|'));
+    }
+    return rows;
+}
+
+/// A new, empty store for each test.
+class StoreTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        createStore(path);
+    }
+
+    void run(const QString &sql) { StoreSession(connection).execute(sql); }
+
+    Rows rows(const QString &sql)
+    {
+        jet::Recordset records;
+        StoreSession(connection).open(sql, records);
+        return rowsOf(records);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"company.kvs"_s);
+    QString connection = jet::connectionString(path);
+    clsUsers users;
+};
+
+/// The error that a step raises; number 0 when it raises none.
+template <typename Step>
+CurrentError errorOf(Step &&step)
+{
+    CurrentError error;
+    try {
+        step();
+    } catch (const Error &raised) {
+        error.set(raised);
+    }
+    return error;
+}
+
+/// Records made in memory, as the batch writers get them: all fields text.
+inline void makeRecords(jet::Recordset &records, const QStringList &names, const QList<QStringList> &rows)
+{
+    for (const QString &name : names)
+        records.fields().append(name, jet::FieldType::VarChar, 255);
+    records.open();
+    for (const QStringList &row : rows) {
+        records.addNew();
+        for (int i = 0; i < row.size(); ++i)
+            records.fields().item(i).setValue(row[i]);
+    }
+}
