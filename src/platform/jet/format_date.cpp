@@ -1,0 +1,196 @@
+#include "platform/jet/format.h"
+
+#include "base/oledate.h"
+#include "platform/jet/picture.h"
+#include "platform/jet/words.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace jet {
+
+namespace {
+
+constexpr std::string_view shortDate = "m/d/yyyy";
+constexpr std::string_view longDate = "dddd, mmmm d, yyyy";
+constexpr std::string_view longTime = "h:nn:ss AM/PM";
+
+struct NamedPicture
+{
+    std::string_view name;
+    std::string_view picture;
+};
+
+constexpr std::array namedPictures{
+    NamedPicture{"General Date", "c"},        NamedPicture{"Long Date", longDate},
+    NamedPicture{"Medium Date", "dd-mmm-yy"}, NamedPicture{"Short Date", shortDate},
+    NamedPicture{"Long Time", longTime},      NamedPicture{"Medium Time", "hh:nn AM/PM"},
+    NamedPicture{"Short Time", "hh:nn"},
+};
+
+constexpr std::array<std::string_view, 3> halfMarks{"AM/PM", "AMPM", "A/P"};
+
+/// The mark of the half of the day that the text begins with, as it is written there, or empty.
+std::string_view halfMarkAt(std::string_view text)
+{
+    for (const std::string_view mark : halfMarks)
+        if (sameWord(text.substr(0, mark.size()), mark))
+            return text.substr(0, mark.size());
+    return {};
+}
+
+/// A letter and how often it stands in a row, or a text as it is.
+struct Token
+{
+    char letter = 0;
+    int count = 0;
+    std::string_view text;
+};
+
+constexpr std::string_view letters = "dmyhnsqwct";
+
+std::vector<Token> tokensOf(std::string_view picture)
+{
+    std::vector<Token> tokens;
+    const auto items = pictureItems(picture);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const std::string_view text = items[i].text;
+        const std::string_view rest(text.data(), std::size_t(picture.data() + picture.size() - text.data()));
+        const std::string_view mark = items[i].literal ? std::string_view() : halfMarkAt(rest);
+        const char letter = lowered(text.front());
+        if (!mark.empty()) {
+            tokens.push_back({'a', int(mark.size()), mark});
+            i += mark.size() - 1;
+        } else if (items[i].literal || letters.find(letter) == std::string_view::npos) {
+            tokens.push_back({0, 0, text});
+        } else {
+            std::size_t end = i + 1;
+            while (end < items.size() && !items[end].literal && lowered(items[end].text.front()) == letter)
+                ++end;
+            tokens.push_back({letter, int(end - i), text});
+            i = end - 1;
+        }
+    }
+    return tokens;
+}
+
+std::string padded(int number, int width)
+{
+    std::string text = std::to_string(number);
+    if (int(text.size()) < width)
+        text.insert(0, std::size_t(width) - text.size(), '0');
+    return text;
+}
+
+std::string nameOf(QLatin1StringView name, bool full)
+{
+    return std::string(name.data(), std::size_t(full ? name.size() : 3));
+}
+
+class DateWriter final
+{
+public:
+    DateWriter(double date, WeekRule rule)
+        : m_date(date)
+        , m_rule(rule)
+        , m_parts(oledate::toParts(date))
+        , m_day(oledate::toMoment(date).day)
+    {
+    }
+
+    [[nodiscard]] std::string write(std::string_view picture) const
+    {
+        const std::vector<Token> tokens = tokensOf(picture);
+        const bool twelve =
+            std::ranges::any_of(tokens, [](const Token &token) { return token.letter == 'a'; });
+        std::string text;
+        char before = 0;
+        for (const Token &token : tokens) {
+            // Behind an hour, m is the minute.
+            const bool minute =
+                token.letter == 'n' || (token.letter == 'm' && before == 'h' && token.count <= 2);
+            if (minute)
+                text += padded(m_parts.minute, token.count);
+            else if (token.letter == 'h')
+                text += padded(twelve ? (m_parts.hour + 11) % 12 + 1 : m_parts.hour, token.count);
+            else
+                text += one(token);
+            if (token.letter != 0)
+                before = token.letter;
+        }
+        return text;
+    }
+
+private:
+    [[nodiscard]] std::string one(const Token &token) const
+    {
+        switch (token.letter) {
+        case 'd':
+            return dayText(token.count);
+        case 'm':
+            return token.count <= 2 ? padded(m_parts.month, token.count)
+                                    : nameOf(oledate::monthName(m_parts.month), token.count > 3);
+        case 'y':
+            return token.count == 1   ? std::to_string(dayOfYear(m_day))
+                   : token.count == 2 ? padded(m_parts.year % 100, 2)
+                                      : padded(m_parts.year, 4);
+        case 's':
+            return padded(m_parts.second, token.count);
+        case 'q':
+            return std::to_string((m_parts.month + 2) / 3);
+        case 'w':
+            return std::to_string(token.count == 1 ? dayOfWeek(m_day, m_rule) : weekOfYear(m_day, m_rule));
+        case 'c':
+            return oledate::toText(m_date).toStdString();
+        case 't':
+            return token.count == 5 ? write(longTime)
+                                    : std::string(token.text.data(), std::size_t(token.count));
+        case 'a':
+            return halfText(token.text);
+        default:
+            return std::string(token.text);
+        }
+    }
+
+    [[nodiscard]] std::string dayText(int count) const
+    {
+        switch (count) {
+        case 1:
+        case 2:
+            return padded(m_parts.day, count);
+        case 3:
+        case 4:
+            return nameOf(oledate::weekdayName(oledate::weekday(m_day)), count == 4);
+        case 5:
+            return write(shortDate);
+        default:
+            return write(longDate);
+        }
+    }
+
+    /// In the case and the length that the mark is written in.
+    [[nodiscard]] std::string halfText(std::string_view mark) const
+    {
+        std::string text = m_parts.hour < 12 ? "AM" : "PM";
+        if (mark.size() == 3)
+            text.pop_back();
+        return mark.front() == 'a' ? loweredWord(text) : text;
+    }
+
+    double m_date;
+    WeekRule m_rule;
+    oledate::Parts m_parts;
+    std::int64_t m_day;
+};
+
+} // namespace
+
+std::string formatDate(double date, std::string_view picture, WeekRule rule)
+{
+    const auto named = std::ranges::find_if(
+        namedPictures, [&](const NamedPicture &row) { return sameWord(row.name, picture); });
+    return DateWriter(date, rule).write(named == namedPictures.end() ? picture : named->picture);
+}
+
+} // namespace jet

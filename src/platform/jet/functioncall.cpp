@@ -1,0 +1,237 @@
+#include "platform/jet/functioncall.h"
+
+#include "base/oledate.h"
+#include "platform/jet/collation.h"
+#include "platform/jet/errors.h"
+#include "platform/jet/numbertext.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <new>
+#include <sqlite3.h>
+
+namespace jet {
+
+namespace {
+
+// A message of ours is this character, the number, the same character, the text.
+constexpr char numberMark = '\x01';
+
+void run(sqlite3_context *context, int count, sqlite3_value **values)
+{
+    const auto &binding = *static_cast<const Binding *>(sqlite3_user_data(context));
+    try {
+        Call call(context, count, values);
+        if (binding.nulls == NullRule::GivesNull)
+            for (int i = 0; i < count; ++i)
+                if (call.isNull(i))
+                    return;
+        binding.body(call);
+    } catch (const CallError &error) {
+        resultError(context, error.number, error.text);
+    } catch (const std::bad_alloc &) {
+        sqlite3_result_error_nomem(context);
+    }
+}
+
+} // namespace
+
+void raiseMismatch()
+{
+    throw CallError{TypeMismatch, "Data type mismatch in criteria expression."};
+}
+
+void raiseOverflow()
+{
+    throw CallError{Failure, "Overflow"};
+}
+
+void raiseInvalidCall()
+{
+    throw CallError{Failure, "Invalid procedure call"};
+}
+
+void raiseDivisionByZero()
+{
+    throw CallError{Failure, "Division by zero"};
+}
+
+double roundToEven(double number)
+{
+    return std::nearbyint(number);
+}
+
+std::optional<double> currency(double number)
+{
+    constexpr double largest = 922337203685477.5807;
+    if (!(std::abs(number) <= largest))
+        return {};
+    constexpr double scale = 10000;
+    return roundToEven(number * scale) / scale;
+}
+
+void resultError(sqlite3_context *context, int number, std::string_view text)
+{
+    const std::string message = numberMark + std::to_string(number) + numberMark + std::string(text);
+    sqlite3_result_error(context, message.data(), int(message.size()));
+}
+
+int takeErrorNumber(std::string_view &message)
+{
+    if (message.empty() || message.front() != numberMark)
+        return 0;
+    const std::size_t end = message.find(numberMark, 1);
+    int number = 0;
+    if (end == std::string_view::npos ||
+        std::from_chars(message.data() + 1, message.data() + end, number).ec != std::errc())
+        return 0;
+    message.remove_prefix(end + 1);
+    return number;
+}
+
+Call::Call(sqlite3_context *context, int count, sqlite3_value **values)
+    : m_context(context)
+    , m_count(count)
+    , m_values(values)
+{
+}
+
+bool Call::isNull(int index) const
+{
+    return index >= m_count || sqlite3_value_type(m_values[index]) == SQLITE_NULL;
+}
+
+bool Call::isText(int index) const
+{
+    const int type = index < m_count ? sqlite3_value_type(m_values[index]) : SQLITE_NULL;
+    return type == SQLITE_TEXT || type == SQLITE_BLOB;
+}
+
+bool Call::isWhole(int index) const
+{
+    return index < m_count && sqlite3_value_type(m_values[index]) == SQLITE_INTEGER;
+}
+
+double Call::number(int index) const
+{
+    if (isNull(index))
+        return 0;
+    if (!isText(index))
+        return sqlite3_value_double(m_values[index]);
+    const auto number = parseNumber(ownText(index));
+    if (!number)
+        raiseMismatch();
+    return toDouble(*number);
+}
+
+int Call::whole(int index) const
+{
+    const double rounded = roundToEven(number(index));
+    if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max()))
+        raiseOverflow();
+    return int(rounded);
+}
+
+std::int64_t Call::wide(int index) const
+{
+    if (isWhole(index))
+        return sqlite3_value_int64(m_values[index]);
+    const double rounded = roundToEven(number(index));
+    constexpr double limit = 9223372036854775808.0;
+    if (!(rounded >= -limit && rounded < limit))
+        raiseOverflow();
+    return static_cast<std::int64_t>(rounded);
+}
+
+double Call::date(int index) const
+{
+    double days = 0;
+    if (isText(index)) {
+        const std::string_view text = ownText(index);
+        const auto date = oledate::parse(QString::fromUtf8(text.data(), qsizetype(text.size())));
+        if (!date)
+            raiseMismatch();
+        days = *date;
+    } else {
+        days = number(index);
+    }
+    if (!(days > double(oledate::smallestDay) - 1 && days < double(oledate::largestDay) + 1))
+        raiseOverflow();
+    return days;
+}
+
+double Call::dateOrNumber(int index) const
+{
+    const auto serial = isText(index) ? parseNumber(ownText(index)) : std::nullopt;
+    return serial ? toDouble(*serial) : date(index);
+}
+
+bool Call::boolean(int index)
+{
+    if (isText(index)) {
+        const std::string word = foldCase(ownText(index));
+        if (word == "true" || word == "yes" || word == "on")
+            return true;
+        if (word == "false" || word == "no" || word == "off")
+            return false;
+    }
+    return number(index) != 0;
+}
+
+std::string_view Call::ownText(int index) const
+{
+    const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(m_values[index]));
+    if (!text)
+        throw std::bad_alloc();
+    return {text, std::size_t(sqlite3_value_bytes(m_values[index]))};
+}
+
+std::string_view Call::text(int index)
+{
+    if (isNull(index))
+        return {};
+    if (!isText(index)) {
+        m_texts.push_front(isWhole(index) ? std::to_string(sqlite3_value_int64(m_values[index]))
+                                          : numberText(sqlite3_value_double(m_values[index])));
+        return m_texts.front();
+    }
+    return ownText(index);
+}
+
+void Call::give(std::string_view text)
+{
+    sqlite3_result_text64(m_context, text.empty() ? "" : text.data(), text.size(), SQLITE_TRANSIENT,
+                          SQLITE_UTF8);
+}
+
+void Call::giveNumber(double number)
+{
+    if (!std::isfinite(number))
+        raiseOverflow();
+    sqlite3_result_double(m_context, number);
+}
+
+void Call::giveWhole(std::int64_t number)
+{
+    sqlite3_result_int64(m_context, number);
+}
+
+void Call::giveArgument(int index)
+{
+    sqlite3_result_value(m_context, m_values[index]);
+}
+
+void Call::giveNull()
+{
+    sqlite3_result_null(m_context);
+}
+
+void bindFunction(sqlite3 *handle, const char *name, const Binding &binding)
+{
+    const int flags = SQLITE_UTF8 | (binding.stability == Stability::SameForSame ? SQLITE_DETERMINISTIC : 0);
+    sqlite3_create_function_v2(handle, name, -1, flags, const_cast<Binding *>(&binding), run, nullptr,
+                               nullptr, nullptr);
+}
+
+} // namespace jet

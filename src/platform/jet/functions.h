@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QDateTime>
+
+#include <functional>
+#include <string_view>
+
+struct sqlite3;
+struct sqlite3_context;
+
+namespace jet {
+
+/// What a call of a function gives.
+enum class ResultKind {
+    Text,
+    Short,
+    Long,
+    Double,
+    Currency,
+    Date,
+    Boolean,
+    SameAsFirst, ///< the type of the first argument
+    Numeric,     ///< Long for whole numbers, otherwise Double (Abs, Int, Fix, Round)
+};
+
+/// One function that people may type. The letters of `arguments` say what the emitter
+/// hands over, the last one standing for all further arguments:
+///   t  text: a date or yes/no is turned into its text first, a number comes as it is
+///   n  number: a text is read as a number first (type mismatch when it is none)
+///   d  date: a text is read as a date first; a number is a date already
+///   v  any value as it is
+///   k  any value, handed over as two arguments: the letter of its static type
+///      ('t', 'n', 'd', 'b' for yes/no, 'u' for unknown) and the value
+struct FunctionInfo
+{
+    std::string_view name; ///< as people write it, without regard to case
+    int minimum;
+    int maximum; ///< -1: any number
+    std::string_view arguments;
+    ResultKind result;
+    const char *sqlite; ///< the SQL function the call becomes
+};
+
+/// The row of a function, or null for an unknown one. A text function is known by its name
+/// with $ behind it, too.
+[[nodiscard]] const FunctionInfo *findFunction(std::string_view name);
+/// The known function whose name is nearest, or empty.
+[[nodiscard]] std::string_view nearestFunction(std::string_view name);
+
+/// Adds every function of the table, the aggregates and the conversions below to a handle:
+///   jet_cat(a, b, ...)   the & operator: Null counts as '', all Null gives Null
+///   jet_like(text, pattern) 1, 0 or Null
+///   jet_text(x)          number to text; jet_datetext(x), jet_booltext(x) ("True"/"False")
+///   jet_num(x)           text to number, raises TypeMismatch; other values as they are
+///   jet_cdate(x)         text to date, raises TypeMismatch; numbers as they are
+///   jet_tolong(x), jet_toshort(x), jet_tobyte(x), jet_todouble(x), jet_tocurrency(x),
+///   jet_todate(x), jet_tobool(x): what a column of that type takes; a text that is no
+///                        such value raises TypeMismatch, a number out of range Failure
+///                        with the text "Numeric field overflow."; Null stays Null
+///   jet_fit(x, n)        the text, raises FieldTooSmall when longer than n characters
+///   jet_div, jet_idiv, jet_mod, jet_pow   the arithmetic that SQLite lacks
+///   jet_raise(number, text)   raises
+void registerFunctions(sqlite3 *handle);
+
+/// Where Date, Now, Time and Timer look; an empty clock is the local time again.
+void setClock(std::function<QDateTime()> clock);
+[[nodiscard]] QDateTime clockTime();
+
+/// Ends a function call with an error that reaches the caller as an Error of that number.
+void resultError(sqlite3_context *context, int number, std::string_view text);
+
+/// Takes the number out of a message made by resultError. Returns 0 for other messages.
+int takeErrorNumber(std::string_view &message);
+
+} // namespace jet

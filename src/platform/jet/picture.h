@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace jet {
+
+/// One step of the picture of a format: a character that stands for itself, or one that may be
+/// a placeholder.
+struct PictureItem
+{
+    std::string_view text;
+    bool literal = false; ///< was quoted or behind a backslash
+};
+
+/// Takes quotes and backslashes away. The views live as long as the picture.
+[[nodiscard]] std::vector<PictureItem> pictureItems(std::string_view picture);
+
+/// The sections between the semicolons that are not literal.
+[[nodiscard]] std::vector<std::string_view> pictureSections(std::string_view picture);
+
+} // namespace jet
