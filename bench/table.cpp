@@ -1,0 +1,97 @@
+#include "table.h"
+
+#include <cstdio>
+
+namespace {
+
+struct Comparison
+{
+    const char *what;
+    const char *subject;
+    const char *floor;
+    double goal;
+};
+
+constexpr Comparison comparisons[] = {
+    {"import of new users from a file", "ImportNew", "ImportNewByHand", 2},
+    {"the same file again, users updated", "ImportKnown", "ImportKnownByHand", 2.5},
+    {"all users into a disconnected recordset", "GetAll", "GetAllByHand", 1.5},
+    {"opening the view of all users, against reading them", "OpenAllUsers", "GetAll", 2},
+};
+
+constexpr int few = 10'000;
+constexpr int many = 100'000;
+constexpr double memoryGoal = 4;
+constexpr double growthGoal = 1.3;
+
+std::string line(const std::string &what, const std::string &rows, const std::string &ours,
+                 const std::string &floor, double ratio, double goal)
+{
+    char numbers[64];
+    std::snprintf(numbers, sizeof numbers, "%.2f | %.1f%s", ratio, goal, ratio > goal ? " **missed**" : "");
+    return "| " + what + " | " + rows + " | " + ours + " | " + floor + " | " + numbers + " |\n";
+}
+
+std::string withUnit(double number, const char *unit)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%.2f %s", number, unit);
+    return text;
+}
+
+std::string perRow(double milliseconds, int rows)
+{
+    return withUnit(milliseconds * 1000 / rows, "µs");
+}
+
+} // namespace
+
+void TableReporter::ReportRuns(const std::vector<Run> &runs)
+{
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run &run : runs) {
+        if (run.error_occurred || run.run_type != Run::RT_Aggregate || run.aggregate_name != "median")
+            continue;
+        Measured &measured = m_measured[run.run_name.function_name + '/' + run.run_name.args];
+        measured.milliseconds = run.GetAdjustedRealTime();
+        for (const auto &[name, counter] : run.counters)
+            measured.counters[name] = counter.value;
+    }
+}
+
+const TableReporter::Measured *TableReporter::find(const std::string &name, int rows) const
+{
+    const auto found = m_measured.find(name + '/' + std::to_string(rows));
+    return found == m_measured.end() ? nullptr : &found->second;
+}
+
+std::string TableReporter::table() const
+{
+    std::string table =
+        "| what, a row | rows | Kelvane | floor | ratio | goal |\n|---|---|---|---|---|---|\n";
+    for (const Comparison &comparison : comparisons)
+        for (const int rows : {few, many}) {
+            const Measured *ours = find(comparison.subject, rows);
+            const Measured *floor = find(comparison.floor, rows);
+            if (ours && floor)
+                table += line(comparison.what, std::to_string(rows), perRow(ours->milliseconds, rows),
+                              perRow(floor->milliseconds, rows), ours->milliseconds / floor->milliseconds,
+                              comparison.goal);
+        }
+    for (const Comparison &comparison : comparisons) {
+        const Measured *large = find(comparison.subject, many);
+        const Measured *small = find(comparison.subject, few);
+        if (large && small)
+            table += line(std::string(comparison.subject) + ": at 100000 rows, against at 10000", "",
+                          perRow(large->milliseconds, many), perRow(small->milliseconds, few),
+                          large->milliseconds / many / (small->milliseconds / few), growthGoal);
+    }
+    if (const Measured *memory = find("MemoryOfAllUsers", many)) {
+        const double bytes = memory->counters.at("bytes");
+        const double texts = memory->counters.at("texts");
+        table +=
+            line("memory of the view of all users, against its texts", std::to_string(many),
+                 withUnit(bytes / many, "bytes"), withUnit(texts / many, "bytes"), bytes / texts, memoryGoal);
+    }
+    return table;
+}
