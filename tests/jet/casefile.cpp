@@ -35,7 +35,7 @@ private:
         else if (m_file.cases.empty() || !m_open)
             mistake("stands before the first case"_L1);
         else if (line.startsWith(u'>'))
-            m_file.cases.back().steps.push_back({.line = m_line, .sql = line.mid(1).trimmed()});
+            m_file.cases.back().steps.emplace_back(m_line, line.mid(1).trimmed());
         else if (m_file.cases.back().steps.empty())
             mistake("is an expectation without a statement"_L1);
         else

@@ -113,8 +113,9 @@ TEST_P(CrashTest, LosesAtMostTheLastGroupOfWrites)
     EXPECT_GE(count, told - writesOfAGroup) << "of " << told;
     EXPECT_LE(count, told + 1);
     EXPECT_EQ(written.value(2).toInteger(), count) << "there are gaps";
-    if (count > 0)
+    if (count > 0) {
         EXPECT_EQ(written.value(1).toInteger(), 1);
+    }
     connection.execute(u"INSERT INTO Tbl_RoomUsers (RoomID,UserID) VALUES (2,1)"_s);
     connection.close();
     EXPECT_EQ(integrityOf(path), "ok");

@@ -123,8 +123,9 @@ void checkRows(const Step &step, jet::Connection &connection)
     const int count = recordset.recordCount();
     const std::vector<Row> actual = rowsOf(recordset);
     EXPECT_EQ(std::size_t(count), actual.size());
-    if (step.count >= 0)
+    if (step.count >= 0) {
         EXPECT_EQ(step.count, count) << text(actual);
+    }
     if (step.rows.empty())
         return;
     EXPECT_TRUE(sameRows(step, actual)) << "expected\n" << text(step.rows) << "actual\n" << text(actual);
