@@ -12,12 +12,12 @@
 #include "shell/frmMain.h"
 #include "store/clsUsers.h"
 #include "sync/modUsers.h"
+#include "toolkit/imagelist.h"
 #include "toolkit/messagebox.h"
 #include "toolkit/yield.h"
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QIcon>
 #include <QPointer>
 #include <QScopeGuard>
 
@@ -44,7 +44,7 @@ void installDesktop()
 {
     desktop::installOpener([](const QUrl &url) { return QDesktopServices::openUrl(url); });
     QGuiApplication::setDesktopFileName(u"kelvane"_s);
-    QGuiApplication::setWindowIcon(QIcon(u":/kelvane.svg"_s));
+    QGuiApplication::setWindowIcon(programIcon());
 }
 
 void showStartWindow()

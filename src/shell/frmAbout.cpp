@@ -2,11 +2,11 @@
 
 #include "platform/desktop/desktop.h"
 #include "session/identity.h"
+#include "toolkit/imagelist.h"
 #include "toolkit/yield.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
@@ -35,7 +35,7 @@ frmAbout::frmAbout(QWidget *owner)
     cmdOK->setObjectName("cmdOK"_L1);
     TimerClose->setObjectName("TimerClose"_L1);
 
-    picLogo->setPixmap(QIcon(u":/kelvane.svg"_s).pixmap(QSize(logoSize, logoSize), devicePixelRatioF()));
+    picLogo->setPixmap(programIcon().pixmap(QSize(logoSize, logoSize), devicePixelRatioF()));
     picLogo->setAccessibleName(programTitle());
     QFont large = LblInfo->font();
     large.setPointSizeF(large.pointSizeF() * 1.5);

@@ -2,6 +2,12 @@
 
 using namespace Qt::StringLiterals;
 
+// A linker leaves out what only registers itself, so the library asks for its pictures.
+static void registerPictures()
+{
+    Q_INIT_RESOURCE(resources);
+}
+
 ImageList::ImageList(const QString &folder, int count, int size) : m_size(size)
 {
     m_icons.reserve(std::size_t(count));
@@ -20,15 +26,27 @@ QPixmap ImageList::pixmap(int number, qreal devicePixelRatio) const
     return icon(number).pixmap(imageSize(), devicePixelRatio);
 }
 
-ImageLists &imageLists()
+static ImageLists *makeImageLists()
 {
-    // Never destroyed: the pictures' engine may be gone before the last static object is.
-    static ImageLists &lists = *new ImageLists{
+    registerPictures();
+    return new ImageLists{
         .ImageListDataContext{u"datacontext"_s, 2, 16},
         .ImageListContext{u"context"_s, 12, 32},
         .ImageListHeaders{u"headers"_s, 2, 12},
         .ImageListList{u"list"_s, 14, 16},
         .ImageListToolbar{u"toolbar"_s, 18, 24},
     };
+}
+
+ImageLists &imageLists()
+{
+    // Never destroyed: the pictures' engine may be gone before the last static object is.
+    static ImageLists &lists = *makeImageLists();
     return lists;
+}
+
+QIcon programIcon()
+{
+    registerPictures();
+    return QIcon(u":/kelvane.svg"_s);
 }

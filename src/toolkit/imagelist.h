@@ -37,3 +37,6 @@ struct ImageLists
 
 /// Made on the first call, which needs the application object.
 [[nodiscard]] ImageLists &imageLists();
+
+/// The program's own picture, of windows and of the start window.
+[[nodiscard]] QIcon programIcon();
