@@ -111,9 +111,9 @@ TEST(ReadOnlyStore, IsReadAndRefusesWrites)
     const QString path = folder.filePath("plan.mdb"_L1);
     createStore(path);
     const QByteArray before = contentOf(path);
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-    QFile::setPermissions(folder.path(),
-                          QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+    const QFile::Permissions readable = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    QFile::setPermissions(path, readable);
+    QFile::setPermissions(folder.path(), readable | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
 
     // Permission bits do not bind the superuser, so the question is asked as nobody.
     const pid_t child = fork();

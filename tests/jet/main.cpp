@@ -2,10 +2,11 @@
 
 #include <gtest/gtest.h>
 
+/// With a folder as argument the cases of that folder are run in place of the project's own.
 int main(int argc, char **argv)
 {
     qputenv("TZ", "UTC");
-    registerCases(QStringLiteral(KELVANE_CASES));
     testing::InitGoogleTest(&argc, argv);
+    registerCases(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral(KELVANE_CASES));
     return RUN_ALL_TESTS();
 }
