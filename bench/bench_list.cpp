@@ -124,4 +124,10 @@ void MemoryOfAllUsers(benchmark::State &state)
 BENCHMARK(GetAll)->Apply(workbench::sizes);
 BENCHMARK(GetAllByHand)->Apply(workbench::sizes);
 BENCHMARK(OpenAllUsers)->Apply(workbench::sizes);
-BENCHMARK(MemoryOfAllUsers)->Apply(workbench::sizes);
+BENCHMARK(MemoryOfAllUsers)
+    ->Arg(100'000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Repetitions(3)
+    ->ReportAggregatesOnly();

@@ -48,6 +48,7 @@ caught check-layers src/messages/guard.cpp '#include "views/frmDisplay.h"' 'mess
 caught check-layers src/views/frmDisplay.cpp '#include "store/modUsers.h"' 'views may not include families'
 caught check-layers src/store/modUsers.cpp '#include "shell/frmMain.h"' 'families may not include shell'
 caught check-layers src/store/clsUsers.cpp '#include "store/clsFolders.h"' 'may not see another'
+caught check-layers src/store/clsHWType.h '#include "store/clsHW.h"' 'may not see another'
 caught check-layers src/store/clsUsers.cpp '#include <QtWidgets/QWidget>' 'no windows'
 caught check-layers src/session/modServers.cpp '#include <QMessageBox>' 'no windows'
 caught check-layers src/views/frmDisplay.cpp 'QMessageBox::question(this);' 'QMessageBox belongs to'
@@ -63,6 +64,7 @@ caught check-docs docs/architecture.md '![A window](pictures/absent.png)' 'absen
 
 passes check-layers src/store/clsUsers.cpp 'run("SELECT * FROM Tbl_Users"_L1);'
 passes check-layers src/store/clsUsers.cpp '#include "store/clsUsers.h"'
+passes check-layers src/store/clsUsersBatch.cpp '#include "store/clsUsers.h"'
 passes check-layers src/shell/frmMain.cpp '#include "views/frmDisplay.h"'
 passes check-layers src/toolkit/messagebox.cpp 'QMessageBox box;'
 passes check-layers src/shell/frmMain.cpp 'label("Select the Program Options you need"_L1);'
