@@ -38,15 +38,15 @@ void Decimal::clean()
         m_point = 0;
 }
 
-void Decimal::round(int decimals, Halves halves)
+bool Decimal::round(int decimals, Halves halves)
 {
     const int kept = m_point + decimals;
     if (kept >= int(m_digits.size()))
-        return;
+        return false;
     if (kept < 0) {
         m_digits.clear();
         clean();
-        return;
+        return true;
     }
     const auto keep = std::size_t(kept);
     const bool isHalf = m_digits[keep] == '5' && keep + 1 == m_digits.size();
@@ -62,6 +62,7 @@ void Decimal::round(int decimals, Halves halves)
         ++m_digits[place];
     }
     clean();
+    return true;
 }
 
 std::string Decimal::wholeDigits() const

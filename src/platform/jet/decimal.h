@@ -13,8 +13,9 @@ public:
 
     explicit Decimal(double number);
 
-    /// To so many digits behind the point.
-    void round(int decimals, Halves halves);
+    /// To so many digits behind the point. Tells whether any were dropped; when none were, the
+    /// number it was made of is exact where this is not.
+    bool round(int decimals, Halves halves);
     /// Moves the point to the right.
     void shift(int places) { m_point += places; }
 

@@ -148,7 +148,7 @@ std::string NumberSection::wholePart(const std::string &digits) const
 {
     std::string text;
     bool begun = false;
-    const auto emit = [&](int position) {
+    const auto put = [&](int position) {
         text += position < int(digits.size()) ? digits[digits.size() - 1 - std::size_t(position)] : '0';
         if (m_thousands && position > 0 && position % 3 == 0)
             text += ',';
@@ -164,9 +164,9 @@ std::string NumberSection::wholePart(const std::string &digits) const
         // The first place takes all digits that the others have no room for.
         if (place == m_wholePlaces - 1)
             for (int position = int(digits.size()) - 1; position > place; --position)
-                emit(position);
+                put(position);
         if (begun || item.text == "0" || place < int(digits.size()))
-            emit(place);
+            put(place);
     }
     return m_wholePlaces == 0 ? text + digits : text;
 }

@@ -49,7 +49,7 @@ std::string formatText(std::string_view text, std::string_view picture)
     std::string result;
     std::ptrdiff_t place = 0;
     std::ptrdiff_t next = 0;
-    const auto emitUpTo = [&](std::ptrdiff_t end) {
+    const auto putUpTo = [&](std::ptrdiff_t end) {
         for (; next < std::min(end, count); ++next)
             result += characters[std::size_t(next)];
     };
@@ -60,17 +60,17 @@ std::string formatText(std::string_view text, std::string_view picture)
             const std::ptrdiff_t end =
                 place - empty + (fromLeft ? 0 : std::max<std::ptrdiff_t>(0, count - places));
             const bool filled = place > empty && next < count;
-            emitUpTo(end);
+            putUpTo(end);
             if (!filled && item.text == "@")
                 result += ' ';
             if (place == places)
-                emitUpTo(count);
+                putUpTo(count);
         } else if (item.literal || (item.text != "<" && item.text != ">" && item.text != "!")) {
             result += item.text;
         }
     }
     if (places == 0)
-        emitUpTo(count);
+        putUpTo(count);
     return result;
 }
 

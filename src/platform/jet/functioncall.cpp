@@ -2,6 +2,7 @@
 
 #include "base/oledate.h"
 #include "platform/jet/collation.h"
+#include "platform/jet/decimal.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/numbertext.h"
 
@@ -67,8 +68,9 @@ std::optional<double> currency(double number)
     constexpr double largest = 922337203685477.5807;
     if (!(std::abs(number) <= largest))
         return {};
-    constexpr double scale = 10000;
-    return roundToEven(number * scale) / scale;
+    constexpr int decimals = 4;
+    Decimal amount(number);
+    return amount.round(decimals, Decimal::Halves::ToEven) ? amount.toDouble() : number;
 }
 
 void resultError(sqlite3_context *context, int number, std::string_view text)

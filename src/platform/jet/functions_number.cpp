@@ -118,8 +118,7 @@ void round(Call &call)
         raiseInvalidCall();
     unlessWhole(call, [decimals](double number) {
         Decimal decimal(number);
-        decimal.round(decimals, Decimal::Halves::ToEven);
-        return decimal.toDouble();
+        return decimal.round(decimals, Decimal::Halves::ToEven) ? decimal.toDouble() : number;
     });
 }
 

@@ -1,0 +1,167 @@
+#include "platform/jet/collation.h"
+
+#include "sqltest.h"
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+namespace {
+
+int sign(int order)
+{
+    return (order > 0) - (order < 0);
+}
+
+struct Equality
+{
+    const char *left;
+    const char *right;
+    bool equal;
+};
+
+const Equality equalities[] = {
+    {"a", "A", true},
+    {"É", "é", true},
+    {"é", "e", false},
+    {"ЖУК", "жук", true},
+    {"ΣΟΦΌΣ", "σοφός", true},
+    {"Straße", "STRASSE", true},
+    {"STRAẞE", "strasse", true},
+    {"Æsir", "aesir", true},
+    {"þing", "THING", true},
+    {"œuvre", "Oeuvre", true},
+    {"øl", "ol", false},
+    {"e\u0301", "é", true}, // in two characters and in one
+    {"\u212B", "å", true},  // the sign of the angstrom
+    {"co-op", "coop", false},
+    {"O'Brien", "OBrien", false},
+    {"O'Brien", "o'brien", true},
+    {"a   ", "a", true},
+    {"   ", "", true},
+    {" a", "a", false},
+    {"a\t", "a", false},
+    {"", "a", false},
+    {"a\xff", "a\xfe", false},
+};
+
+/// Each list stands in its order.
+const std::vector<std::vector<std::string>> orders = {
+    {"",  "\t", " a", "!", "\"", "#",  "$", "%", "&", "(", ")", "*", ",", ".", "/",
+     ":", ";",  "?",  "@", "[",  "\\", "]", "^", "_", "`", "{", "|", "}", "~", "+",
+     "<", "=",  ">",  "§", "0",  "1",  "9", "a", "B", "c", "Z", "Ω", "я", "漢"},
+    {"Oakes", "Obama", "O'Brien", "Ozark"},
+    {"coop", "co-op", "cop"},
+    {"adams", "Ärger", "Bauer"},
+    {"cote", "coté", "côte", "côté"},
+    {"resume", "résumé", "resumed"},
+    {"Muellers", "muller", "Müller", "mum"},
+    {"a", "a-", "ä", "ab"},
+    {"user 9", "user_1", "user1", "user10", "user2", "users"},
+    {"C:\\Data", "C:\\Data\\", "C:\\Data\\x"},
+};
+
+std::string randomText(std::mt19937 &random)
+{
+    static const std::vector<std::string> pieces = {
+        "a",
+        "A",
+        "b",
+        "ss",
+        "ß",
+        "é",
+        "e",
+        "e\u0301",
+        "\u0301",
+        "'",
+        "-",
+        " ",
+        "  ",
+        "1",
+        "!",
+        "_",
+        "æ",
+        "ae",
+        "Ω",
+        "ω",
+        "я",
+        "漢",
+        "\xff",
+        "\xc3",
+        "\xf0\x9f\x98\x80",
+        "\xed\xa0\x80",
+        std::string(1, '\0'),
+        "\t",
+        "’",
+        "Ǽ",
+    };
+    std::string text;
+    for (auto count = random() % 6; count > 0; --count)
+        text += pieces[random() % pieces.size()];
+    return text;
+}
+
+std::string bytes(const std::string &text)
+{
+    return testing::PrintToString(text);
+}
+
+using CollationTest = SqlTest;
+
+} // namespace
+
+TEST(CompareTexts, TellsTheSameFromTheSimilar)
+{
+    for (const auto &[left, right, equal] : equalities) {
+        EXPECT_EQ(jet::compareTexts(left, right) == 0, equal) << left << " | " << right;
+        EXPECT_EQ(jet::sortKey(left) == jet::sortKey(right), equal) << left << " | " << right;
+    }
+}
+
+TEST(CompareTexts, KeepsTheOrderOfThePhoneBook)
+{
+    for (const auto &order : orders)
+        for (std::size_t i = 0; i < order.size(); ++i)
+            for (std::size_t j = 0; j < order.size(); ++j)
+                EXPECT_EQ(sign(jet::compareTexts(order[i], order[j])), sign(int(i) - int(j)))
+                    << order[i] << " | " << order[j];
+}
+
+TEST(CompareTexts, IsATotalOrderOverAnyBytesAndAgreesWithItsKey)
+{
+    std::mt19937 random(1973);
+    for (int round = 0; round < 60; ++round) {
+        std::vector<std::string> texts(40);
+        std::ranges::generate(texts, [&] { return randomText(random); });
+        std::ranges::sort(texts, [](const auto &a, const auto &b) { return jet::compareTexts(a, b) < 0; });
+        // Sorted by a total order, every pair of the list agrees with its places.
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            for (std::size_t j = i; j < texts.size(); ++j) {
+                const int order = sign(jet::compareTexts(texts[i], texts[j]));
+                ASSERT_LE(order, 0) << bytes(texts[i]) << bytes(texts[j]);
+                ASSERT_EQ(sign(jet::compareTexts(texts[j], texts[i])), -order)
+                    << bytes(texts[i]) << bytes(texts[j]);
+                ASSERT_EQ(sign(jet::sortKey(texts[i]).compare(jet::sortKey(texts[j]))), order)
+                    << bytes(texts[i]) << bytes(texts[j]);
+            }
+        }
+    }
+}
+
+TEST(FoldCase, FoldsAllLettersAndKeepsBrokenBytes)
+{
+    EXPECT_EQ(jet::foldCase("ABC xyz 123"), "abc xyz 123");
+    EXPECT_EQ(jet::foldCase("ÄÉЖΩ"), "äéжω");
+    EXPECT_EQ(jet::foldCase("A\xff\xc3Z"), "a\xff\xc3z");
+}
+
+TEST_F(CollationTest, GroupsAndFindsThroughAnIndex)
+{
+    execute("CREATE TABLE t (name TEXT COLLATE JET);"
+            "CREATE INDEX i ON t (name);"
+            "INSERT INTO t VALUES ('Müller'), ('MÜLLER'), ('müller  '), ('Muller'), ('Ärger'), ('adams'), "
+            "('Bauer')");
+    EXPECT_EQ(values("SELECT count(*) FROM t GROUP BY name ORDER BY name"), "1 1 1 1 3");
+    EXPECT_EQ(values("SELECT count(*) FROM t WHERE name = 'mÜller'"), "3");
+    EXPECT_EQ(values("SELECT name FROM t WHERE name BETWEEN 'a' AND 'b'"), "adams Ärger");
+}
