@@ -410,12 +410,13 @@ Emitter::Piece Emitter::scalar(const Expression &source, Scope &scope)
         raiseError(SyntaxError,
                    "The subquery '" + std::string(source.query->text) + "' must return one field only.");
     m_mayRaise = true;
-    return {.sql = "(SELECT CASE WHEN COUNT(*) > 1 THEN jet_raise(" + std::to_string(Failure) +
-                   ", 'At most one record can be returned by this subquery.') ELSE MAX(\"c0\") END FROM "
-                   "(SELECT \"c0\" "
-                   "FROM (" +
-                   rows.sql + ") LIMIT 2))",
-            .type = rows.columns[0].type};
+    std::string sql = "(SELECT CASE WHEN COUNT(*) > 1 THEN jet_raise(";
+    sql += std::to_string(Failure);
+    sql += ", 'At most one record can be returned by this subquery.') ELSE MAX(\"c0\") END FROM (SELECT "
+           "\"c0\" FROM (";
+    sql += rows.sql;
+    sql += ") LIMIT 2))";
+    return {.sql = std::move(sql), .type = rows.columns[0].type};
 }
 
 } // namespace jet

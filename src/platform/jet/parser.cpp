@@ -38,6 +38,10 @@ constexpr bool isReserved(std::string_view word)
     return false;
 }
 
+constexpr std::string_view misplacedWord =
+    "The SELECT statement includes a reserved word or an argument name that is misspelled or missing, or the "
+    "punctuation is incorrect";
+
 } // namespace
 
 Parser::Parser(std::string_view statement) : m_lexer(statement)
@@ -135,13 +139,15 @@ Statement Parser::parse()
         raiseSyntax("Invalid SQL statement; expected 'DELETE', 'INSERT', 'PROCEDURE', 'SELECT', or 'UPDATE'",
                     m_lexer.statement(), token.offset, token.end);
     }();
-    if (accept(";")) {
-        if (peek().kind != TokenKind::End)
-            raiseSyntax("Characters found after end of SQL statement", m_lexer.statement(), peek().offset,
-                        peek().end);
-    } else if (peek().kind != TokenKind::End)
-        fail();
-    return statement;
+    const bool ended = accept(";");
+    if (peek().kind == TokenKind::End)
+        return statement;
+    if (ended)
+        raiseSyntax("Characters found after end of SQL statement", m_lexer.statement(), peek().offset,
+                    peek().end);
+    if (std::holds_alternative<Query>(statement))
+        raiseSyntax(misplacedWord, m_lexer.statement(), peek().offset, peek().end);
+    fail();
 }
 
 QueryPtr Parser::query(bool allowInto)
@@ -248,10 +254,7 @@ SelectItem Parser::item()
         return item;
     }
     if (at("FROM") || at(",") || peek().kind == TokenKind::End)
-        raiseSyntax("The SELECT statement includes a reserved word or an argument name that is misspelled or "
-                    "missing, "
-                    "or the punctuation is incorrect",
-                    m_lexer.statement(), peek().offset, peek().end);
+        raiseSyntax(misplacedWord, m_lexer.statement(), peek().offset, peek().end);
     const std::size_t start = peek().offset;
     item.expression = expression();
     if (accept("AS")) {
