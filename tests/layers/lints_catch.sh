@@ -11,6 +11,10 @@ fresh() {
     mkdir -p "$tree"/src/{base,platform/jet,session,toolkit,messages,views,store,sync,shell} "$tree/docs"
     echo '#include "base/error.h"' >"$tree/src/platform/jet/lexer.cpp"
     echo '#include <QStringView>' >"$tree/src/base/text.h"
+    local class
+    for class in clsUsers clsFolders clsHW clsHWType; do
+        echo "class $class final" >"$tree/src/store/$class.h"
+    done
 }
 
 # caught LINT FILE LINE EXPECTED: the line in the file makes the lint fail with the expected words.
@@ -65,6 +69,7 @@ caught check-docs docs/architecture.md '![A window](pictures/absent.png)' 'absen
 passes check-layers src/store/clsUsers.cpp 'run("SELECT * FROM Tbl_Users"_L1);'
 passes check-layers src/store/clsUsers.cpp '#include "store/clsUsers.h"'
 passes check-layers src/store/clsUsersBatch.cpp '#include "store/clsUsers.h"'
+passes check-layers src/store/clsUsers.cpp '#include "store/clsUsersPaths.h"'
 passes check-layers src/shell/frmMain.cpp '#include "views/frmDisplay.h"'
 passes check-layers src/toolkit/messagebox.cpp 'QMessageBox box;'
 passes check-layers src/shell/frmMain.cpp 'label("Select the Program Options you need"_L1);'
