@@ -3,6 +3,11 @@
 #include "base/error.h"
 #include "store/storesession.h"
 
+#include <QLatin1StringView>
+#include <QStringList>
+
+#include <span>
+
 /// What the record classes have in common: they hold nothing between calls but the last
 /// failure, and each method visits the store once, with a connection of its own.
 class RecordClass
@@ -34,6 +39,19 @@ protected:
     {
         withStore(connectionString, [&](StoreSession &store) { store.open(sql, result); });
     }
+
+    /// The shape of a method that runs its statements whatever the store holds.
+    void write(const QString &connectionString, const QStringList &statements);
+
+    /// The shape of a method that writes one row under a rule: raises RuleViolation with the
+    /// refusal, and writes nothing, when the test finds a row.
+    void writeUnlessFound(const QString &connectionString, const QString &test, QLatin1StringView refusal,
+                          const QString &statement);
+
+    /// The shape of a method that gives an object its related ones: the clearing statements, then
+    /// one insert an id. The insert is given up to that id, its last value.
+    void relate(const QString &connectionString, const QStringList &clearing, const QString &insert,
+                std::span<const int> ids);
 
 private:
     CurrentError m_error;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/jet/recordset.h"
+#include "store/recordclass.h"
+
+#include <QString>
+
+/// All that reads and writes Tbl_CustomQuery, the saved statements, and the way to run one. A
+/// query is known by its name.
+///
+/// Nothing is escaped here: a statement to be saved comes with its quotes doubled already.
+/// Every method raises the store's error.
+class clsCustomQuery final : public RecordClass
+{
+public:
+    /// Raises RuleViolation when the name is taken.
+    void Add(const QString &connectionString, const QString &name, const QString &description,
+             const QString &statement);
+    /// Opens the caller's recordset; its rows need no store any more.
+    void getAll(const QString &connectionString, jet::Recordset &result);
+    /// Runs a statement of the user's. One that begins with "select" opens the recordset; any
+    /// other leaves it closed.
+    void Execute(const QString &connectionString, jet::Recordset &result, const QString &statement);
+    void Delete(const QString &connectionString, int id);
+    /// Raises RuleViolation when another query has the name.
+    void update(const QString &connectionString, int id, const QString &name, const QString &description,
+                const QString &statement);
+};
