@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/jet/recordset.h"
+
+#include <QLatin1StringView>
+#include <QString>
+
+#include <functional>
+#include <initializer_list>
+#include <vector>
+
+/// Lets the windows breathe in the middle of a batch. Whatever it runs, the batch goes on.
+using Breath = std::function<void()>;
+
+/// The walk of a batch over the records it is given, from the first, with the places of the
+/// fields looked up once:
+///
+///     for (BatchRecords batch(records, {"Name"_L1, "Server"_L1}); batch.next();)
+///         use(batch.text(0), batch.text(1));
+class BatchRecords final
+{
+public:
+    /// Raises jet::ItemNotFound for a field that the records do not have; records without a
+    /// single row need none.
+    BatchRecords(jet::Recordset &records, std::initializer_list<QLatin1StringView> fields);
+
+    [[nodiscard]] bool next();
+    /// The value of a field, by its place in the list given; Null is the empty text.
+    [[nodiscard]] QString text(std::size_t field) const;
+
+private:
+    jet::Recordset &m_records;
+    std::vector<int> m_places;
+    bool m_started = false;
+};

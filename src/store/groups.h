@@ -1,0 +1,39 @@
+#pragma once
+
+#include "store/batchrecords.h"
+
+#include <QLatin1StringView>
+#include <QString>
+#include <QStringList>
+
+#include <span>
+
+class StoreSession;
+
+/// Global and local groups take the same steps over tables of their own. The steps are told
+/// here once, with the statements and messages of the two side by side.
+enum class GroupKind { Global, Local };
+
+/// Raises RuleViolation when name and server are taken. The id of the new group is handed back.
+void addGroup(StoreSession &store, GroupKind kind, const QString &server, const QString &name,
+              const QString &description, int &id);
+/// Raises RuleViolation when another group has the name and server.
+void updateGroup(StoreSession &store, GroupKind kind, int id, const QString &server, const QString &name,
+                 const QString &description);
+/// Writes the records, fields Name, Server and Description: a new group is inserted, a known
+/// one gets the description unless existing ones are left. Ends at the first failure.
+void addGroups(StoreSession &store, GroupKind kind, jet::Recordset &records, bool leaveExisting);
+
+void writeGroupUsers(StoreSession &store, GroupKind kind, int id, std::span<const int> users);
+void writeGroupFolders(StoreSession &store, GroupKind kind, int id, std::span<const int> folders,
+                       const QStringList &permissions, bool clearFirst);
+
+/// Adds users to groups, both by name and server: fields UserName, UserServer, GroupName and
+/// GroupServer. What is not in the store gets an entry of the error text; ends at the first
+/// failure of the store.
+void addGroupUsers(StoreSession &store, GroupKind kind, jet::Recordset &records, QString &errorText,
+                   const Breath &breath);
+/// The same for global groups that become members of local ones: fields LocalGroupName,
+/// LocalGroupServer, GlobalGroupName and GlobalGroupServer.
+void addLocalGroupGlobalGroups(StoreSession &store, jet::Recordset &records, QString &errorText,
+                               const Breath &breath);

@@ -1,0 +1,75 @@
+#include "store/relations.h"
+
+#include "base/error.h"
+#include "store/batchrecords.h"
+#include "store/statement.h"
+#include "store/storesession.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The id of a folder, which is added when it is not there yet; Null when it cannot be added.
+Value folderId(StoreSession &store, const QString &path)
+{
+    const QString lookup =
+        joined("SELECT ID FROM Tbl_Folders WHERE [FolderName]='{path}'"_L1, {{"path"_L1, path}});
+    try {
+        const Value known = store.scalar(lookup);
+        if (!known.isNull())
+            return known;
+        store.execute(
+            joined("INSERT INTO Tbl_Folders (FolderName) VALUES ('{path}')"_L1, {{"path"_L1, path}}));
+        return store.scalar(lookup);
+    } catch (const Error &) {
+        return {};
+    }
+}
+
+} // namespace
+
+void writeRelations(StoreSession &store, const RelationStatements &statements, int id,
+                    std::span<const int> items, const QStringList &permissions, bool clearFirst)
+{
+    Q_ASSERT(permissions.isEmpty() || permissions.size() == qsizetype(items.size()));
+    const QString object = QString::number(id);
+    if (clearFirst)
+        store.execute(joined(statements.clear, {{"id"_L1, object}}));
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const QString item = QString::number(items[i]);
+        const QString permission = permissions.value(qsizetype(i));
+        const auto fill = [&](QLatin1StringView text) {
+            return joined(text, {{"id"_L1, object}, {"item"_L1, item}, {"permission"_L1, permission}});
+        };
+        if (statements.test.isEmpty() || !store.exists(fill(statements.test)))
+            store.execute(fill(statements.insert));
+        else if (!statements.update.isEmpty())
+            store.execute(fill(statements.update));
+    }
+}
+
+void executeForEach(StoreSession &store, std::span<const int> ids,
+                    std::initializer_list<QLatin1StringView> statements)
+{
+    for (const int id : ids) {
+        for (const QLatin1StringView statement : statements)
+            store.execute(withId(statement, id));
+    }
+}
+
+FolderPermissions takeFolderPermissions(StoreSession &store, jet::Recordset &records, QString &failed)
+{
+    enum { Name, Permission };
+    FolderPermissions taken;
+    for (BatchRecords batch(records, {"Name"_L1, "Permission"_L1}); batch.next();) {
+        const QString path = batch.text(Name);
+        const Value folder = folderId(store, path);
+        if (folder.isNull()) {
+            failed += path + u',';
+            continue;
+        }
+        taken.folders.append(int(folder.toInteger()));
+        taken.permissions.append(batch.text(Permission));
+    }
+    return taken;
+}
