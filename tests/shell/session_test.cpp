@@ -1,0 +1,58 @@
+#include "session/modRegistry.h"
+#include "session/modServers.h"
+#include "support/storetest.h"
+#include "workstation.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SessionTest : public FolderTest
+{
+protected:
+    void TearDown() override
+    {
+        net::installApi(nullptr);
+        modServers::resolveSession();
+    }
+};
+
+} // namespace
+
+TEST_F(SessionTest, ADomainUserHasDomainComputerAndController)
+{
+    net::installApi(std::make_unique<Workstation>(u"HEADOFFICE"_s, u"\\\\CENTRAL"_s));
+    modRegistry::saveDefaultDC(u"BACKUP"_s);
+    modServers::resolveSession();
+    EXPECT_EQ(modServers::getDomainName(), u"HEADOFFICE"_s);
+    EXPECT_EQ(modServers::ComputerName, u"PC7"_s);
+    EXPECT_EQ(modServers::PDCName, u"CENTRAL"_s);
+    EXPECT_EQ(modServers::getServerName(), u"CENTRAL"_s);
+}
+
+TEST_F(SessionTest, WithoutAControllerTheDefaultStandsIn)
+{
+    net::installApi(std::make_unique<Workstation>(u"PC7"_s, QString()));
+    modServers::resolveSession();
+    EXPECT_EQ(modServers::getDomainName(), u"PC7"_s);
+    EXPECT_EQ(modServers::PDCName, QString());
+    EXPECT_EQ(modServers::getServerName(), QString());
+    modRegistry::saveDefaultDC(u"BACKUP"_s);
+    EXPECT_EQ(modServers::getServerName(), u"BACKUP"_s);
+}
+
+TEST_F(SessionTest, WithoutANetworkNothingIsKnownAnyMore)
+{
+    net::installApi(std::make_unique<Workstation>(u"HEADOFFICE"_s, u"\\\\CENTRAL"_s));
+    modServers::resolveSession();
+    net::installApi(nullptr);
+    net::WorkstationUserInfo user;
+    EXPECT_EQ(net::api().wkstaUserGetInfo(user), net::NoNetwork);
+
+    modServers::resolveSession();
+    EXPECT_EQ(modServers::DomainName, QString());
+    EXPECT_EQ(modServers::ComputerName, QString());
+    EXPECT_EQ(modServers::PDCName, QString());
+}
