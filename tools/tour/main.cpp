@@ -8,9 +8,11 @@
 #include "store/sampledata.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QPalette>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 
 #include <cstdio>
 #include <cstdlib>
@@ -34,6 +36,10 @@ struct Variant
     bool dark;
     const char *scale;
 };
+
+// Without it the offscreen screen has 800 x 600 pixels, a quarter of that at 200 %.
+constexpr auto screenDescription =
+    R"({"screens": [{"name": "tour", "x": 0, "y": 0, "width": 2560, "height": 1600}]})";
 
 constexpr Variant variants[] = {
     {"light"_L1, ""_L1, false, "1"},
@@ -65,7 +71,9 @@ int walk(const Variant &variant, const QString &folder)
         const QTemporaryDir home;
         if (!home.isValid())
             return complain("No temporary folder can be made: "_L1 % home.errorString());
-        const QString store = home.filePath(u"sample.kelvane"_s);
+        // A path without the temporary folder looks the same in every walk.
+        const QString store = u"sample.mdb"_s;
+        QDir::setCurrent(home.path());
         createSampleStore(store, sampleUsers);
         settings::setFolder(home.path());
         modRegistry::saveDataBase(store);
@@ -110,11 +118,14 @@ int main(int argc, char **argv)
         std::fputs(usage, stderr);
         return usageStatus;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryFile screen;
+    if (!screen.open() || screen.write(screenDescription) < 0 || !screen.flush())
+        return complain("No temporary file can be written: "_L1 % screen.errorString());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toLocal8Bit());
     qputenv("QT_SCALE_FACTOR", variant ? variant->scale : "1");
     const QApplication application(argc, argv);
     QApplication::setApplicationName(programTitle());
     QApplication::setQuitOnLastWindowClosed(false);
-    const QString folder = QString::fromLocal8Bit(argv[1]);
+    const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
     return variant ? walk(*variant, folder) : walkAll(folder);
 }
