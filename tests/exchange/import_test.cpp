@@ -1,0 +1,310 @@
+#include "base/error.h"
+#include "exchange/frmImport.h"
+#include "exchange/modImport.h"
+#include "messages/frmProgress.h"
+#include "messages/frmResult.h"
+#include "platform/desktop/desktop.h"
+#include "platform/jet/connection.h"
+#include "session/modRegistry.h"
+#include "store/clsUsers.h"
+#include "support/windowtest.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int warningYesNo = box::YesNo | box::WarningIcon;
+constexpr int warningYesNoCancel = box::YesNoCancel | box::WarningIcon;
+const QString startQuestion = u"Are you sure you want to start the selected Import?"_s;
+const QString updateQuestion = u"Importing the selected Data will update Entries already in the database\r\n"
+                               "Would you like to update existing data?"_s;
+const QString success =
+    u"The Operation was completed successfully\r\nYou may refresh your User Database View "
+    "to see changes applied to your existing Users"_s;
+const QString usersType = u"Users (Root Data)"_s;
+const QString allUsers =
+    u"SELECT ServerName & '\\' & UserName & ' ' & FullName FROM Tbl_Users ORDER BY UserID"_s;
+
+QByteArray line(const char *name, const char *fullName, const char *server = "SRV01")
+{
+    return QByteArray(name) + ';' + server + ';' + fullName +
+           ";comment;;H:;\\\\SRV01\\Home;;logon.bat;0;1;0\r\n";
+}
+
+class ImportTest : public WindowTest
+{
+protected:
+    void TearDown() override
+    {
+        for (frmResult *window : findAll<frmResult>(u"frmResult"_s))
+            window->close();
+        WindowTest::TearDown();
+    }
+
+    QString write(const QByteArray &bytes) const
+    {
+        QFile file(path(u"users.txt"_s));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+
+    /// A person at the dialog: picks the type, names the file, presses Import and Close.
+    void import(const QString &type, const QString &fileName)
+    {
+        whenShown<frmImport>([=](frmImport &dialog) {
+            dialog.cboImportType->setCurrentText(type);
+            dialog.txtFileName->setText(fileName);
+            QTest::mouseClick(dialog.cmdOK, Qt::LeftButton);
+            EXPECT_TRUE(dialog.isVisible()) << "The dialog stays open after an import.";
+            EXPECT_TRUE(dialog.cmdOK->isEnabled());
+            QTest::mouseClick(dialog.cmdCancel, Qt::LeftButton);
+        });
+        modImport::showImport(nullptr);
+    }
+
+    void importUsers(const QByteArray &bytes, int updateAnswer)
+    {
+        expectBox(startQuestion, warningYesNo, box::ResultYes);
+        expectBox(updateQuestion, warningYesNoCancel, updateAnswer);
+        import(usersType, write(bytes));
+    }
+
+    void importUsersWell(const QByteArray &bytes, int updateAnswer)
+    {
+        expectBox(startQuestion, warningYesNo, box::ResultYes);
+        expectBox(updateQuestion, warningYesNoCancel, updateAnswer);
+        expectBox(success, box::InformationIcon);
+        import(usersType, write(bytes));
+        verify();
+    }
+
+    /// The text of the result window, line ends as the text box shows them.
+    static QString resultText()
+    {
+        const QList<frmResult *> windows = findAll<frmResult>(u"frmResult"_s);
+        if (windows.isEmpty())
+            return {};
+        EXPECT_EQ(windows.first()->LblInfo->text(), u"Import/Export Result"_s);
+        return windows.first()->txtResult->toPlainText();
+    }
+};
+
+} // namespace
+
+TEST_F(ImportTest, OffersTheSevenTypesAndNoneIsChosen)
+{
+    whenShown<frmImport>([](frmImport &dialog) {
+        QStringList types;
+        for (int i = 0; i < dialog.cboImportType->count(); ++i)
+            types.append(dialog.cboImportType->itemText(i));
+        EXPECT_EQ(types, (QStringList{u"Global Groups (Root Data)"_s, u"Local Groups (Root Data)"_s,
+                                      u"Users (Root Data)"_s, u"Global Groups Users (Relationships)"_s,
+                                      u"Local Group - Global Groups (Relationships)"_s,
+                                      u"Folders (Root Data)"_s, u"Folder Permissions (Relationships)"_s}));
+        EXPECT_EQ(dialog.cboImportType->currentText(), QString());
+        EXPECT_EQ(dialog.windowTitle(), u"Import from File"_s);
+        EXPECT_EQ(dialog.LblInfo->text(), u"Import Data From File"_s);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    modImport::showImport(nullptr);
+}
+
+TEST_F(ImportTest, IncompleteInputIsRefusedInOrder)
+{
+    const QString file = write(line("anna", "Anna"));
+    expectBox(u"Please specify the Data File"_s, box::WarningIcon);
+    import(usersType, QString());
+    expectBox(u"The File you specified could not be found"_s, box::WarningIcon);
+    import(usersType, path(u"missing.txt"_s));
+    expectBox(u"The File you specified could not be found"_s, box::WarningIcon);
+    import(usersType, path(QString()));
+    expectBox(startQuestion, warningYesNo, box::ResultNo);
+    import(QString(), file);
+    expectBox(startQuestion, warningYesNo, box::ResultYes);
+    expectBox(u"Please Select the Import Type"_s, box::WarningIcon);
+    import(QString(), file);
+    EXPECT_EQ(column(allUsers), QStringList());
+}
+
+TEST_F(ImportTest, FiveLinesWithTheThirdBad)
+{
+    importUsers(line("anna", "Anna Ärmel") + line("bert", "Bert") + line("", "Nobody") +
+                    line("dora", "Dora") + line("emil", "Émile"),
+                box::ResultYes);
+    EXPECT_EQ(column(allUsers), (QStringList{u"SRV01\\anna Anna Ärmel"_s, u"SRV01\\bert Bert"_s,
+                                             u"SRV01\\dora Dora"_s, u"SRV01\\emil Émile"_s}));
+    EXPECT_EQ(resultText(), "Following Errors were encountered in File\n"_L1 + path(u"users.txt"_s) +
+                                "\n\n\nNo Username on Line 3\n\n"_L1);
+    EXPECT_EQ(column(u"SELECT UserID FROM Tbl_Users WHERE Comment = 'comment' AND UserComment = '' AND "
+                     "HomeDirDrive = 'H:' AND HomeDir = '\\\\SRV01\\Home' AND Profile = '' AND "
+                     "ScriptPath = 'logon.bat' AND AccDisabled = False AND NoChangePwd = True AND "
+                     "NoExpirePwd = False"_s)
+                  .size(),
+              4);
+}
+
+TEST_F(ImportTest, EveryFaultOfALineIsReportedWithItsNumber)
+{
+    importUsers("\n" + line("anna", "Anna") + "bert;;x\nbert\ncleo;SRV01\ndora;SRV01;a;b;c;d;e;f;g;0;0\n" +
+                    line("emil", "Emil") + ";\n",
+                box::ResultYes);
+    EXPECT_TRUE(resultText().contains(u"\n\n\nNo Username on Line 1\nNo Server Information on Line 3\n"
+                                      "No Server Information on Line 4\nFields missing on Line 5\n"
+                                      "Fields missing on Line 6\nNo Username on Line 8\n\n"_s))
+        << resultText().toStdString();
+    EXPECT_EQ(column(allUsers), (QStringList{u"SRV01\\anna Anna"_s, u"SRV01\\emil Emil"_s}));
+}
+
+TEST_F(ImportTest, WhatTheStoreRefusesIsNamedBelowTheBadLines)
+{
+    importUsers(line("anna", "Anna O'Brien") + line("bert", "Bert") + ";\n", box::ResultYes);
+    EXPECT_EQ(column(allUsers), QStringList{u"SRV01\\bert Bert"_s});
+    EXPECT_TRUE(
+        resultText().contains(u"No Username on Line 3\n\nFollowing User(s) generated Errors and could "
+                              "not be Imported:\n\nSRV01\\anna "_s))
+        << resultText().toStdString();
+}
+
+TEST_F(ImportTest, YesUpdatesKnownUsersAndNoLeavesThem)
+{
+    importUsersWell(line("anna", "Anna"), box::ResultYes);
+
+    importUsersWell(line("ANNA", "Anna Two") + line("bert", "Bert"), box::ResultNo);
+    EXPECT_EQ(column(allUsers), (QStringList{u"SRV01\\anna Anna"_s, u"SRV01\\bert Bert"_s}));
+
+    importUsersWell(line("anna", "Anna Two"), box::ResultYes);
+    EXPECT_EQ(column(u"SELECT FullName FROM Tbl_Users WHERE UserName = 'anna'"_s),
+              QStringList{u"Anna Two"_s});
+    EXPECT_EQ(column(u"SELECT COUNT(*) FROM Tbl_Users"_s), QStringList{u"2"_s});
+}
+
+TEST_F(ImportTest, CancelledQuestionReadsNothing)
+{
+    importUsers(line("anna", "Anna") + "bad line\n", box::ResultCancel);
+    EXPECT_EQ(column(allUsers), QStringList());
+    EXPECT_EQ(resultText(), QString());
+}
+
+TEST_F(ImportTest, EmptyFileIsASuccess)
+{
+    importUsersWell("", box::ResultYes);
+    EXPECT_EQ(column(allUsers), QStringList());
+}
+
+TEST_F(ImportTest, OldFilesInWindows1252AreRead)
+{
+    importUsersWell(line("anna", "J\xfcrgen \x8ei\x9eka"), box::ResultYes);
+    EXPECT_EQ(column(allUsers), QStringList{u"SRV01\\anna Jürgen Žižka"_s});
+}
+
+TEST_F(ImportTest, MissingStoreIsToldOnce)
+{
+    modRegistry::saveDataBase(path(u"nowhere.mdb"_s));
+    const QString file = write(line("anna", "Anna") + line("bert", "Bert"));
+    expectBox(startQuestion, warningYesNo, box::ResultYes);
+    expectBox(updateQuestion, warningYesNoCancel, box::ResultYes);
+    QString description;
+    EXPECT_FALSE(attempt([&] { clsUsers().TestConnection(jet::connectionString(path(u"nowhere.mdb"_s))); }));
+    description = QString::number(currentError().number) + "\r\n"_L1 + currentError().description;
+    expectBox(description, box::StopIcon);
+    import(usersType, file);
+}
+
+TEST_F(ImportTest, CancelWhileReadingWritesNothing)
+{
+    whenShown<frmProgress>([](frmProgress &progress) { progress.cmdCancel->click(); });
+    QByteArray lines;
+    for (int i = 0; i < 2000; ++i)
+        lines += line(("user" + std::to_string(i)).c_str(), "User");
+    importUsers(lines, box::ResultYes);
+    EXPECT_EQ(column(allUsers), QStringList());
+    EXPECT_EQ(resultText(), QString());
+}
+
+TEST_F(ImportTest, CancelWhileWritingKeepsAndTellsWhatIsWritten)
+{
+    QByteArray lines;
+    for (int i = 0; i < 2000; ++i)
+        lines += line(("user" + std::to_string(i)).c_str(), "User");
+    whenShown<frmProgress>([&](frmProgress &progress) {
+        auto *timer = new QTimer(&progress);
+        QObject::connect(timer, &QTimer::timeout, &progress, [&progress] {
+            if (progress.isVisible() && progress.LblInfo->text() == u"Writing Users to DB. Please Wait."_s)
+                progress.cmdCancel->click();
+        });
+        timer->start(0);
+    });
+    importUsers(lines, box::ResultYes);
+    const int written = column(u"SELECT COUNT(*) FROM Tbl_Users"_s).value(0).toInt();
+    EXPECT_GT(written, 0);
+    EXPECT_LT(written, 2000);
+    EXPECT_TRUE(resultText().startsWith(u"The Import was cancelled."_s)) << resultText().toStdString();
+    EXPECT_TRUE(resultText().contains(u"New Users:     \t\t%1\n"_s.arg(written)))
+        << resultText().toStdString();
+}
+
+TEST_F(ImportTest, ManyLinesAreImportedAndTheWindowLives)
+{
+    constexpr int count = 40'000;
+    QByteArray lines;
+    for (int i = 0; i < count; ++i)
+        lines += line(("user" + std::to_string(i)).c_str(), "Jürgen User");
+    int turns = 0;
+    QTimer alive;
+    QObject::connect(&alive, &QTimer::timeout, &alive, [&] { ++turns; });
+    alive.start(0);
+    importUsersWell(lines, box::ResultYes);
+    EXPECT_GT(turns, 100) << "Events got hardly a turn.";
+    EXPECT_EQ(column(u"SELECT COUNT(*) FROM Tbl_Users"_s), QStringList{QString::number(count)});
+    EXPECT_EQ(column(u"SELECT MAX(UserID) FROM Tbl_Users"_s), QStringList{QString::number(count)});
+}
+
+TEST_F(ImportTest, TheOtherButtons)
+{
+    const QString file = write("a;b\n");
+    QUrl opened;
+    const desktop::Opener before = desktop::installOpener([&](const QUrl &url) {
+        opened = url;
+        return true;
+    });
+    expectFile(CommonDialog::Kind::Open, u"All Files | *.*"_s, QString());
+    expectFile(CommonDialog::Kind::Open, u"All Files | *.*"_s, file);
+    whenShown<frmImport>([&](frmImport &dialog) {
+        dialog.txtFileName->setText(u"as it was"_s);
+        QTest::mouseClick(dialog.cmdBrowse, Qt::LeftButton);
+        EXPECT_EQ(dialog.txtFileName->text(), u"as it was"_s) << "A cancelled choice changes nothing.";
+        QTest::mouseClick(dialog.cmdBrowse, Qt::LeftButton);
+        EXPECT_EQ(dialog.txtFileName->text(), file);
+        QTest::mouseClick(dialog.cmdPreview, Qt::LeftButton);
+        EXPECT_EQ(opened.toLocalFile(), file);
+
+        const auto information = [&](const QString &type) {
+            dialog.cboImportType->setCurrentIndex(dialog.cboImportType->findText(type));
+            QTest::mouseClick(dialog.cmdInfo, Qt::LeftButton);
+            const auto *window = find<frmResult>(u"frmResult"_s);
+            EXPECT_EQ(window->LblInfo->text(), u"Import Format Information"_s);
+            return window->txtResult->toPlainText();
+        };
+        EXPECT_EQ(information(QString()), u"The Information you requested could not be found."_s);
+        EXPECT_EQ(information(u"Folders (Root Data)"_s),
+                  u"Please use following Data Format to Import Folders:\n\nFolder 1;Description 1\n"
+                  "Folder 2;Description 2\n...\nFolder N;Description N"_s);
+        QStringList formats;
+        for (const modImport::ImportType &type : modImport::importTypes())
+            formats.append(information(type.name));
+        EXPECT_EQ(formats.removeDuplicates(), 0) << "Two types show the same format.";
+        QTest::mouseClick(dialog.cmdCancel, Qt::LeftButton);
+    });
+    modImport::showImport(nullptr);
+    desktop::installOpener(before);
+}
