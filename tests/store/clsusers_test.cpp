@@ -3,6 +3,9 @@
 
 #include <QFile>
 
+#include <functional>
+#include <limits>
+
 namespace {
 
 constexpr auto alreadyExists = "Cannot Add/Edit User. User already exists in the Database"_L1;
@@ -70,11 +73,11 @@ UserRecord fullRecord()
     return user;
 }
 
-constexpr auto fullRow =
+const QString fullRow =
     u"77|jdoe|secret|30|2|\\\\SRV01\\Home|a comment|513|True|False|True|False|logon.bat|3|"
     "Jörg Dœ|user comment|parms|WS1,WS2|1/15/2005 2:30:00 PM|1/16/2005|12/31/2010|-1|168|255|"
     "4|5|\\\\*|49|850|513|profile|H:|True|SRV01|S-1-5|Mr.|Dr.|Doe|Jörg|Admin|j@example.com|"
-    "IT|5100|1|2|3|North";
+    "IT|5100|1|2|3|North"_s;
 
 } // namespace
 
@@ -82,7 +85,7 @@ TEST_F(StoreTest, Add_WritesEveryColumn)
 {
     UserRecord user = fullRecord();
     users.Add(connection, user);
-    EXPECT_EQ(rows(u"SELECT * FROM Tbl_Users"_s), Rows{QString(fullRow)});
+    EXPECT_EQ(rows(u"SELECT * FROM Tbl_Users"_s), Rows{fullRow});
 }
 
 TEST_F(StoreTest, Update_WritesEveryColumnButTheId)
@@ -92,7 +95,7 @@ TEST_F(StoreTest, Update_WritesEveryColumnButTheId)
     users.Add(connection, old);
     users.Add(connection, other);
     users.update(connection, fullRecord());
-    EXPECT_EQ(rows(u"SELECT * FROM Tbl_Users WHERE UserID = 77"_s), Rows{QString(fullRow)});
+    EXPECT_EQ(rows(u"SELECT * FROM Tbl_Users WHERE UserID = 77"_s), Rows{fullRow});
     EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users WHERE UserID = 5"_s), Rows{u"other"_s});
 }
 

@@ -168,6 +168,7 @@ TEST_F(UserBatchTest, Apostrophe_IsKeptInTheFourEscapedValuesOfAddBatchOnly)
     EXPECT_EQ(rows(sql), Rows{u"it's|Anna O'Brien|'"_s});
 
     QHash<QString, QString> unescaped = account;
+    unescaped[u"UserID"_s] = u"6"_s;
     unescaped[u"UserName"_s] = u"bert"_s;
     unescaped[u"Profile"_s] = u"c:\\it's"_s;
     importLive({unescaped});

@@ -1,6 +1,8 @@
 #include "platform/jet/errors.h"
 #include "storetest.h"
 
+#include <QFile>
+
 namespace {
 
 /// Two users with groups, folders, hardware, software and rooms, and a third with nothing.
