@@ -103,29 +103,44 @@ void frmDisplay::showView()
         return;
     }
     QMdiArea &area = window->mdiArea();
-    const bool first = area.activeSubWindow() == nullptr;
+    const bool wasActive = area.activeSubWindow() == this;
+    m_showing = true;
     if (mdiArea() != &area)
         joinArea(area);
-    bool maximized = false;
-    attempt([&] { maximized = modRegistry::getMaximizeWindows(); });
-    if (!isVisible() && maximized) {
-        showMaximized();
-    } else if (!isVisible()) {
-        resize(defaultSize);
+    else
         show();
-        if (first)
-            move(0, 0);
-    }
     area.setActiveSubWindow(this);
+    m_showing = false;
+    // Only now, with the size and the place that it keeps: preparing yields.
+    if (!wasActive && area.activeSubWindow() == this)
+        activated();
 }
 
 void frmDisplay::joinArea(QMdiArea &area)
 {
+    const bool first = area.activeSubWindow() == nullptr;
+    bool maximized = false;
+    attempt([&] { maximized = modRegistry::getMaximizeWindows(); });
+
     area.addSubWindow(this);
     connect(&area, &QMdiArea::subWindowActivated, this, [this](const QMdiSubWindow *active) {
-        if (active == this && !m_closing)
-            guarded([this] { PrepareForm(); });
+        if (active == this)
+            activated();
     });
+    if (maximized) {
+        showMaximized();
+        return;
+    }
+    resize(defaultSize);
+    show();
+    if (first)
+        move(0, 0);
+}
+
+void frmDisplay::activated()
+{
+    if (!m_showing && !m_closing)
+        guarded([this] { PrepareForm(); });
 }
 
 void frmDisplay::PrepareForm()

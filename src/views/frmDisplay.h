@@ -71,6 +71,7 @@ private:
     void connectList();
     void unload();
     void joinArea(QMdiArea &area);
+    void activated();
     void takeCaption();
 
     QString m_action;
@@ -78,5 +79,6 @@ private:
     QString m_localGroupName;
     int m_contextColumn = 0;
     bool m_doNotResizeIDColumn = false;
+    bool m_showing = false;
     bool m_closing = false;
 };
