@@ -81,7 +81,8 @@ void ListView::requireRow(int row) const
 void ListView::requireColumn(int column) const
 {
     if (column < 0 || column >= columnCount())
-        ::raise(IndexOutOfBounds, u"Index out of bounds: the list has no column "_s % QString::number(column));
+        ::raise(IndexOutOfBounds,
+                u"Index out of bounds: the list has no column "_s % QString::number(column));
 }
 
 void ListView::setColumns(const QStringList &headings)

@@ -33,6 +33,14 @@ void ListView::keyPressEvent(QKeyEvent *event)
         QTreeView::keyPressEvent(event);
 }
 
+QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    // Without a current row every key would lead to the first.
+    if (action == MoveEnd && currentRow() < 0 && rowCount() > 0)
+        return visibleIndex(rowCount() - 1);
+    return QTreeView::moveCursor(action, modifiers);
+}
+
 void ListView::mousePressEvent(QMouseEvent *event)
 {
     const int column = columnUnder(event->position().toPoint());

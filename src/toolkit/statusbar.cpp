@@ -87,7 +87,7 @@ StatusBar::Panel &StatusBar::panelAt(int panel) const
 {
     if (panel < 1 || panel > panelCount())
         ::raise(indexOutOfBounds,
-              u"Index out of bounds: the status bar has no panel "_s % QString::number(panel));
+                u"Index out of bounds: the status bar has no panel "_s % QString::number(panel));
     return *m_panels[std::size_t(panel) - 1];
 }
 
