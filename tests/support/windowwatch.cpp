@@ -59,8 +59,10 @@ void WindowWatch::shown(QWidget *window)
         return;
     }
     if (qobject_cast<QDialog *>(window) && window->isModal())
-        driveInLoop(window, level,
-                    [](QWidget *dialog) { ADD_FAILURE() << "Unexpected window: " << nameOf(dialog); });
+        driveInLoop(window, level, [](QWidget *unexpected) {
+            ADD_FAILURE() << "Unexpected window: " << nameOf(unexpected);
+            static_cast<QDialog *>(unexpected)->reject();
+        });
 }
 
 void WindowWatch::driveInLoop(const QPointer<QWidget> &window, int levelBefore,
