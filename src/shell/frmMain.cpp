@@ -87,6 +87,7 @@ frmMain::frmMain()
 frmMain::~frmMain()
 {
     // The views tell the main window when they go, so they go first.
+    m_area->disconnect(this);
     delete m_area;
     setMainWindow(nullptr);
 }
