@@ -79,14 +79,15 @@ public:
         if (m_values.front().toInt() == 0)
             m_values.front() = QString::number(nextUserId(store));
 
-        jet::Recordset found;
+        if (m_found.state() != jet::StateClosed)
+            m_found.close();
         store.open("SELECT * FROM Tbl_Users WHERE [UserName]='"_L1 + m_values[m_name] +
                        "' AND ServerName = '"_L1 + m_values[m_server] + "'"_L1,
-                   found);
-        if (found.eof())
+                   m_found);
+        if (m_found.eof())
             insert(store);
         else if (!m_leaveExisting)
-            update(store, found.value(u"UserID").toInteger());
+            update(store, m_found.value(u"UserID").toInteger());
     }
 
 private:
@@ -118,6 +119,7 @@ private:
     BatchOutcome m_outcome;
     std::vector<int> m_fields;
     std::vector<QString> m_values;
+    jet::Recordset m_found; // the memory of its fields is used again
     std::size_t m_name = 0;
     std::size_t m_server = 0;
 };

@@ -230,9 +230,11 @@ void Database::write(Prepared &prepared)
             sqlite3_exec(m_handle, "ROLLBACK TO statement; RELEASE statement", nullptr, nullptr, nullptr);
         throw;
     }
+    const bool changed = prepared.changesSchema || sqlite3_changes(m_handle) > 0;
     if (prepared.changesSchema)
         m_prepared.clear(); // the statement itself included
-    endOfWrite();
+    m_groupWrites += changed ? 1 : 0;
+    commitWhenDue();
 }
 
 void Database::runWrite(Prepared &prepared)
@@ -260,9 +262,9 @@ void Database::beginGroup()
     m_groupStart = std::chrono::steady_clock::now();
 }
 
-void Database::endOfWrite()
+void Database::commitWhenDue()
 {
-    if (++m_groupWrites < groupLimit && std::chrono::steady_clock::now() - m_groupStart < groupAge)
+    if (m_groupWrites < groupLimit && std::chrono::steady_clock::now() - m_groupStart < groupAge)
         return;
     try {
         flush();

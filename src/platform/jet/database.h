@@ -76,7 +76,7 @@ private:
     void write(Prepared &prepared);
     void runWrite(Prepared &prepared);
     void beginGroup();
-    void endOfWrite();
+    void commitWhenDue();
     [[nodiscard]] bool groupLost() const;
     [[noreturn]] void raiseGroupLost(const Error &cause);
 

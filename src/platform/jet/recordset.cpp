@@ -99,14 +99,17 @@ void Recordset::open(const QString &sql, Connection &connection, int cursor, int
         raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
     clearRows();
     std::vector<Storage> storage;
-    const auto takeHeader = [&](const HeaderPtr &header) {
-        m_header = header;
-        m_columns.resize(header->size());
-        storage.reserve(header->size());
-        for (const HeaderField &field : *header)
+    const auto takeHeader = [&](const HeaderPtr &header) { m_header = header; };
+    // Most results of a batch are empty: their fields cost nothing until a row comes.
+    const auto prepareColumns = [&] {
+        m_columns.resize(m_header->size());
+        storage.reserve(m_header->size());
+        for (const HeaderField &field : *m_header)
             storage.push_back(storageOf(field.type));
     };
     const auto takeRow = [&](sqlite3_stmt *statement) {
+        if (storage.empty())
+            prepareColumns();
         for (std::size_t i = 0; i < storage.size(); ++i) {
             const int column = static_cast<int>(i);
             Column &values = m_columns[i];
