@@ -1,5 +1,7 @@
 #include "toolkit/imagelist.h"
 
+#include "toolkit/pictureengine.h"
+
 using namespace Qt::StringLiterals;
 
 // A linker leaves out what only registers itself, so the library asks for its pictures.
@@ -12,7 +14,8 @@ ImageList::ImageList(const QString &folder, int count, int size) : m_size(size)
 {
     m_icons.reserve(std::size_t(count));
     for (int number = 1; number <= count; ++number)
-        m_icons.emplace_back(":/pictures/"_L1 % folder % "/"_L1 % QString::number(number) % ".svg"_L1);
+        m_icons.emplace_back(
+            new PictureEngine(":/pictures/"_L1 % folder % "/"_L1 % QString::number(number) % ".svg"_L1));
 }
 
 const QIcon &ImageList::icon(int number) const
@@ -40,7 +43,7 @@ static ImageLists *makeImageLists()
 
 ImageLists &imageLists()
 {
-    // Never destroyed: the pictures' engine may be gone before the last static object is.
+    // Never destroyed: a static would die after the application object that its pixmaps need.
     static ImageLists &lists = *makeImageLists();
     return lists;
 }

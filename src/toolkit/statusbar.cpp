@@ -52,7 +52,10 @@ protected:
             else
                 room.setRight(place.left() - 1 - spacing);
         }
-        const QString shown = fontMetrics().elidedText(text, Qt::ElideMiddle, room.width());
+        // Of a path the end is what tells.
+        const bool isPath = text.contains(u'/') || text.contains(u'\\');
+        const QString shown =
+            fontMetrics().elidedText(text, isPath ? Qt::ElideMiddle : Qt::ElideRight, room.width());
         style()->drawItemText(&painter, room, Qt::AlignLeading | Qt::AlignVCenter, palette(), isEnabled(),
                               shown, QPalette::WindowText);
     }

@@ -62,6 +62,10 @@ TEST_P(ImageListTest, EveryNumberHasAPictureOfItsOwnThatShowsOnLightAndDark)
         const int enough = picture.width() * picture.height() / 16;
         EXPECT_GT(visiblePixels(picture, QColor(0xff, 0xff, 0xff)), enough) << number;
         EXPECT_GT(visiblePixels(picture, QColor(0x23, 0x26, 0x29)), enough) << number;
+        EXPECT_GT(visiblePixels(pictures.icon(number).pixmap(32, QIcon::Selected).toImage(),
+                                QColor(0x30, 0x8c, 0xc6)),
+                  256)
+            << number << " on the highlight";
         EXPECT_FALSE(seen.contains(picture)) << number;
         seen += picture;
     }
