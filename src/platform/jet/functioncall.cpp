@@ -221,7 +221,8 @@ void Call::giveWhole(std::int64_t number)
 
 void Call::giveArgument(int index)
 {
-    sqlite3_result_value(m_context, m_values[index]);
+    if (index < m_count)
+        sqlite3_result_value(m_context, m_values[index]);
 }
 
 void Call::giveNull()

@@ -115,8 +115,11 @@ std::string repeated(std::string_view character, int count)
     constexpr int largest = 100'000'000;
     if (count > largest)
         throw CallError{Failure, "Out of string space"};
+    const std::size_t size = atLeast(0, count);
+    if (character.size() == 1)
+        return std::string(size, character.front());
     std::string text;
-    text.reserve(character.size() * atLeast(0, count));
+    text.reserve(character.size() * size);
     for (int i = 0; i < count; ++i)
         text += character;
     return text;

@@ -2,6 +2,7 @@
 
 #include "platform/jet/collation.h"
 #include "platform/jet/utf8.h"
+#include "platform/jet/words.h"
 
 #include <QChar>
 
@@ -88,6 +89,7 @@ LikePattern::LikePattern(std::string_view pattern)
         if (const auto literal = std::ranges::find(m_tokens, Kind::Literal, &Token::kind);
             literal != m_tokens.end())
             m_needle = literal->literal;
+        m_asciiNeedle = utf8::isAscii(m_needle);
     }
 }
 
@@ -133,8 +135,27 @@ std::size_t LikePattern::addSet(std::string_view rest)
     return close + 1;
 }
 
+LikePattern::Answer LikePattern::beginning(std::string_view text) const
+{
+    const std::size_t common = std::min(text.size(), m_needle.size());
+    for (std::size_t i = 0; i < common; ++i) {
+        const char c = text[i];
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return Answer::LookCloser;
+        if (lowered(c) != m_needle[i])
+            return Answer::No;
+    }
+    const bool reaches = m_openEnd ? text.size() >= m_needle.size() : text.size() == m_needle.size();
+    return reaches ? Answer::Yes : Answer::No;
+}
+
 bool LikePattern::matches(std::string_view text) const
 {
+    if (m_plain && m_needle.empty() && m_openEnd)
+        return true;
+    if (m_plain && !m_openStart && m_asciiNeedle)
+        if (const Answer answer = beginning(text); answer != Answer::LookCloser)
+            return answer == Answer::Yes;
     if (text.size() > shortText)
         return matchesFolded(foldCase(text));
     std::array<char, shortText> folded;
@@ -142,7 +163,7 @@ bool LikePattern::matches(std::string_view text) const
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
         all = static_cast<unsigned char>(all | static_cast<unsigned char>(c));
-        folded[i] = static_cast<char>(c + (c >= 'A' && c <= 'Z' ? 'a' - 'A' : 0));
+        folded[i] = lowered(c);
     }
     return all < 0x80 ? matchesFolded({folded.data(), text.size()}) : matchesFolded(foldCase(text));
 }

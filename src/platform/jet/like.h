@@ -44,6 +44,9 @@ private:
     void addLiteral(std::string_view text);
     /// Reads the set behind a [ and returns its length with the ], or 0 when there is none.
     std::size_t addSet(std::string_view rest);
+    enum class Answer { No, Yes, LookCloser };
+    /// Whether an ASCII text begins with the needle, or is it; other texts must be folded first.
+    [[nodiscard]] Answer beginning(std::string_view text) const;
     [[nodiscard]] bool matchesFolded(std::string_view text) const;
     [[nodiscard]] bool walk(std::string_view text) const;
     [[nodiscard]] bool step(const Token &token, const char *&at, const char *end) const;
@@ -53,6 +56,7 @@ private:
     bool m_plain = false;
     bool m_openStart = false;
     bool m_openEnd = false;
+    bool m_asciiNeedle = false;
     std::string m_needle;
 };
 
