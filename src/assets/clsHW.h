@@ -11,21 +11,21 @@
 struct HWRecord
 {
     int HWTypeID = 0;
-    QString SerialNumber;
-    QString AssetNumber;
-    QString WarrantyNumber;
-    QString CompanyPropertyNumber;
-    QString WorkStationName;
-    QString Supplier;
+    QString SerialNumber = {};
+    QString AssetNumber = {};
+    QString WarrantyNumber = {};
+    QString CompanyPropertyNumber = {};
+    QString WorkStationName = {};
+    QString Supplier = {};
     /// As formatSqlDate() gives it; the store refuses an empty one.
-    QString PurchaseDate;
-    QString Usage;
-    QString Status;
+    QString PurchaseDate = {};
+    QString Usage = {};
+    QString Status = {};
     int EUCD = 0;
-    QString Comments;
+    QString Comments = {};
     int Network = 0;
-    QString IPAddress;
-    QString IPSubnet;
+    QString IPAddress = {};
+    QString IPSubnet = {};
 };
 
 /// All that reads and writes Tbl_HW and the hardware's side of Tbl_RoomHW, Tbl_UserHW and

@@ -1,0 +1,188 @@
+#include "assetstest.h"
+#include "base/text.h"
+#include "platform/jet/errors.h"
+#include "queries/clsCustomQuery.h"
+
+#include <functional>
+
+namespace {
+
+/// A family whose rows are known by the first of their texts, the last ones being no part of it.
+struct Catalogue
+{
+    const char *name;
+    QString table;
+    QString refusal;
+    QStringList columns;
+    qsizetype keys;
+    std::function<void(const QString &, const QStringList &)> add;
+    std::function<void(const QString &, int, const QStringList &)> update;
+    std::function<void(const QString &, int)> remove;
+};
+
+void PrintTo(const Catalogue &catalogue, std::ostream *out)
+{
+    *out << catalogue.name;
+}
+
+template <typename Records>
+Catalogue products(const char *name, const QString &table, const QString &refusal, const QStringList &columns)
+{
+    return {name,
+            table,
+            refusal,
+            columns,
+            4,
+            [](const QString &store, const QStringList &v) {
+                Records().Add(store, v[0], v[1], v[2], v[3], v[4]);
+            },
+            [](const QString &store, int id, const QStringList &v) {
+                Records().update(store, id, v[0], v[1], v[2], v[3], v[4]);
+            },
+            [](const QString &store, int id) { Records().Delete(store, id); }};
+}
+
+const Catalogue catalogues[] = {
+    products<clsHWType>("HWType", u"Tbl_HWType"_s,
+                        u"A Hardwaretype with the same charachteristics already exists in the Database."_s,
+                        {u"Type"_s, u"Manufacturer"_s, u"Model"_s, u"TypeNumber"_s, u"Description"_s}),
+    products<clsSW>("SW", u"Tbl_SW"_s,
+                    u"A Software with the same charachteristics already exists in the Database."_s,
+                    {u"Type"_s, u"Manufacturer"_s, u"Name"_s, u"Version"_s, u"Description"_s}),
+    {"Rooms",
+     u"Tbl_Rooms"_s,
+     u"A Room with the same Number alredy exists in the Database"_s,
+     {u"RoomNumber"_s, u"Description"_s},
+     1,
+     [](const QString &store, const QStringList &v) { clsRooms().Add(store, v[0], v[1]); },
+     [](const QString &store, int id, const QStringList &v) { clsRooms().update(store, id, v[0], v[1]); },
+     [](const QString &store, int id) { clsRooms().Delete(store, id); }},
+    {"CustomQuery",
+     u"Tbl_CustomQuery"_s,
+     u"A Custom Query with the same Name already exists in the Database."_s,
+     {u"Name"_s, u"Description"_s, u"SQLString"_s},
+     1,
+     [](const QString &store, const QStringList &v) { clsCustomQuery().Add(store, v[0], v[1], v[2]); },
+     [](const QString &store, int id, const QStringList &v) {
+         clsCustomQuery().update(store, id, v[0], v[1], v[2]);
+     },
+     [](const QString &store, int id) { clsCustomQuery().Delete(store, id); }},
+};
+
+class CatalogueTest : public StoreTest, public testing::WithParamInterface<Catalogue>
+{
+protected:
+    /// A row with a different text in each column.
+    [[nodiscard]] QStringList texts(const QString &prefix) const
+    {
+        QStringList values;
+        for (const QString &column : GetParam().columns)
+            values += prefix + column;
+        return values;
+    }
+
+    Rows content()
+    {
+        return rows("SELECT ID, ["_L1 + GetParam().columns.join(u"], ["_s) + "] FROM "_L1 + GetParam().table +
+                    " ORDER BY ID"_L1);
+    }
+
+    static QString row(int id, const QStringList &values)
+    {
+        return QString::number(id) + u'|' + values.join(u'|');
+    }
+
+    void expectRefused(const std::function<void()> &step)
+    {
+        const Rows before = content();
+        const CurrentError error = errorOf(step);
+        EXPECT_EQ(error.number, RuleViolation);
+        EXPECT_EQ(error.description, GetParam().refusal);
+        EXPECT_EQ(content(), before);
+    }
+};
+
+} // namespace
+
+TEST_P(CatalogueTest, ARowIsKnownByItsKey)
+{
+    const Catalogue &catalogue = GetParam();
+    const QStringList first = texts(u"a "_s);
+    catalogue.add(connection, first);
+    EXPECT_EQ(content(), Rows{row(1, first)});
+
+    QStringList sameKey = first;
+    for (QString &text : sameKey)
+        text = text.toUpper();
+    sameKey.last() = u"another description"_s;
+    expectRefused([&] { catalogue.add(connection, sameKey); });
+
+    for (qsizetype i = 0; i < catalogue.keys; ++i) {
+        QStringList other = first;
+        other[i] += u" else"_s;
+        catalogue.add(connection, other);
+        EXPECT_EQ(content().last(), row(int(i) + 2, other));
+    }
+}
+
+TEST_P(CatalogueTest, UpdateLeavesItsOwnRowOutOfTheTest)
+{
+    const Catalogue &catalogue = GetParam();
+    const QStringList first = texts(u"a "_s);
+    const QStringList second = texts(u"b "_s);
+    catalogue.add(connection, first);
+    catalogue.add(connection, second);
+
+    catalogue.update(connection, 2, second);
+    EXPECT_EQ(content(), (Rows{row(1, first), row(2, second)}));
+    expectRefused([&] { catalogue.update(connection, 2, first); });
+
+    const QStringList third = texts(u"c "_s);
+    catalogue.update(connection, 2, third);
+    EXPECT_EQ(content(), (Rows{row(1, first), row(2, third)}));
+}
+
+TEST_P(CatalogueTest, AnEmptyKeyIsAKey)
+{
+    const Catalogue &catalogue = GetParam();
+    const QStringList empty(catalogue.columns.size(), QString());
+    catalogue.add(connection, empty);
+    EXPECT_EQ(content(), Rows{row(1, empty)});
+    expectRefused([&] { catalogue.add(connection, empty); });
+}
+
+TEST_P(CatalogueTest, AnApostropheIsRefusedInEachTextAndKeptWhenEscaped)
+{
+    const Catalogue &catalogue = GetParam();
+    const QStringList first = texts(u"a "_s);
+    catalogue.add(connection, first);
+    for (qsizetype i = 0; i < first.size(); ++i) {
+        QStringList quoted = texts(u"q "_s);
+        quoted[i] = u"it's"_s;
+        EXPECT_EQ(errorOf([&] { catalogue.add(connection, quoted); }).number, jet::SyntaxError) << i;
+        EXPECT_EQ(errorOf([&] { catalogue.update(connection, 1, quoted); }).number, jet::SyntaxError) << i;
+    }
+    EXPECT_EQ(content(), Rows{row(1, first)});
+
+    QStringList escaped = texts(u"q "_s);
+    escaped.last() = escapeQuotes(u"it's 'so'"_s);
+    catalogue.add(connection, escaped);
+    escaped.last() = u"it's 'so'"_s;
+    EXPECT_EQ(content().last(), row(2, escaped));
+}
+
+TEST_P(CatalogueTest, DeleteTakesOneRowWhoseIdIsNeverUsedAgain)
+{
+    const Catalogue &catalogue = GetParam();
+    for (const QString &prefix : {u"a "_s, u"b "_s})
+        catalogue.add(connection, texts(prefix));
+    catalogue.remove(connection, 2);
+    catalogue.remove(connection, 99);
+    EXPECT_EQ(content(), Rows{row(1, texts(u"a "_s))});
+    catalogue.remove(connection, 1);
+    catalogue.add(connection, texts(u"c "_s));
+    EXPECT_EQ(content(), Rows{row(3, texts(u"c "_s))});
+}
+
+INSTANTIATE_TEST_SUITE_P(Records, CatalogueTest, testing::ValuesIn(catalogues),
+                         [](const auto &info) { return std::string(info.param.name); });
