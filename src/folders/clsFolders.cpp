@@ -15,30 +15,26 @@ constexpr auto defaultPermissionExists = "The specified Default Permission alrea
 
 void clsFolders::Add(const QString &connectionString, const QString &path, const QString &description)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        const QString name = folderPath(path);
-        if (store.exists(
-                joined("SELECT * FROM Tbl_Folders WHERE FolderName ='{path}'"_L1, {{"path"_L1, name}})))
-            raise(RuleViolation, folderExists);
-        store.execute(
-            joined("INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('{path}','{description}')"_L1,
-                   {{"path"_L1, name}, {"description"_L1, description}}));
-    });
+    const QString name = folderPath(path);
+    writeUnlessFound(
+        connectionString,
+        joined("SELECT * FROM Tbl_Folders WHERE FolderName ='{path}'"_L1, {{"path"_L1, name}}), folderExists,
+        joined("INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('{path}','{description}')"_L1,
+               {{"path"_L1, name}, {"description"_L1, description}}));
 }
 
 void clsFolders::update(const QString &connectionString, int id, const QString &path,
                         const QString &description)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        const QString name = folderPath(path);
-        const QString idText = QString::number(id);
-        if (store.exists(joined("SELECT * FROM Tbl_Folders WHERE FolderName ='{path}' AND ID <>{id}"_L1,
-                                {{"path"_L1, name}, {"id"_L1, idText}})))
-            raise(RuleViolation, folderExists);
-        store.execute(joined(
-            "UPDATE Tbl_Folders SET FolderName ='{path}',Description= '{description}' WHERE ID ={id}"_L1,
-            {{"path"_L1, name}, {"description"_L1, description}, {"id"_L1, idText}}));
-    });
+    const QString name = folderPath(path);
+    const QString idText = QString::number(id);
+    writeUnlessFound(
+        connectionString,
+        joined("SELECT * FROM Tbl_Folders WHERE FolderName ='{path}' AND ID <>{id}"_L1,
+               {{"path"_L1, name}, {"id"_L1, idText}}),
+        folderExists,
+        joined("UPDATE Tbl_Folders SET FolderName ='{path}',Description= '{description}' WHERE ID ={id}"_L1,
+               {{"path"_L1, name}, {"description"_L1, description}, {"id"_L1, idText}}));
 }
 
 void clsFolders::Delete(const QString &connectionString, std::span<const int> ids)
@@ -64,29 +60,27 @@ void clsFolders::RemoveAllPermissions(const QString &connectionString, std::span
 void clsFolders::AddDefaultFolderPermission(const QString &connectionString, const QString &account,
                                             const QString &permission)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        if (store.exists(joined("SELECT * FROM Tbl_FolderDefaultPermissions WHERE Account ='{account}'"_L1,
-                                {{"account"_L1, account}})))
-            raise(RuleViolation, defaultPermissionExists);
-        store.execute(joined("INSERT INTO Tbl_FolderDefaultPermissions ([Account],[Permission]) "
-                             "VALUES ('{account}','{permission}')"_L1,
-                             {{"account"_L1, account}, {"permission"_L1, permission}}));
-    });
+    writeUnlessFound(connectionString,
+                     joined("SELECT * FROM Tbl_FolderDefaultPermissions WHERE Account ='{account}'"_L1,
+                            {{"account"_L1, account}}),
+                     defaultPermissionExists,
+                     joined("INSERT INTO Tbl_FolderDefaultPermissions ([Account],[Permission]) "
+                            "VALUES ('{account}','{permission}')"_L1,
+                            {{"account"_L1, account}, {"permission"_L1, permission}}));
 }
 
 void clsFolders::updateDefaultFolderPermission(const QString &connectionString, int id,
                                                const QString &account, const QString &permission)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        const QString idText = QString::number(id);
-        if (store.exists(joined("SELECT * FROM Tbl_FolderDefaultPermissions "
-                                "WHERE [Account] ='{account}' AND ID <>{id}"_L1,
-                                {{"account"_L1, account}, {"id"_L1, idText}})))
-            raise(RuleViolation, defaultPermissionExists);
-        store.execute(joined("UPDATE Tbl_FolderDefaultPermissions SET [Account] ='{account}',"
-                             "[Permission]= '{permission}' WHERE ID ={id}"_L1,
-                             {{"account"_L1, account}, {"permission"_L1, permission}, {"id"_L1, idText}}));
-    });
+    const QString idText = QString::number(id);
+    writeUnlessFound(
+        connectionString,
+        joined("SELECT * FROM Tbl_FolderDefaultPermissions WHERE [Account] ='{account}' AND ID <>{id}"_L1,
+               {{"account"_L1, account}, {"id"_L1, idText}}),
+        defaultPermissionExists,
+        joined("UPDATE Tbl_FolderDefaultPermissions SET [Account] ='{account}',"
+               "[Permission]= '{permission}' WHERE ID ={id}"_L1,
+               {{"account"_L1, account}, {"permission"_L1, permission}, {"id"_L1, idText}}));
 }
 
 void clsFolders::DeleteDefaultFolderPermissions(const QString &connectionString, std::span<const int> ids)

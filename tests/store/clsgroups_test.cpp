@@ -174,6 +174,7 @@ protected:
     {
         GlobalGroups::SetUp();
         fillStore();
+        StoreSession store(connection);
         for (const char *statement : {
                  "INSERT INTO Tbl_LocalGroups (Name,Server,Description) VALUES ('Printers','SRV01','Print')",
                  "INSERT INTO Tbl_LocalGroups (Name,Server) VALUES ('Data','SRV02')",
@@ -189,7 +190,7 @@ protected:
                  "INSERT INTO Tbl_LocalGroupsGlobalGroups (LocalGroupID,GlobalGroupID) VALUES (2,1)",
                  "INSERT INTO Tbl_LocalGroupsGlobalGroups (LocalGroupID,GlobalGroupID) VALUES (1,2)",
              })
-            run(QString::fromUtf8(statement));
+            store.execute(QString::fromUtf8(statement));
     }
 
     Rows nesting()

@@ -72,15 +72,20 @@ protected:
     /// Two groups, three users, two folders and no relationship.
     void fillStore()
     {
-        add(u"Staff"_s, u"SRV01"_s, u"All"_s);
-        run("INSERT INTO "_L1 + names.groups + " (Name,Server) VALUES ('Admins','SRV02')"_L1);
-        run(u"INSERT INTO Tbl_Users (UserID,UserName,ServerName,LastName,FirstName) "
-            "VALUES (1,'anna','SRV01','Ärmel','Anna')"_s);
-        run(u"INSERT INTO Tbl_Users (UserID,UserName,ServerName,LastName,FirstName) "
-            "VALUES (2,'bert','SRV02','Zorn','Bert')"_s);
-        run(u"INSERT INTO Tbl_Users (UserID,UserName,ServerName) VALUES (3,'cleo','SRV01')"_s);
-        run(u"INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('D:\\Data\\','Data')"_s);
-        run(u"INSERT INTO Tbl_Folders (FolderName) VALUES ('D:\\Admin\\')"_s);
+        StoreSession store(connection);
+        for (const QString &statement : std::initializer_list<QString>{
+                 "INSERT INTO "_L1 + names.groups +
+                     " (Name,Server,Description) VALUES ('Staff','SRV01','All')"_L1,
+                 "INSERT INTO "_L1 + names.groups + " (Name,Server) VALUES ('Admins','SRV02')"_L1,
+                 u"INSERT INTO Tbl_Users (UserID,UserName,ServerName,LastName,FirstName) "
+                 "VALUES (1,'anna','SRV01','Ärmel','Anna')"_s,
+                 u"INSERT INTO Tbl_Users (UserID,UserName,ServerName,LastName,FirstName) "
+                 "VALUES (2,'bert','SRV02','Zorn','Bert')"_s,
+                 u"INSERT INTO Tbl_Users (UserID,UserName,ServerName) VALUES (3,'cleo','SRV01')"_s,
+                 u"INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('D:\\Data\\','Data')"_s,
+                 u"INSERT INTO Tbl_Folders (FolderName) VALUES ('D:\\Admin\\')"_s,
+             })
+            store.execute(statement);
     }
 
     Rows all()
