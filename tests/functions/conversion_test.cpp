@@ -120,6 +120,10 @@ TEST_F(ConversionTest, FillsColumns)
 TEST_F(ConversionTest, Calculates)
 {
     check({{
+        {"jet_add('a', 'b')", "'ab'"},
+        {"jet_add('2', 3)", "5.0"},
+        {"jet_add('a', NULL)", "NULL"},
+        {"jet_add('a', 1)", MISMATCH},
         {"jet_div(7, 2)", "3.5"},
         {"jet_div(1, 0)", DIVISION},
         {"jet_div(NULL, 0)", "NULL"},

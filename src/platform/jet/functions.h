@@ -58,6 +58,8 @@ struct FunctionInfo
 ///                        such value raises TypeMismatch, a number out of range Failure
 ///                        with the text "Numeric field overflow."; Null stays Null
 ///   jet_fit(x, n)        the text, raises FieldTooSmall when longer than n characters
+///   jet_add(a, b)        the + of values whose types only running tells: two texts are
+///                        joined, otherwise numbers added; Null with anything is Null
 ///   jet_div, jet_idiv, jet_mod, jet_pow   the arithmetic that SQLite lacks
 ///   jet_raise(number, text)   raises
 void registerFunctions(sqlite3 *handle);

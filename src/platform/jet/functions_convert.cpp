@@ -152,6 +152,14 @@ void fit(Call &call)
     call.give(text);
 }
 
+void add(Call &call)
+{
+    if (call.isText(0) && call.isText(1))
+        call.give(std::string(call.text(0)).append(call.text(1)));
+    else
+        call.giveNumber(call.number(0) + call.number(1));
+}
+
 void divide(Call &call)
 {
     if (call.number(1) == 0)
@@ -223,6 +231,7 @@ const Conversion conversions[] = {
     {"jet_todate", {toDateColumn}},
     {"jet_tobool", {toBooleanColumn}},
     {"jet_fit", {fit}},
+    {"jet_add", {add}},
     {"jet_div", {divide}},
     {"jet_idiv", {divideWhole}},
     {"jet_mod", {modulo}},
