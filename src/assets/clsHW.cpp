@@ -1,5 +1,8 @@
 #include "assets/clsHW.h"
 
+#include "store/relations.h"
+#include "store/statement.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -7,74 +10,103 @@ namespace {
 constexpr auto alreadyExists =
     "A Hardware of the same Type with this Serial Number already exists in the Database."_L1;
 
+// clang-format off
+constexpr auto taken =
+    "SELECT * FROM Tbl_HW WHERE SerialNumber = '{serial}' AND HWTypeID = {type}"_L1;
+constexpr auto insert =
+    "INSERT INTO Tbl_HW ([HWTypeID],[SerialNumber],[AssetNumber],[WarrantyNumber],[CompanyPropertyNumber],[WorkStationName],[Supplier],[PurchaseDate],[Usage],[Status],[EUCD],[Comments],[Network],[IPAddress],[IPSubnet]) "
+    "VALUES ({type},'{serial}','{asset}','{warranty}','{property}','{workstation}','{supplier}',#{date}#,'{usage}','{status}',{eucd},'{comments}',{network},'{ip}','{subnet}')"_L1;
+
+constexpr auto takenByOther =
+    "SELECT * FROM Tbl_HW WHERE SerialNumber = '{serial}' AND HWTypeID = {type} AND ID <> {id}"_L1;
+constexpr auto change =
+    "UPDATE Tbl_HW SET [HWTypeID] ={type}, [SerialNumber] ='{serial}', [AssetNumber] = '{asset}', [WarrantyNumber] ='{warranty}', [CompanyPropertyNumber] ='{property}', [WorkStationName] ='{workstation}', [Supplier] ='{supplier}', "
+    "[PurchaseDate] =#{date}#, [Usage] ='{usage}', [Status] ='{status}', [EUCD] ={eucd}, [Comments] ='{comments}', [NetWork] ={network}, [IPAddress] ='{ip}', [IPSubNet] ='{subnet}' WHERE ID = {id}"_L1;
+// clang-format on
+
+constexpr RelationStatements roomsOfItem = {
+    "DELETE * FROM Tbl_RoomHW WHERE HWID={id}"_L1,
+    {},
+    "INSERT INTO Tbl_RoomHW (HWID,RoomID) VALUES ({id},{item})"_L1,
+};
+constexpr RelationStatements usersOfItem = {
+    "DELETE * FROM Tbl_UserHW WHERE HWID={id}"_L1,
+    {},
+    "INSERT INTO Tbl_UserHW (HWID,UserID) VALUES ({id},{item})"_L1,
+};
+constexpr RelationStatements softwareOfItem = {
+    "DELETE * FROM Tbl_SWHW WHERE HWID={id}"_L1,
+    {},
+    "INSERT INTO Tbl_SWHW (HWID,SWID) VALUES ({id},{item})"_L1,
+};
+
+/// The text with the columns of the item, and its id where the text asks for one.
+QString filled(QLatin1StringView text, const HWRecord &item, int id = 0)
+{
+    const QString idText = QString::number(id);
+    const QString type = QString::number(item.HWTypeID);
+    const QString eucd = QString::number(item.EUCD);
+    const QString network = QString::number(item.Network);
+    return joined(text, {{"type"_L1, type},
+                         {"serial"_L1, item.SerialNumber},
+                         {"asset"_L1, item.AssetNumber},
+                         {"warranty"_L1, item.WarrantyNumber},
+                         {"property"_L1, item.CompanyPropertyNumber},
+                         {"workstation"_L1, item.WorkStationName},
+                         {"supplier"_L1, item.Supplier},
+                         {"date"_L1, item.PurchaseDate},
+                         {"usage"_L1, item.Usage},
+                         {"status"_L1, item.Status},
+                         {"eucd"_L1, eucd},
+                         {"comments"_L1, item.Comments},
+                         {"network"_L1, network},
+                         {"ip"_L1, item.IPAddress},
+                         {"subnet"_L1, item.IPSubnet},
+                         {"id"_L1, idText}});
+}
+
 } // namespace
 
 void clsHW::Add(const QString &connectionString, const HWRecord &item)
 {
-    const QString type = QString::number(item.HWTypeID);
-    writeUnlessFound(
-        connectionString,
-        "SELECT * FROM Tbl_HW WHERE SerialNumber = '"_L1 + item.SerialNumber + "' AND HWTypeID = "_L1 + type,
-        alreadyExists,
-        "INSERT INTO Tbl_HW ([HWTypeID],[SerialNumber],[AssetNumber],[WarrantyNumber],"
-        "[CompanyPropertyNumber],[WorkStationName],[Supplier],[PurchaseDate],[Usage],[Status],[EUCD],"
-        "[Comments],[Network],[IPAddress],[IPSubnet]) VALUES ("_L1 +
-            type + ",'"_L1 + item.SerialNumber + "','"_L1 + item.AssetNumber + "','"_L1 +
-            item.WarrantyNumber + "','"_L1 + item.CompanyPropertyNumber + "','"_L1 + item.WorkStationName +
-            "','"_L1 + item.Supplier + "',#"_L1 + item.PurchaseDate + "#,'"_L1 + item.Usage + "','"_L1 +
-            item.Status + "',"_L1 + QString::number(item.EUCD) + ",'"_L1 + item.Comments + "',"_L1 +
-            QString::number(item.Network) + ",'"_L1 + item.IPAddress + "','"_L1 + item.IPSubnet + "')"_L1);
+    writeUnlessFound(connectionString, filled(taken, item), alreadyExists, filled(insert, item));
 }
 
 void clsHW::addRooms(const QString &connectionString, int id, std::span<const int> rooms, bool deleteSW)
 {
-    const QString item = QString::number(id);
-    QStringList clearing = {"DELETE * FROM Tbl_RoomHW WHERE HWID="_L1 + item};
-    if (!rooms.empty())
-        clearing += "DELETE * FROM Tbl_UserHW WHERE HWID="_L1 + item;
-    if (deleteSW)
-        clearing += "DELETE * FROM Tbl_SWHW WHERE HWID ="_L1 + item;
-    relate(connectionString, clearing, "INSERT INTO Tbl_RoomHW (HWID,RoomID) VALUES ("_L1 + item + ","_L1,
-           rooms);
+    withStore(connectionString, [&](StoreSession &store) {
+        store.execute(withId(roomsOfItem.clear, id));
+        if (!rooms.empty())
+            store.execute(withId(usersOfItem.clear, id));
+        if (deleteSW)
+            store.execute(withId("DELETE * FROM Tbl_SWHW WHERE HWID ={id}"_L1, id));
+        writeRelations(store, roomsOfItem, id, rooms, {}, false);
+    });
 }
 
 void clsHW::addUsers(const QString &connectionString, int id, std::span<const int> users)
 {
-    const QString item = QString::number(id);
-    QStringList clearing = {"DELETE * FROM Tbl_UserHW WHERE HWID="_L1 + item};
-    if (!users.empty())
-        clearing += "DELETE * FROM Tbl_RoomHW WHERE HWID="_L1 + item;
-    relate(connectionString, clearing, "INSERT INTO Tbl_UserHW (HWID,UserID) VALUES ("_L1 + item + ","_L1,
-           users);
+    withStore(connectionString, [&](StoreSession &store) {
+        store.execute(withId(usersOfItem.clear, id));
+        if (!users.empty())
+            store.execute(withId(roomsOfItem.clear, id));
+        writeRelations(store, usersOfItem, id, users, {}, false);
+    });
 }
 
 void clsHW::addSW(const QString &connectionString, int id, std::span<const int> software)
 {
-    const QString item = QString::number(id);
-    relate(connectionString, {"DELETE * FROM Tbl_SWHW WHERE HWID="_L1 + item},
-           "INSERT INTO Tbl_SWHW (HWID,SWID) VALUES ("_L1 + item + ","_L1, software);
+    withStore(connectionString,
+              [&](StoreSession &store) { writeRelations(store, softwareOfItem, id, software, {}, true); });
 }
 
 void clsHW::update(const QString &connectionString, int id, const HWRecord &item)
 {
-    const QString row = QString::number(id);
-    const QString type = QString::number(item.HWTypeID);
-    writeUnlessFound(
-        connectionString,
-        "SELECT * FROM Tbl_HW WHERE SerialNumber = '"_L1 + item.SerialNumber + "' AND HWTypeID = "_L1 + type +
-            " AND ID <> "_L1 + row,
-        alreadyExists,
-        "UPDATE Tbl_HW SET [HWTypeID] ="_L1 + type + ", [SerialNumber] ='"_L1 + item.SerialNumber +
-            "', [AssetNumber] = '"_L1 + item.AssetNumber + "', [WarrantyNumber] ='"_L1 + item.WarrantyNumber +
-            "', [CompanyPropertyNumber] ='"_L1 + item.CompanyPropertyNumber + "', [WorkStationName] ='"_L1 +
-            item.WorkStationName + "', [Supplier] ='"_L1 + item.Supplier + "', [PurchaseDate] =#"_L1 +
-            item.PurchaseDate + "#, [Usage] ='"_L1 + item.Usage + "', [Status] ='"_L1 + item.Status +
-            "', [EUCD] ="_L1 + QString::number(item.EUCD) + ", [Comments] ='"_L1 + item.Comments +
-            "', [NetWork] ="_L1 + QString::number(item.Network) + ", [IPAddress] ='"_L1 + item.IPAddress +
-            "', [IPSubNet] ='"_L1 + item.IPSubnet + "' WHERE ID = "_L1 + row);
+    writeUnlessFound(connectionString, filled(takenByOther, item, id), alreadyExists,
+                     filled(change, item, id));
 }
 
 void clsHW::Delete(const QString &connectionString, int id)
 {
-    write(connectionString, {"DELETE * FROM Tbl_HW WHERE ID ="_L1 + QString::number(id)});
+    write(connectionString, withId("DELETE * FROM Tbl_HW WHERE ID ={id}"_L1, id));
 }

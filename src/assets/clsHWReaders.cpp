@@ -1,79 +1,111 @@
 #include "assets/clsHW.h"
 
+#include "store/statement.h"
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto findInAllTypes =
+    "SELECT Tbl_HW.ID, [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber] AS "
+    "[Hardware Type], [SerialNumber], [CompanyPropertyNumber], [Usage], [IPAddress] FROM Tbl_HW "
+    "INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID "
+    "WHERE ([SerialNumber] LIKE '%{serial}%' OR [SerialNumber] is Null) "
+    "AND ([WorkStationName] LIKE '%{workstation}%' OR [WorkStationName] is Null) "
+    "AND ([IPAddress] LIKE '%{ip}%' OR [IPAddress] is Null) "
+    "AND ([AssetNumber] Like '%{asset}%' OR [AssetNumber] is Null) "
+    "AND (CompanyPropertyNumber Like '%{property}%' OR [CompanyPropertyNumber] is Null) "
+    "ORDER BY [SerialNumber];"_L1;
+constexpr auto findInType =
+    "SELECT Tbl_HW.ID, [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber] AS "
+    "[Hardware Type], [SerialNumber], [CompanyPropertyNumber], [Usage], [IPAddress] FROM Tbl_HW "
+    "INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID "
+    "WHERE [HWTypeID]={type} AND ([SerialNumber] LIKE '%{serial}%' OR [SerialNumber] is Null) "
+    "AND ([WorkStationName] LIKE '%{workstation}%' OR [WorkStationName] is Null) "
+    "AND ([IPAddress] LIKE '%{ip}%' OR [IPAddress] is Null) "
+    "AND ([AssetNumber] Like '%{asset}%' OR [AssetNumber] is Null) "
+    "AND (CompanyPropertyNumber Like '%{property}%' OR [CompanyPropertyNumber] is Null) "
+    "ORDER BY [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber];"_L1;
+
+} // namespace
 
 void clsHW::getAssignedRoom(const QString &connectionString, int id, QString &roomNumber, int &roomId)
 {
     jet::Recordset room;
     read(connectionString, room,
-         "SELECT * FROM Tbl_Rooms INNER JOIN Tbl_RoomHW ON Tbl_Rooms.ID = Tbl_RoomHW.RoomID "
-         "WHERE Tbl_RoomHW.HWID="_L1 +
-             QString::number(id));
+         withId("SELECT * FROM Tbl_Rooms INNER JOIN Tbl_RoomHW ON Tbl_Rooms.ID = Tbl_RoomHW.RoomID "
+                "WHERE Tbl_RoomHW.HWID={id}"_L1,
+                id));
     roomNumber = room.eof() ? QString() : room.value(u"RoomNumber").toText();
     roomId = room.eof() ? 0 : int(room.value(u"ID").toInteger());
 }
 
 void clsHW::getOfType(const QString &connectionString, jet::Recordset &result, int hardwareType)
 {
-    read(connectionString, result,
-         "SELECT Tbl_HW.[ID], Tbl_HWType.[Type] & ' ' &  Tbl_HWType.[Manufacturer] & ' ' & "
-         "Tbl_HWType.[Model] & ' ' & Tbl_HWType.[TypeNumber] as [HardwareType], Tbl_HW.[SerialNumber], "
-         "Tbl_HW.[WarrantyNumber], Tbl_HW.[CompanyPropertyNumber], Tbl_HW.[Usage], Tbl_HW.[IPAddress] "
-         "FROM Tbl_HW INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID "
-         "WHERE Tbl_HW.HWTypeID = "_L1 +
-             QString::number(hardwareType) + " ORDER BY  [SerialNumber] ASC "_L1);
+    read(
+        connectionString, result,
+        withId("SELECT Tbl_HW.[ID], Tbl_HWType.[Type] & ' ' &  Tbl_HWType.[Manufacturer] & ' ' & "
+               "Tbl_HWType.[Model] & ' ' & Tbl_HWType.[TypeNumber] as [HardwareType], Tbl_HW.[SerialNumber], "
+               "Tbl_HW.[WarrantyNumber], Tbl_HW.[CompanyPropertyNumber], Tbl_HW.[Usage], Tbl_HW.[IPAddress] "
+               "FROM Tbl_HW INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID "
+               "WHERE Tbl_HW.HWTypeID = {id} ORDER BY  [SerialNumber] ASC "_L1,
+               hardwareType));
 }
 
 void clsHW::getRoom(const QString &connectionString, jet::Recordset &result, int id)
 {
     read(connectionString, result,
-         "SELECT Tbl_Rooms.ID, Tbl_Rooms.RoomNumber, Tbl_Rooms.Description FROM Tbl_RoomHW "
-         "INNER JOIN Tbl_Rooms ON Tbl_RoomHW.RoomID = Tbl_Rooms.ID Where Tbl_RoomHW.HWID = "_L1 +
-             QString::number(id) + " ORDER BY Tbl_Rooms.RoomNumber ASC"_L1);
+         withId("SELECT Tbl_Rooms.ID, Tbl_Rooms.RoomNumber, Tbl_Rooms.Description FROM Tbl_RoomHW "
+                "INNER JOIN Tbl_Rooms ON Tbl_RoomHW.RoomID = Tbl_Rooms.ID Where Tbl_RoomHW.HWID = {id} "
+                "ORDER BY Tbl_Rooms.RoomNumber ASC"_L1,
+                id));
 }
 
 void clsHW::getNotRoom(const QString &connectionString, jet::Recordset &result, int id)
 {
     read(connectionString, result,
-         "SELECT Tbl_Rooms.ID, Tbl_Rooms.RoomNumber, Tbl_Rooms.Description FROM TBl_Rooms "
-         "WHERE Tbl_Rooms.ID NOT IN (SELECT RoomID as ID FROM TBL_RoomHW WHERE HWID = "_L1 +
-             QString::number(id) + ") ORDER BY RoomNumber ASC"_L1);
+         withId("SELECT Tbl_Rooms.ID, Tbl_Rooms.RoomNumber, Tbl_Rooms.Description FROM TBl_Rooms "
+                "WHERE Tbl_Rooms.ID NOT IN (SELECT RoomID as ID FROM TBL_RoomHW WHERE HWID = {id}) "
+                "ORDER BY RoomNumber ASC"_L1,
+                id));
 }
 
 void clsHW::getNotUser(const QString &connectionString, jet::Recordset &result, int id)
 {
     read(connectionString, result,
-         "SELECT Tbl_Users.UserID, Tbl_Users.LastName , Tbl_Users.FirstName, "
-         "Tbl_Users.UserName,Tbl_Users.ServerName FROM Tbl_Users "
-         "WHERE Tbl_Users.UserID NOT IN (SELECT USERID from Tbl_UserHW WHERE HWID = "_L1 +
-             QString::number(id) + ") ORDER BY LastName ASC"_L1);
+         withId("SELECT Tbl_Users.UserID, Tbl_Users.LastName , Tbl_Users.FirstName, "
+                "Tbl_Users.UserName,Tbl_Users.ServerName FROM Tbl_Users "
+                "WHERE Tbl_Users.UserID NOT IN (SELECT USERID from Tbl_UserHW WHERE HWID = {id}) "
+                "ORDER BY LastName ASC"_L1,
+                id));
 }
 
 void clsHW::getUser(const QString &connectionString, jet::Recordset &result, int id)
 {
     read(connectionString, result,
-         "SELECT Tbl_Users.UserID, Tbl_Users.LastName, Tbl_Users.FirstName, "
-         "Tbl_Users.UserName,Tbl_Users.ServerName FROM Tbl_Users INNER JOIN Tbl_UserHW "
-         "ON Tbl_Users.UserID = Tbl_UserHW.UserID WHERE Tbl_UserHW.HWID="_L1 +
-             QString::number(id) + " ORDER BY Tbl_Users.LastName ASC "_L1);
+         withId("SELECT Tbl_Users.UserID, Tbl_Users.LastName, Tbl_Users.FirstName, "
+                "Tbl_Users.UserName,Tbl_Users.ServerName FROM Tbl_Users INNER JOIN Tbl_UserHW "
+                "ON Tbl_Users.UserID = Tbl_UserHW.UserID WHERE Tbl_UserHW.HWID={id} "
+                "ORDER BY Tbl_Users.LastName ASC "_L1,
+                id));
 }
 
 void clsHW::getSW(const QString &connectionString, jet::Recordset &result, int id)
 {
     read(connectionString, result,
-         "SELECT Tbl_SW.ID, Tbl_SW.[Type], Tbl_SW.[Manufacturer], Tbl_SW.[Name], Tbl_SW.[Version] "
-         "FROM Tbl_SWHW INNER JOIN Tbl_SW ON Tbl_SWHW.SWID = Tbl_SW.ID WHERE Tbl_SWHW.HWID = "_L1 +
-             QString::number(id) +
-             " ORDER BY Tbl_SW.[Type], Tbl_SW.[Manufacturer], Tbl_SW.[Name], Tbl_SW.[Version]; "_L1);
+         withId("SELECT Tbl_SW.ID, Tbl_SW.[Type], Tbl_SW.[Manufacturer], Tbl_SW.[Name], Tbl_SW.[Version] "
+                "FROM Tbl_SWHW INNER JOIN Tbl_SW ON Tbl_SWHW.SWID = Tbl_SW.ID WHERE Tbl_SWHW.HWID = {id} "
+                "ORDER BY Tbl_SW.[Type], Tbl_SW.[Manufacturer], Tbl_SW.[Name], Tbl_SW.[Version]; "_L1,
+                id));
 }
 
 void clsHW::getNotSW(const QString &connectionString, jet::Recordset &result, int id)
 {
     read(connectionString, result,
-         "SELECT Tbl_SW.ID, Tbl_SW.[Type], Tbl_SW.[Manufacturer], Tbl_SW.[Name], Tbl_SW.[Version] "
-         "FROM Tbl_SW  WHERE Tbl_SW.ID NOT IN (SELECT SWID AS ID FROM Tbl_SWHW WHERE HWID ="_L1 +
-             QString::number(id) +
-             ") ORDER BY Tbl_SW.[Type], Tbl_SW.[Manufacturer], Tbl_SW.[Name], Tbl_SW.[Version]; "_L1);
+         withId("SELECT Tbl_SW.ID, Tbl_SW.[Type], Tbl_SW.[Manufacturer], Tbl_SW.[Name], Tbl_SW.[Version] "
+                "FROM Tbl_SW  WHERE Tbl_SW.ID NOT IN (SELECT SWID AS ID FROM Tbl_SWHW WHERE HWID ={id}) "
+                "ORDER BY Tbl_SW.[Type], Tbl_SW.[Manufacturer], Tbl_SW.[Name], Tbl_SW.[Version]; "_L1,
+                id));
 }
 
 void clsHW::getSuppliers(const QString &connectionString, jet::Recordset &result)
@@ -116,29 +148,23 @@ void clsHW::Find(const QString &connectionString, jet::Recordset &result, int ha
                  const QString &serialNumber, const QString &workStationName, const QString &ipAddress,
                  const QString &assetNumber, const QString &companyPropertyNumber)
 {
-    QString ofType;
-    QString order = u"ORDER BY [SerialNumber];"_s;
-    if (hardwareType != 0) {
-        ofType = "[HWTypeID]="_L1 + QString::number(hardwareType) + " AND "_L1;
-        order = u"ORDER BY [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber];"_s;
-    }
+    const QString type = QString::number(hardwareType);
     read(connectionString, result,
-         "SELECT Tbl_HW.ID, [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber] AS "
-         "[Hardware Type], [SerialNumber], [CompanyPropertyNumber], [Usage], [IPAddress] FROM Tbl_HW "
-         "INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID WHERE "_L1 +
-             ofType + "([SerialNumber] LIKE '%"_L1 + serialNumber +
-             "%' OR [SerialNumber] is Null) AND ([WorkStationName] LIKE '%"_L1 + workStationName +
-             "%' OR [WorkStationName] is Null) AND ([IPAddress] LIKE '%"_L1 + ipAddress +
-             "%' OR [IPAddress] is Null) AND ([AssetNumber] Like '%"_L1 + assetNumber +
-             "%' OR [AssetNumber] is Null) AND (CompanyPropertyNumber Like '%"_L1 + companyPropertyNumber +
-             "%' OR [CompanyPropertyNumber] is Null) "_L1 + order);
+         joined(hardwareType == 0 ? findInAllTypes : findInType, {{"type"_L1, type},
+                                                                  {"serial"_L1, serialNumber},
+                                                                  {"workstation"_L1, workStationName},
+                                                                  {"ip"_L1, ipAddress},
+                                                                  {"asset"_L1, assetNumber},
+                                                                  {"property"_L1, companyPropertyNumber}}));
 }
 
 void clsHW::GetByID(const QString &connectionString, jet::Recordset &result, int id)
 {
-    read(connectionString, result,
-         "SELECT Tbl_HW.*, [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber] AS [HWType] "
-         "FROM Tbl_HW INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID WHERE Tbl_HW.ID = "_L1 +
-             QString::number(id) +
-             " ORDER BY [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber];"_L1);
+    read(
+        connectionString, result,
+        withId(
+            "SELECT Tbl_HW.*, [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber] AS [HWType] "
+            "FROM Tbl_HW INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID WHERE Tbl_HW.ID = {id} "
+            "ORDER BY [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber];"_L1,
+            id));
 }

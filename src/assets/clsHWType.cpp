@@ -1,5 +1,7 @@
 #include "assets/clsHWType.h"
 
+#include "store/statement.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -7,20 +9,31 @@ namespace {
 constexpr auto alreadyExists =
     "A Hardwaretype with the same charachteristics already exists in the Database."_L1;
 
+// clang-format off
+constexpr auto taken =
+    "SELECT ID FROM Tbl_HWType WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Model]='{model}' AND [TypeNumber]='{number}'"_L1;
+constexpr auto insert =
+    "INSERT INTO Tbl_HWType ([Type],[Manufacturer],[Model],[TypeNumber],[Description]) VALUES ('{type}','{manufacturer}','{model}','{number}','{description}')"_L1;
+
+constexpr auto takenByOther =
+    "SELECT ID FROM Tbl_HWType WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Model]='{model}' AND [TypeNumber] ='{number}' AND ID <> {id}"_L1;
+constexpr auto change =
+    "UPDATE Tbl_HWType SET [Type]='{type}',[Manufacturer]='{manufacturer}',[Model]='{model}',[TypeNumber]='{number}',[Description]='{description}' WHERE ID = {id}"_L1;
+// clang-format on
+
 } // namespace
 
 void clsHWType::Add(const QString &connectionString, const QString &type, const QString &manufacturer,
                     const QString &model, const QString &typeNumber, const QString &description)
 {
-    writeUnlessFound(connectionString,
-                     "SELECT ID FROM Tbl_HWType WHERE [Type]='"_L1 + type + "' AND [Manufacturer] = '"_L1 +
-                         manufacturer + "'  AND [Model]='"_L1 + model + "' AND [TypeNumber]='"_L1 +
-                         typeNumber + "'"_L1,
-                     alreadyExists,
-                     "INSERT INTO Tbl_HWType ([Type],[Manufacturer],[Model],[TypeNumber],[Description]) "
-                     "VALUES ('"_L1 +
-                         type + "','"_L1 + manufacturer + "','"_L1 + model + "','"_L1 + typeNumber +
-                         "','"_L1 + description + "')"_L1);
+    const auto fill = [&](QLatin1StringView text) {
+        return joined(text, {{"type"_L1, type},
+                             {"manufacturer"_L1, manufacturer},
+                             {"model"_L1, model},
+                             {"number"_L1, typeNumber},
+                             {"description"_L1, description}});
+    };
+    writeUnlessFound(connectionString, fill(taken), alreadyExists, fill(insert));
 }
 
 void clsHWType::getAll(const QString &connectionString, jet::Recordset &result)
@@ -33,9 +46,10 @@ void clsHWType::Find(const QString &connectionString, jet::Recordset &result, co
                      const QString &manufacturer, const QString &model)
 {
     read(connectionString, result,
-         "SELECT * FROM Tbl_HWType WHERE [Type] LIKE '%"_L1 + type + "%' AND  [Manufacturer] like '%"_L1 +
-             manufacturer + "%' AND [Model] Like '%"_L1 + model +
-             "%' ORDER BY [Type],[Manufacturer],[Model],[TypeNumber] ASC"_L1);
+         joined("SELECT * FROM Tbl_HWType WHERE [Type] LIKE '%{type}%' "
+                "AND  [Manufacturer] like '%{manufacturer}%' AND [Model] Like '%{model}%' "
+                "ORDER BY [Type],[Manufacturer],[Model],[TypeNumber] ASC"_L1,
+                {{"type"_L1, type}, {"manufacturer"_L1, manufacturer}, {"model"_L1, model}}));
 }
 
 void clsHWType::getDisplayList(const QString &connectionString, jet::Recordset &result)
@@ -61,18 +75,19 @@ void clsHWType::update(const QString &connectionString, int id, const QString &t
                        const QString &manufacturer, const QString &model, const QString &typeNumber,
                        const QString &description)
 {
-    const QString row = QString::number(id);
-    writeUnlessFound(connectionString,
-                     "SELECT ID FROM Tbl_HWType WHERE [Type]='"_L1 + type + "' AND [Manufacturer] = '"_L1 +
-                         manufacturer + "'  AND [Model]='"_L1 + model + "' AND [TypeNumber] ='"_L1 +
-                         typeNumber + "' AND ID <> "_L1 + row,
-                     alreadyExists,
-                     "UPDATE Tbl_HWType SET [Type]='"_L1 + type + "',[Manufacturer]='"_L1 + manufacturer +
-                         "',[Model]='"_L1 + model + "',[TypeNumber]='"_L1 + typeNumber +
-                         "',[Description]='"_L1 + description + "' WHERE ID = "_L1 + row);
+    const QString idText = QString::number(id);
+    const auto fill = [&](QLatin1StringView text) {
+        return joined(text, {{"type"_L1, type},
+                             {"manufacturer"_L1, manufacturer},
+                             {"model"_L1, model},
+                             {"number"_L1, typeNumber},
+                             {"description"_L1, description},
+                             {"id"_L1, idText}});
+    };
+    writeUnlessFound(connectionString, fill(takenByOther), alreadyExists, fill(change));
 }
 
 void clsHWType::Delete(const QString &connectionString, int id)
 {
-    write(connectionString, {"DELETE * FROM Tbl_HWType WHERE ID ="_L1 + QString::number(id)});
+    write(connectionString, withId("DELETE * FROM Tbl_HWType WHERE ID ={id}"_L1, id));
 }

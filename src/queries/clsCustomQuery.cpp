@@ -1,5 +1,7 @@
 #include "queries/clsCustomQuery.h"
 
+#include "store/statement.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -11,10 +13,12 @@ constexpr auto alreadyExists = "A Custom Query with the same Name already exists
 void clsCustomQuery::Add(const QString &connectionString, const QString &name, const QString &description,
                          const QString &statement)
 {
-    writeUnlessFound(connectionString, "SELECT ID FROM Tbl_CustomQuery WHERE [Name]='"_L1 + name + "'"_L1,
-                     alreadyExists,
-                     "INSERT INTO Tbl_CustomQuery ([Name],[Description],[SQLString]) VALUES ('"_L1 + name +
-                         "','"_L1 + description + "','"_L1 + statement + "')"_L1);
+    writeUnlessFound(
+        connectionString,
+        joined("SELECT ID FROM Tbl_CustomQuery WHERE [Name]='{name}'"_L1, {{"name"_L1, name}}), alreadyExists,
+        joined("INSERT INTO Tbl_CustomQuery ([Name],[Description],[SQLString]) "
+               "VALUES ('{name}','{description}','{statement}')"_L1,
+               {{"name"_L1, name}, {"description"_L1, description}, {"statement"_L1, statement}}));
 }
 
 void clsCustomQuery::getAll(const QString &connectionString, jet::Recordset &result)
@@ -28,21 +32,26 @@ void clsCustomQuery::Execute(const QString &connectionString, jet::Recordset &re
     if (statement.left(6).toLower() == "select"_L1)
         read(connectionString, result, statement);
     else
-        write(connectionString, {statement});
+        write(connectionString, statement);
 }
 
 void clsCustomQuery::Delete(const QString &connectionString, int id)
 {
-    write(connectionString, {"DELETE * FROM Tbl_CustomQuery WHERE ID ="_L1 + QString::number(id)});
+    write(connectionString, withId("DELETE * FROM Tbl_CustomQuery WHERE ID ={id}"_L1, id));
 }
 
 void clsCustomQuery::update(const QString &connectionString, int id, const QString &name,
                             const QString &description, const QString &statement)
 {
-    const QString row = QString::number(id);
+    const QString idText = QString::number(id);
     writeUnlessFound(connectionString,
-                     "SELECT ID FROM Tbl_CustomQuery WHERE [Name]='"_L1 + name + "' AND ID <> "_L1 + row,
+                     joined("SELECT ID FROM Tbl_CustomQuery WHERE [Name]='{name}' AND ID <> {id}"_L1,
+                            {{"name"_L1, name}, {"id"_L1, idText}}),
                      alreadyExists,
-                     "UPDATE Tbl_CustomQuery SET [Name]='"_L1 + name + "',[Description]='"_L1 + description +
-                         "',[SQLString]='"_L1 + statement + "' WHERE ID = "_L1 + row);
+                     joined("UPDATE Tbl_CustomQuery SET [Name]='{name}',[Description]='{description}',"
+                            "[SQLString]='{statement}' WHERE ID = {id}"_L1,
+                            {{"name"_L1, name},
+                             {"description"_L1, description},
+                             {"statement"_L1, statement},
+                             {"id"_L1, idText}}));
 }

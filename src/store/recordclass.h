@@ -4,9 +4,6 @@
 #include "store/storesession.h"
 
 #include <QLatin1StringView>
-#include <QStringList>
-
-#include <span>
 
 /// What the record classes have in common: they hold nothing between calls but the last
 /// failure, and each method visits the store once, with a connection of its own.
@@ -40,18 +37,23 @@ protected:
         withStore(connectionString, [&](StoreSession &store) { store.open(sql, result); });
     }
 
-    /// The shape of a method that runs its statements whatever the store holds.
-    void write(const QString &connectionString, const QStringList &statements);
+    /// The shape of a method that runs one statement, whatever the store holds.
+    void write(const QString &connectionString, const QString &sql)
+    {
+        withStore(connectionString, [&](StoreSession &store) { store.execute(sql); });
+    }
 
     /// The shape of a method that writes one row under a rule: raises RuleViolation with the
     /// refusal, and writes nothing, when the test finds a row.
     void writeUnlessFound(const QString &connectionString, const QString &test, QLatin1StringView refusal,
-                          const QString &statement);
-
-    /// The shape of a method that gives an object its related ones: the clearing statements, then
-    /// one insert an id. The insert is given up to that id, its last value.
-    void relate(const QString &connectionString, const QStringList &clearing, const QString &insert,
-                std::span<const int> ids);
+                          const QString &statement)
+    {
+        withStore(connectionString, [&](StoreSession &store) {
+            if (store.exists(test))
+                raise(RuleViolation, refusal);
+            store.execute(statement);
+        });
+    }
 
 private:
     CurrentError m_error;
