@@ -46,6 +46,15 @@ void cutStore(const QString &path, double part)
     writeFile(path, whole.left(qsizetype(double(whole.size()) * part)));
 }
 
+void overwriteStore(const QString &path, double from, double to)
+{
+    createStore(path);
+    QByteArray whole = contentOf(path);
+    const auto begin = qsizetype(double(whole.size()) * from);
+    const auto end = qsizetype(double(whole.size()) * to);
+    writeFile(path, whole.replace(begin, end - begin, QByteArray(end - begin, '\xA5')));
+}
+
 struct BadFile
 {
     const char *name;
@@ -61,6 +70,7 @@ const BadFile badFiles[] = {
     {"AnotherKindOfDatabase", makeForeignDatabase},
     {"CutInTheHeader", [](const QString &path) { cutStore(path, 0.0005); }},
     {"CutInTheMiddle", [](const QString &path) { cutStore(path, 0.5); }},
+    {"OverwrittenInside", [](const QString &path) { overwriteStore(path, 0.02, 0.9); }},
 };
 
 class BadFileTest : public testing::TestWithParam<BadFile>
