@@ -77,6 +77,8 @@ void endProgress()
         window->deleteLater();
     }
     yieldToEvents();
+    // A click that was still on its way is no word on the next batch.
+    progress().cancelled = false;
 }
 
 int countSelected(const ListView &list)

@@ -153,6 +153,12 @@ void runBatch(const QString &connectionString, jet::Recordset &records, const Ba
             break;
         records.moveNext();
     }
+    try {
+        if (store)
+            store->close();
+    } catch (const Error &error) {
+        outcome.fail(QString(), error.description());
+    }
     if (!outcome.errorText.isEmpty())
         outcome.errorText.prepend("Following User(s) generated Errors and could not be Imported:\r\n\r\n"_L1);
 }

@@ -13,6 +13,10 @@ class StoreSession final
 public:
     explicit StoreSession(const QString &connectionString);
 
+    /// Ends the visit and raises what writing the last changes to the disk met with. A session
+    /// that is given up without it keeps its changes, but has no one to tell of a failure.
+    void close() { m_connection.close(); }
+
     void execute(QString sql);
     /// For steps whose failure is not to be seen.
     void executeSkippingErrors(QString sql);

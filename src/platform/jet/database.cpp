@@ -12,7 +12,7 @@
 namespace jet {
 namespace {
 
-constexpr int groupLimit = 2000;
+constexpr int groupLimit = 20000;
 constexpr auto groupAge = std::chrono::milliseconds(250);
 constexpr std::size_t cacheLimit = 500;
 
@@ -102,6 +102,8 @@ Database::~Database()
 {
     try {
         flush();
+        // The emptied journal goes too: a store at rest is one file.
+        sqlite3_exec(m_handle, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
     } catch (const Error &) {
         // Whoever closes by hand has heard of it; a destructor has no one to tell.
     }
@@ -187,12 +189,15 @@ void Database::bind(const Prepared &prepared)
 
 void Database::execute(const QString &sql)
 {
-    read(
-        sql, [](const HeaderPtr &) {}, [](sqlite3_stmt *) {});
+    class : public RowSink
+    {
+        void takeHeader(const HeaderPtr &) override {}
+        void takeRow(sqlite3_stmt *) override {}
+    } dropped;
+    read(sql, dropped);
 }
 
-bool Database::read(const QString &sql, const std::function<void(const HeaderPtr &)> &header,
-                    const std::function<void(sqlite3_stmt *)> &row)
+bool Database::read(const QString &sql, RowSink &rows)
 {
     Prepared &prepared = prepare(sql);
     if (prepared.writes) {
@@ -202,10 +207,10 @@ bool Database::read(const QString &sql, const std::function<void(const HeaderPtr
     bind(prepared);
     sqlite3_stmt *statement = prepared.statement.get();
     const StatementReset reset(statement);
-    header(prepared.header);
+    rows.takeHeader(prepared.header);
     int result = SQLITE_ROW;
     while ((result = sqlite3_step(statement)) == SQLITE_ROW)
-        row(statement);
+        rows.takeRow(statement);
     if (result != SQLITE_DONE)
         raiseSqlite(m_handle, result);
     return true;

@@ -10,12 +10,22 @@
 #include <QString>
 
 #include <chrono>
-#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
 
 namespace jet {
+
+/// Takes the rows of a result: the fields first, then each row while the statement stands on it.
+class RowSink
+{
+public:
+    virtual void takeHeader(const HeaderPtr &header) = 0;
+    virtual void takeRow(sqlite3_stmt *row) = 0;
+
+protected:
+    ~RowSink() = default;
+};
 
 /// One open store file, shared by all connections of the process to it. Statements are
 /// compiled once for each shape and kept; writes are grouped into transactions of bounded
@@ -37,10 +47,8 @@ public:
     /// Runs a statement; rows it returns are dropped.
     void execute(const QString &sql);
 
-    /// Calls `header` once and `row` for each row, on a statement that returns rows. Returns
-    /// false for one that returns none and has been run.
-    bool read(const QString &sql, const std::function<void(const HeaderPtr &)> &header,
-              const std::function<void(sqlite3_stmt *)> &row);
+    /// Runs a statement and hands its rows over. Returns false for one that returns none.
+    bool read(const QString &sql, RowSink &rows);
 
     /// Ends the group of writes at hand.
     void flush();

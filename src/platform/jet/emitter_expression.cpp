@@ -256,6 +256,13 @@ Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
     if (sign == "+" && isText(left.type.type) && isText(right.type.type))
         return {.sql = '(' + value(left) + " || " + value(right) + ')', .type = {DataType::Memo}};
 
+    const bool runningTells = isText(commonType(left.type.type, right.type.type)) &&
+                              (left.type.type == DataType::Unknown || right.type.type == DataType::Unknown);
+    if (sign == "+" && runningTells) {
+        m_mayRaise = true;
+        return {.sql = "jet_add(" + value(left) + ", " + value(right) + ')', .type = {DataType::Unknown}};
+    }
+
     const std::string a = asNumber(left);
     const std::string b = asNumber(right);
     const bool whole = isWhole(left.type.type) && isWhole(right.type.type);

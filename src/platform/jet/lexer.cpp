@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -59,7 +61,8 @@ Token Lexer::finish(TokenKind kind, std::size_t start, std::string_view text)
     token.text = text;
     token.offset = start;
     token.end = m_at;
-    m_operandBefore = kind != TokenKind::Symbol || text == ")";
+    m_lastKind = kind;
+    m_lastText = text;
     return token;
 }
 
@@ -91,10 +94,10 @@ Token Lexer::next()
     case Hash:
         return date();
     case Sign:
-        if (c == '.' && classOf(after) == Digit && !m_operandBefore)
+        if (c == '.' && classOf(after) == Digit && !operandBefore())
             return number();
-        if (c == '&' && lowered(after) == 'h' && !m_operandBefore && m_at + 2 < m_statement.size() &&
-            isHexDigit(m_statement[m_at + 2]))
+        if (c == '&' && lowered(after) == 'h' && m_at + 2 < m_statement.size() &&
+            isHexDigit(m_statement[m_at + 2]) && !operandBefore())
             return number();
         if ((c == '<' && (after == '=' || after == '>')) || (c == '>' && after == '='))
             return symbol(2);
@@ -120,14 +123,26 @@ Token Lexer::name()
             break;
         ++m_at;
     }
-    const std::string_view word = m_statement.substr(start, m_at - start);
-    const Token token = finish(TokenKind::Name, start, word);
-    // Behind a word like these a sign begins a new operand; a column of such a name is bracketed.
-    for (const std::string_view keyword :
-         {"select", "and", "or", "not", "like", "in", "between", "where", "by"})
-        if (sameWord(word, keyword))
-            m_operandBefore = false;
-    return token;
+    return finish(TokenKind::Name, start, m_statement.substr(start, m_at - start));
+}
+
+// Tells a sign that begins a number from one that stands between two operands. Behind a word
+// like these an operand begins; a column of such a name is bracketed.
+bool Lexer::operandBefore() const
+{
+    static constexpr std::array<std::string_view, 9> words = {"select", "and",   "or",      "not", "like",
+                                                              "in",     "where", "between", "by"};
+    switch (m_lastKind) {
+    case TokenKind::End:
+        return false;
+    case TokenKind::Symbol:
+        return m_lastText == ")";
+    case TokenKind::Name:
+        return std::none_of(words.begin(), words.end(),
+                            [this](std::string_view word) { return sameWord(word, m_lastText); });
+    default:
+        return true;
+    }
 }
 
 Token Lexer::number()
@@ -146,8 +161,10 @@ Token Lexer::number()
         literal.number = static_cast<std::int32_t>(hex);
     } else {
         const char *at = begin;
-        while (at < end && classOf(*at) == Digit)
-            ++at;
+        for (; at < end && classOf(*at) == Digit; ++at)
+            literal.number = literal.number * 10 + (*at - '0');
+        constexpr std::ptrdiff_t exactDigits = 15;
+        const bool plain = at - begin <= exactDigits;
         if (at < end && *at == '.') {
             literal.kind = TokenKind::Float;
             for (++at; at < end && classOf(*at) == Digit;)
@@ -160,8 +177,10 @@ Token Lexer::number()
             for (at += 2; at < end && classOf(*at) == Digit;)
                 ++at;
         }
-        if (const auto [last, error] = std::from_chars(begin, at, literal.number); error != std::errc())
-            literal.number = std::numeric_limits<double>::infinity();
+        if (literal.kind == TokenKind::Float || !plain) {
+            if (const auto [last, error] = std::from_chars(begin, at, literal.number); error != std::errc())
+                literal.number = std::numeric_limits<double>::infinity();
+        }
         if (literal.number > std::numeric_limits<std::int32_t>::max())
             literal.kind = TokenKind::Float;
         m_at = static_cast<std::size_t>(at - m_statement.data());

@@ -43,6 +43,7 @@ public:
     [[nodiscard]] std::vector<Literal> &&takeLiterals() { return std::move(m_literals); }
 
 private:
+    [[nodiscard]] bool operandBefore() const;
     Token name();
     Token number();
     Token quoted(char close, TokenKind kind);
@@ -54,7 +55,8 @@ private:
 
     std::string_view m_statement;
     std::size_t m_at = 0;
-    bool m_operandBefore = false;
+    TokenKind m_lastKind = TokenKind::End;
+    std::string_view m_lastText;
     std::vector<Literal> m_literals;
 };
 

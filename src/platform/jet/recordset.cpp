@@ -60,6 +60,47 @@ void setNumber(std::vector<double> &numbers, std::vector<bool> &set, std::size_t
 
 } // namespace
 
+/// Takes the rows of a statement. Most results of a batch are empty: their fields cost nothing
+/// until a row comes.
+class Recordset::Filler final : public RowSink
+{
+public:
+    explicit Filler(Recordset &target) : m_target(target) {}
+
+    void takeHeader(const HeaderPtr &header) override { m_target.m_header = header; }
+
+    void takeRow(sqlite3_stmt *row) override
+    {
+        if (m_storage.empty())
+            prepare();
+        for (std::size_t i = 0; i < m_storage.size(); ++i) {
+            const int column = static_cast<int>(i);
+            Column &values = m_target.m_columns[i];
+            if (m_storage[i] == Storage::Variants)
+                values.variants.push_back(variantAt(row, column));
+            else if (sqlite3_column_type(row, column) == SQLITE_NULL)
+                continue;
+            else if (m_storage[i] == Storage::Texts)
+                values.texts.set(m_target.m_rows, textAt(row, column));
+            else
+                setNumber(values.numbers, values.set, m_target.m_rows, sqlite3_column_double(row, column));
+        }
+        ++m_target.m_rows;
+    }
+
+private:
+    void prepare()
+    {
+        m_target.m_columns.resize(m_target.m_header->size());
+        m_storage.reserve(m_target.m_header->size());
+        for (const HeaderField &field : *m_target.m_header)
+            m_storage.push_back(storageOf(field.type));
+    }
+
+    Recordset &m_target;
+    std::vector<Storage> m_storage;
+};
+
 Recordset::Recordset() = default;
 Recordset::~Recordset() = default;
 
@@ -98,34 +139,9 @@ void Recordset::open(const QString &sql, Connection &connection, int cursor, int
     if (m_open)
         raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
     clearRows();
-    std::vector<Storage> storage;
-    const auto takeHeader = [&](const HeaderPtr &header) { m_header = header; };
-    // Most results of a batch are empty: their fields cost nothing until a row comes.
-    const auto prepareColumns = [&] {
-        m_columns.resize(m_header->size());
-        storage.reserve(m_header->size());
-        for (const HeaderField &field : *m_header)
-            storage.push_back(storageOf(field.type));
-    };
-    const auto takeRow = [&](sqlite3_stmt *statement) {
-        if (storage.empty())
-            prepareColumns();
-        for (std::size_t i = 0; i < storage.size(); ++i) {
-            const int column = static_cast<int>(i);
-            Column &values = m_columns[i];
-            if (storage[i] == Storage::Texts) {
-                if (sqlite3_column_type(statement, column) != SQLITE_NULL)
-                    values.texts.set(m_rows, textAt(statement, column));
-            } else if (storage[i] == Storage::Numbers) {
-                if (sqlite3_column_type(statement, column) != SQLITE_NULL)
-                    setNumber(values.numbers, values.set, m_rows, sqlite3_column_double(statement, column));
-            } else
-                values.variants.push_back(variantAt(statement, column));
-        }
-        ++m_rows;
-    };
+    Filler filler(*this);
     try {
-        m_open = connection.database().read(sql, takeHeader, takeRow);
+        m_open = connection.database().read(sql, filler);
     } catch (...) {
         clearRows();
         throw;

@@ -124,6 +124,8 @@ private:
         std::vector<Value> variants;
     };
 
+    class Filler;
+
     void requireOpen() const;
     void requireRecord() const;
     [[nodiscard]] Value valueAt(std::size_t row, std::size_t column) const;
