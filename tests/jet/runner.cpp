@@ -4,7 +4,7 @@
 #include "casefile.h"
 #include "platform/jet/connection.h"
 #include "platform/jet/recordset.h"
-#include "store/storefile.h"
+#include "support/freshstore.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -53,7 +53,7 @@ private:
     QString make(const QString &fixture)
     {
         const QString path = m_temporary.filePath("fixture-"_L1 + fixture + ".mdb"_L1);
-        createStore(path);
+        makeFreshStore(path);
         if (!fixture.isEmpty()) {
             jet::Connection connection;
             connection.open(jet::connectionString(path));

@@ -4,7 +4,7 @@
 #include "platform/jet/connection.h"
 #include "platform/jet/recordset.h"
 #include "store/clsUsers.h"
-#include "store/storefile.h"
+#include "support/freshstore.h"
 #include "store/storesession.h"
 
 #include <QTemporaryDir>
@@ -42,7 +42,7 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(folder.isValid());
-        createStore(path);
+        makeFreshStore(path);
     }
 
     void run(const QString &sql) { StoreSession(connection).execute(sql); }

@@ -4,7 +4,7 @@
 #include "platform/jet/recordset.h"
 #include "platform/settings/settings.h"
 #include "session/modRegistry.h"
-#include "store/storefile.h"
+#include "support/freshstore.h"
 #include "store/storesession.h"
 
 using namespace Qt::StringLiterals;
@@ -18,7 +18,7 @@ void FolderTest::SetUp()
 void StoreTest::SetUp()
 {
     FolderTest::SetUp();
-    createStore(storePath());
+    makeFreshStore(storePath());
     modRegistry::saveDataBase(storePath());
 }
 

@@ -65,9 +65,10 @@ void createStoreFile(const QString &path)
     try {
         if (result != SQLITE_OK)
             raiseSqlite(raw, result);
+        // The file is worth nothing yet: whoever fills it makes it safe on the disk.
         const QByteArray marks =
-            "PRAGMA encoding = 'UTF-8'; PRAGMA application_id = " + QByteArray::number(ApplicationId) +
-            "; PRAGMA user_version = " + QByteArray::number(FileVersion) + "; VACUUM";
+            "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA encoding = 'UTF-8'; PRAGMA application_id = " + QByteArray::number(ApplicationId) +
+            "; PRAGMA user_version = " + QByteArray::number(FileVersion);
         runSqlite(raw, marks.constData());
     } catch (const Error &error) {
         QFile::remove(path);
