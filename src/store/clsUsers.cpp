@@ -1,5 +1,7 @@
 #include "store/clsUsers.h"
 
+#include "store/relations.h"
+#include "store/statement.h"
 #include "store/userstatements.h"
 
 using namespace Qt::StringLiterals;
@@ -26,23 +28,23 @@ void clsUsers::getByUserNameAndServer(const QString &connectionString, jet::Reco
                                       const QString &name, const QString &server)
 {
     read(connectionString, result,
-         "SELECT * FROM Tbl_Users WHERE [UserName]='"_L1 + name + "' AND [ServerName]='"_L1 + server +
-             "'"_L1);
+         joined("SELECT * FROM Tbl_Users WHERE [UserName]='{name}' AND [ServerName]='{server}'"_L1,
+                {{"name"_L1, name}, {"server"_L1, server}}));
 }
 
 void clsUsers::getUserByID(const QString &connectionString, int id, jet::Recordset &result)
 {
-    read(connectionString, result, "SELECT * FROM Tbl_Users WHERE [UserID] ="_L1 + QString::number(id));
+    read(connectionString, result, withId("SELECT * FROM Tbl_Users WHERE [UserID] ={id}"_L1, id));
 }
 
 void clsUsers::Find(const QString &connectionString, jet::Recordset &result, const QString &lastName,
                     const QString &userName)
 {
-    read(
-        connectionString, result,
-        "SELECT UserID, LastName, FirstName, UserName, ServerName from Tbl_Users WHERE (LastName LIKE '%"_L1 +
-            lastName + "%' OR LastName is Null) AND (UserName LIKE '%"_L1 + userName +
-            "%' OR UserName is Null) ORDER by LastName ASC"_L1);
+    read(connectionString, result,
+         joined("SELECT UserID, LastName, FirstName, UserName, ServerName from Tbl_Users "
+                "WHERE (LastName LIKE '%{lastName}%' OR LastName is Null) "
+                "AND (UserName LIKE '%{userName}%' OR UserName is Null) ORDER by LastName ASC"_L1,
+                {{"lastName"_L1, lastName}, {"userName"_L1, userName}}));
 }
 
 void clsUsers::getAllLoginNames(const QString &connectionString, jet::Recordset &result)
@@ -57,8 +59,9 @@ void clsUsers::Add(const QString &connectionString, UserRecord &user)
     withStore(connectionString, [&](StoreSession &store) {
         if (user.UserID == 0)
             user.UserID = nextUserId(store);
-        if (store.exists("SELECT * FROM Tbl_Users WHERE [UserName] ='"_L1 + user.UserName +
-                         "' AND [ServerName]='"_L1 + user.ServerName + "'"_L1))
+        if (store.exists(
+                joined("SELECT * FROM Tbl_Users WHERE [UserName] ='{name}' AND [ServerName]='{server}'"_L1,
+                       {{"name"_L1, user.UserName}, {"server"_L1, user.ServerName}})))
             raise(RuleViolation, alreadyExists);
         store.execute(insertUser(userColumns(), userValues(user)));
     });
@@ -68,8 +71,9 @@ void clsUsers::update(const QString &connectionString, const UserRecord &user)
 {
     withStore(connectionString, [&](StoreSession &store) {
         const QString id = QString::number(user.UserID);
-        if (store.exists("SELECT * FROm Tbl_Users WHERE [UserName]='"_L1 + user.UserName +
-                         "' AND [ServerName]  = '"_L1 + user.ServerName + "' AND  [UserID] <> "_L1 + id))
+        if (store.exists(joined("SELECT * FROm Tbl_Users WHERE [UserName]='{name}' "
+                                "AND [ServerName]  = '{server}' AND  [UserID] <> {id}"_L1,
+                                {{"name"_L1, user.UserName}, {"server"_L1, user.ServerName}, {"id"_L1, id}})))
             raise(RuleViolation, alreadyExists);
         const QList<QString> values = userValues(user);
         store.execute(updateUser(userColumns().subspan(1), std::span(values).subspan(1)) +
@@ -80,16 +84,14 @@ void clsUsers::update(const QString &connectionString, const UserRecord &user)
 void clsUsers::Delete(const QString &connectionString, std::span<const int> ids)
 {
     withStore(connectionString, [&](StoreSession &store) {
-        for (const int id : ids)
-            store.execute("DELETE * FROM Tbl_Users WHERE UserID ="_L1 + QString::number(id));
+        executeForEach(store, ids, {"DELETE * FROM Tbl_Users WHERE UserID ={id}"_L1});
     });
 }
 
 void clsUsers::RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids)
 {
     withStore(connectionString, [&](StoreSession &store) {
-        for (const int id : ids)
-            store.execute("DELETE * FROM Tbl_UserFolderPermission WHERE UserID ="_L1 + QString::number(id));
+        executeForEach(store, ids, {"DELETE * FROM Tbl_UserFolderPermission WHERE UserID ={id}"_L1});
     });
 }
 

@@ -1,6 +1,7 @@
 #include "store/clsUsers.h"
 
 #include "platform/jet/errors.h"
+#include "store/statement.h"
 #include "store/userstatements.h"
 
 #include <optional>
@@ -33,13 +34,14 @@ struct BatchOutcome
 };
 
 /// Membership rows of local groups are not among them: they keep the old id.
-void moveUserRelationships(StoreSession &store, qint64 oldId, const QString &newId)
+void moveUserRelationships(StoreSession &store, const QString &oldId, const QString &newId)
 {
-    constexpr QLatin1StringView tables[] = {"Tbl_GlobalGroupsUsers"_L1, "Tbl_RoomUsers"_L1, "Tbl_UserHW"_L1,
-                                            "Tbl_UserFolderPermission"_L1};
-    for (const QLatin1StringView table : tables)
-        store.executeSkippingErrors("UPDATE "_L1 + table + " SET [UserID] = "_L1 + newId +
-                                    " WHERE [UserID]="_L1 + QString::number(oldId));
+    for (const QLatin1StringView statement :
+         {"UPDATE Tbl_GlobalGroupsUsers SET [UserID] = {new} WHERE [UserID]={old}"_L1,
+          "UPDATE Tbl_RoomUsers SET [UserID] = {new} WHERE [UserID]={old}"_L1,
+          "UPDATE Tbl_UserHW SET [UserID] = {new} WHERE [UserID]={old}"_L1,
+          "UPDATE Tbl_UserFolderPermission SET [UserID] = {new} WHERE [UserID]={old}"_L1})
+        store.executeSkippingErrors(joined(statement, {{"new"_L1, newId}, {"old"_L1, oldId}}));
 }
 
 /// Writes one record after the other over one session. The places of the fields in the
@@ -81,13 +83,13 @@ public:
 
         if (m_found.state() != jet::StateClosed)
             m_found.close();
-        store.open("SELECT * FROM Tbl_Users WHERE [UserName]='"_L1 + m_values[m_name] +
-                       "' AND ServerName = '"_L1 + m_values[m_server] + "'"_L1,
+        store.open(joined("SELECT * FROM Tbl_Users WHERE [UserName]='{name}' AND ServerName = '{server}'"_L1,
+                          {{"name"_L1, m_values[m_name]}, {"server"_L1, m_values[m_server]}}),
                    m_found);
         if (m_found.eof())
             insert(store);
         else if (!m_leaveExisting)
-            update(store, m_found.value(u"UserID").toInteger());
+            update(store, QString::number(m_found.value(u"UserID").toInteger()));
     }
 
 private:
@@ -96,7 +98,7 @@ private:
     void insert(StoreSession &store)
     {
         QString &id = m_values.front();
-        if (store.exists("SELECT UserID FROM Tbl_Users WHERE UserID = "_L1 + id)) {
+        if (store.exists(joined("SELECT UserID FROM Tbl_Users WHERE UserID = {id}"_L1, {{"id"_L1, id}}))) {
             id = store.scalar(u"Select MAX(UserID) + 1 AS ID FROM Tbl_Users"_s).toText();
             m_outcome.fail(account(), u" a new UserID has been generated. This User may cause Problems when "
                                       "Re-Importing Account Settings from Live System."_s);
@@ -105,10 +107,11 @@ private:
         ++m_outcome.newCount;
     }
 
-    void update(StoreSession &store, qint64 oldId)
+    void update(StoreSession &store, const QString &oldId)
     {
-        store.execute(updateUser(m_kind.updated, m_values, m_kind.escaping) + " WHERE [UserName]='"_L1 +
-                      m_values[m_name] + "' AND [ServerName]='"_L1 + m_values[m_server] + "'"_L1);
+        store.execute(updateUser(m_kind.updated, m_values, m_kind.escaping) +
+                      joined(" WHERE [UserName]='{name}' AND [ServerName]='{server}'"_L1,
+                             {{"name"_L1, m_values[m_name]}, {"server"_L1, m_values[m_server]}}));
         ++m_outcome.updatedCount;
         moveUserRelationships(store, oldId, m_values.front());
     }
