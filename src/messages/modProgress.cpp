@@ -29,6 +29,13 @@ Progress &progress()
     return state;
 }
 
+// A label lays out all of its text, shown or not: megabytes of it stop the program for minutes.
+QString clipped(const QString &text)
+{
+    constexpr qsizetype longest = 300;
+    return text.size() <= longest ? text : text.left(longest) % u'\u2026';
+}
+
 } // namespace
 
 void startProgress(int start, int total, const QString &title, bool showBar, bool allowCancel)
@@ -51,7 +58,7 @@ bool stepProgress(const QString &itemText, int current)
 {
     if (frmProgress *window = progress().window) {
         window->setWindowTitle(u"[%1 of %2]"_s.arg(current).arg(progress().total));
-        window->lblObject->setText(itemText);
+        window->lblObject->setText(clipped(itemText));
         window->ProgressBar->setValue(current);
     }
     yieldToEvents();

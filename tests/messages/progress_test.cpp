@@ -56,6 +56,19 @@ TEST_F(ProgressTest, WindowShowsTitleItemAndPosition)
     EXPECT_TRUE(findAll<frmProgress>(u"frmProgress"_s).isEmpty());
 }
 
+TEST_F(ProgressTest, AnEndlessItemIsCut)
+{
+    startProgress(1, 2, u"Reading"_s, true, true);
+    const int height = window()->height();
+    EXPECT_FALSE(stepProgress(QString(1'000'000, u'x'), 1));
+    EXPECT_TRUE(window()->lblObject->text().startsWith(u"xxxxxxxx"_s));
+    EXPECT_TRUE(window()->lblObject->text().endsWith(u"x\u2026"_s));
+    EXPECT_LT(window()->lblObject->text().size(), 1000);
+    EXPECT_LT(window()->height(), 2 * height) << "The window grows with its item.";
+    EXPECT_FALSE(stepProgress(u"short"_s, 2));
+    EXPECT_EQ(window()->lblObject->text(), u"short"_s);
+}
+
 TEST_F(ProgressTest, ASecondStartTakesOverTheWindow)
 {
     startProgress(1, 12, u"Deleting Users"_s, true, false);
