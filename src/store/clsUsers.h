@@ -11,7 +11,8 @@
 #include <functional>
 #include <span>
 
-/// Told after each record of a batch how many are done; false ends the batch there.
+/// Told after each record of a batch how many are done; false ends the batch there. An Error
+/// it raises, as a yield does that cannot write what is pending, is counted and told.
 using BatchProgress = std::function<bool(int done)>;
 
 /// All that reads and writes Tbl_Users and the user's side of the relationship tables.

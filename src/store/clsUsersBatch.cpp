@@ -152,8 +152,13 @@ void runBatch(const QString &connectionString, jet::Recordset &records, const Ba
         } catch (const Error &error) {
             batch.refuseRecord(error);
         }
-        if (progress && !progress(done))
-            break;
+        try {
+            if (progress && !progress(done))
+                break;
+        } catch (const Error &error) {
+            // It lets the windows breathe, where what is pending goes to the disk.
+            outcome.fail(QString(), error.description());
+        }
         records.moveNext();
     }
     try {

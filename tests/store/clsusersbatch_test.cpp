@@ -242,6 +242,21 @@ TEST_F(UserBatchTest, ProgressSeesEachRecordAndEndsTheBatch)
     EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users ORDER BY UserID"_s), (Rows{u"anna"_s, u"bert"_s}));
 }
 
+TEST_F(UserBatchTest, AFailureBetweenTwoRecordsIsToldAndTheBatchGoesOn)
+{
+    jet::Recordset records;
+    makeRecords(records, fileFields,
+                {fileLine(u"0"_s, u"anna"_s, u"S"_s), fileLine(u"0"_s, u"bert"_s, u"S"_s)});
+    users.AddBatchFromFile(connection, records, false, added, updated, failed, text, [](int done) {
+        if (done == 1)
+            raise(jet::Failure, u"There isn't enough disk space."_s);
+        return true;
+    });
+    expectCounts(2, 0, 1);
+    EXPECT_EQ(text, heading + "There isn't enough disk space.\r\n"_L1);
+    EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users ORDER BY UserID"_s), (Rows{u"anna"_s, u"bert"_s}));
+}
+
 TEST_F(UserBatchTest, MissingStoreFailsEveryRecordWithoutRaising)
 {
     connection = jet::connectionString(folder.filePath(u"nowhere.kvs"_s));
