@@ -1,6 +1,7 @@
 #include "exchange/modImportSteps.h"
 
 #include "exchange/modImportFile.h"
+#include "messages/guard.h"
 #include "messages/modProgress.h"
 #include "messages/showresult.h"
 #include "toolkit/messagebox.h"
@@ -49,7 +50,7 @@ std::optional<bool> askLeaveExisting()
 ImportProgress::~ImportProgress()
 {
     if (m_begun)
-        endProgress();
+        guarded(endProgress);
 }
 
 void ImportProgress::begin(const QString &title, int total)
