@@ -132,6 +132,25 @@ TEST_F(ConsoleTest, Sql_KeepsWhatWasWrittenBeforeARefusal)
     EXPECT_EQ(number(u"SELECT Count(*) FROM Tbl_Rooms"_s), 2);
 }
 
+TEST_F(ConsoleTest, Sql_RefusesWhatIsNoUtf8AndPassesOverAMark)
+{
+    const Answer answer = sql("\xEF\xBB\xBFINSERT INTO Tbl_Rooms (RoomNumber) VALUES ('K\xC3\xBC')\r\n"
+                              "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('K\xFC')\n"
+                              "SELECT 'cut off\xC3\n"
+                              "SELECT RoomNumber FROM Tbl_Rooms\n");
+    EXPECT_EQ(answer.status, ExitRefused);
+    const std::string refused =
+        R"({"error":{"number":-2147217900,"text":"The statement is no valid UTF-8."}})";
+    EXPECT_EQ(answer.out, R"({"ok":true})"
+                          "\n" +
+                              refused + "\n" + refused +
+                              "\n"
+                              R"({"columns":["RoomNumber"],"rows":[["K)"
+                              "\xC3\xBC"
+                              R"("]]})"
+                              "\n");
+}
+
 TEST_F(ConsoleTest, Sql_RefusesAMissingStore)
 {
     const Answer answer = run({u"sql"_s, path}, "SELECT 1\n");

@@ -3,6 +3,7 @@
 #include "base/error.h"
 #include "jsonlines.h"
 #include "platform/jet/connection.h"
+#include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 #include "store/sampledata.h"
 #include "store/storefile.h"
@@ -53,14 +54,22 @@ int create(const QStringList &arguments, Console &console)
     }
 }
 
+/// Characters of another encoding would be lost in the store without a word.
+QString decoded(const std::string &line)
+{
+    if (!QUtf8StringView(line).isValidUtf8())
+        raise(jet::SyntaxError, u"The statement is no valid UTF-8."_s);
+    return QString::fromStdString(line);
+}
+
 /// Whether the statement was accepted.
-bool answer(const QString &statement, jet::Connection &connection, Console &console)
+bool answer(const std::string &statement, jet::Connection &connection, Console &console)
 {
     std::ostream &out = console.out;
     bool accepted = true;
     try {
         jet::Recordset rows;
-        rows.open(statement, connection);
+        rows.open(decoded(statement), connection);
         // Whoever asks no further for now must find the store written and free.
         if (console.in.rdbuf()->in_avail() <= 0)
             jet::flushPendingWrites();
@@ -88,8 +97,8 @@ int sql(const QStringList &arguments, Console &console)
     }
     int status = ExitDone;
     for (std::string line; std::getline(console.in, line);) {
-        const QString statement = QString::fromStdString(line).trimmed();
-        if (!statement.isEmpty() && !answer(statement, connection, console))
+        const bool isBlank = line.find_first_not_of(" \t\r") == std::string::npos;
+        if (!isBlank && !answer(line, connection, console))
             status = ExitRefused;
     }
     try {
