@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <list>
 #include <map>
 
 using namespace Qt::StringLiterals;
@@ -206,10 +207,8 @@ std::string testName(const QString &words)
     return name;
 }
 
-void registerFile(const QString &folder, const QString &path, Fixtures &fixtures)
+void registerFile(const QString &folder, const QString &path, const casefile::File &file, Fixtures &fixtures)
 {
-    // Lives as long as the process: the registered tests point into it.
-    const casefile::File &file = *new casefile::File(casefile::parse(readFile(path)));
     const std::string suite = testName(QDir(folder).relativeFilePath(path).chopped(int(qstrlen(".test"))));
     const std::string source = path.toStdString();
     if (!file.mistakes.isEmpty() || file.cases.empty()) {
@@ -228,11 +227,13 @@ void registerFile(const QString &folder, const QString &path, Fixtures &fixtures
 
 void registerCases(const QString &folder)
 {
+    // The registered tests point into both until the process ends.
     static Fixtures fixtures(folder);
+    static std::list<casefile::File> files;
     QStringList paths;
     for (QDirIterator at(folder, {u"*.test"_s}, QDir::Files, QDirIterator::Subdirectories); at.hasNext();)
         paths.append(at.next());
     paths.sort();
     for (const QString &path : paths)
-        registerFile(folder, path, fixtures);
+        registerFile(folder, path, files.emplace_back(casefile::parse(readFile(path))), fixtures);
 }
