@@ -67,9 +67,14 @@ QString filled(QLatin1StringView text, const HWRecord &item, int id = 0)
 
 } // namespace
 
+QString insertHW(const HWRecord &item)
+{
+    return filled(insert, item);
+}
+
 void clsHW::Add(const QString &connectionString, const HWRecord &item)
 {
-    writeUnlessFound(connectionString, filled(taken, item), alreadyExists, filled(insert, item));
+    writeUnlessFound(connectionString, filled(taken, item), alreadyExists, insertHW(item));
 }
 
 void clsHW::addRooms(const QString &connectionString, int id, std::span<const int> rooms, bool deleteSW)

@@ -28,6 +28,9 @@ struct HWRecord
     QString IPSubnet = {};
 };
 
+/// The statement that inserts the item. Nothing is escaped.
+[[nodiscard]] QString insertHW(const HWRecord &item);
+
 /// All that reads and writes Tbl_HW and the hardware's side of Tbl_RoomHW, Tbl_UserHW and
 /// Tbl_SWHW. An item is known by its type and serial number; it stands in one room or with one
 /// user, never both.

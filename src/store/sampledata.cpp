@@ -1,230 +1,61 @@
 #include "store/sampledata.h"
 
-#include "base/oledate.h"
 #include "base/text.h"
+#include "store/samplecompany.h"
+#include "store/statement.h"
 #include "store/storefile.h"
 #include "store/storesession.h"
-#include "store/userstatements.h"
 
-#include <QHash>
-
-#include <iterator>
-
-using namespace Qt::StringLiterals;
+namespace sample {
 
 namespace {
 
-struct FirstName
+struct Query
 {
-    QStringView name;
-    bool female;
+    QLatin1StringView name;
+    QLatin1StringView description;
+    QLatin1StringView statement;
 };
 
-constexpr FirstName firstNames[] = {
-    {u"Anna", true},      {u"Björn", false},    {u"Céline", true},  {u"Dörte", true},   {u"Émile", false},
-    {u"Françoise", true}, {u"Günther", false},  {u"Hélène", true},  {u"Ingrid", true},  {u"Jürgen", false},
-    {u"Käthe", true},     {u"Lars", false},     {u"Márta", true},   {u"Niall", false},  {u"Özlem", true},
-    {u"Paul", false},     {u"Renée", true},     {u"Søren", false},  {u"Thomas", false}, {u"Ute", true},
-    {u"Věra", true},      {u"Wolfgang", false}, {u"Xavier", false}, {u"Łukasz", false}, {u"Zoë", true},
+// clang-format off
+constexpr Query queries[] = {
+    {"Disabled accounts"_L1, "Users whose account is disabled"_L1,
+     "SELECT UserID, LastName, FirstName, UserName, ServerName FROM Tbl_Users WHERE AccDisabled = True ORDER BY LastName, FirstName"_L1},
+    {"Folders without description"_L1, "Folders nobody has described"_L1,
+     "SELECT ID, FolderName, Description FROM Tbl_Folders WHERE Description = '' OR Description IS NULL ORDER BY FolderName"_L1},
+    {"Hardware per type"_L1, "How many items of each type"_L1,
+     "SELECT Tbl_HWType.ID, Type, Manufacturer, Model, COUNT(*) AS Items FROM Tbl_HWType INNER JOIN Tbl_HW ON Tbl_HWType.ID = Tbl_HW.HWTypeID GROUP BY Tbl_HWType.ID, Type, Manufacturer, Model ORDER BY Type, Manufacturer, Model"_L1},
+    {"Irish names"_L1, "Users whose name begins with O'"_L1,
+     "SELECT UserID, LastName, FirstName, UserName, ServerName FROM Tbl_Users WHERE LastName LIKE 'O''%' ORDER BY LastName"_L1},
+    {"Old hardware"_L1, "The ten oldest items"_L1,
+     "SELECT TOP 10 ID, SerialNumber, PurchaseDate, Status FROM Tbl_HW ORDER BY PurchaseDate"_L1},
+    {"Users of Accounting"_L1, "Users and their phone numbers"_L1,
+     "SELECT UserID, LastName, FirstName, DirectDial FROM Tbl_Users WHERE Department = 'Accounting' ORDER BY LastName"_L1},
 };
-
-constexpr QStringView lastNames[] = {
-    u"Adams",   u"Ärmel",    u"Böhm",       u"Brandt",  u"Çelik",    u"D'Angelo",  u"Dvořák",  u"Eßer",
-    u"Fischer", u"Großmann", u"Hübner",     u"Ibáñez",  u"Jäger",    u"König",     u"Lefèvre", u"L'Hôte",
-    u"Müller",  u"Nowak",    u"Nuñez",      u"O'Brien", u"O'Connor", u"Öztürk",    u"Peters",  u"Quandt",
-    u"Rößler",  u"Schäfer",  u"Smith",      u"Strauß",  u"Tóth",     u"Übelacker", u"Vogel",   u"Weiß",
-    u"Wójcik",  u"Yıldız",   u"Zimmermann", u"Žižka",
-};
-
-struct Site
-{
-    QLatin1StringView server;
-    QStringView division;
-    QLatin1StringView dialCode;
-    int countryCode;
-    int codePage;
-};
-
-constexpr Site sites[] = {
-    {"BERLIN01"_L1, u"Germany North", "+49 30 555"_L1, 49, 850},
-    {"MUENCHEN01"_L1, u"Germany South", "+49 89 555"_L1, 49, 850},
-    {"WIEN01"_L1, u"Österreich", "+43 1 555"_L1, 43, 850},
-    {"PARIS01"_L1, u"France", "+33 1 555"_L1, 33, 850},
-    {"DUBLIN01"_L1, u"Ireland", "+353 1 555"_L1, 353, 850},
-    {"PRAHA01"_L1, u"Česko", "+420 2 555"_L1, 420, 852},
-};
-
-struct Department
-{
-    QStringView name;
-    QLatin1StringView costCenter;
-    QStringView jobs[3];
-};
-
-constexpr Department departments[] = {
-    {u"Accounting", "4100"_L1, {u"Accountant", u"Controller", u"Payroll Clerk"}},
-    {u"Facility Management", "4300"_L1, {u"Caretaker", u"Facility Manager", u"Receptionist"}},
-    {u"Human Resources", "4200"_L1, {u"Recruiter", u"HR Manager", u"Trainer"}},
-    {u"IT Operations", "5100"_L1, {u"Administrator", u"Help Desk Agent", u"Network Engineer"}},
-    {u"Production", "6100"_L1, {u"Shift Leader", u"Machinist", u"Quality Inspector"}},
-    {u"Research & Development", "5200"_L1, {u"Developer", u"Laboratory Assistant", u"Project Manager"}},
-    {u"Sales", "7100"_L1, {u"Account Manager", u"Sales Assistant", u"Sales Director"}},
-};
-
-constexpr QLatin1StringView titles[] = {""_L1, ""_L1, ""_L1, ""_L1, ""_L1, ""_L1, "Dr."_L1, "Prof."_L1};
-
-/// The draws of one user, a function of the user's number alone.
-class Draws final
-{
-public:
-    explicit Draws(int user) : m_state(quint32(user) * 0x9e3779b9u + 0x7f4a7c15u) {}
-
-    int below(int limit)
-    {
-        m_state ^= m_state << 13;
-        m_state ^= m_state >> 17;
-        m_state ^= m_state << 5;
-        return int(m_state % quint32(limit));
-    }
-    bool oneIn(int times) { return below(times) == 0; }
-    template <typename T, std::size_t size>
-    const T &from(const T (&table)[size])
-    {
-        return table[below(int(size))];
-    }
-
-private:
-    quint32 m_state;
-};
-
-/// Lower case ASCII letters, as logon names and mail addresses want them.
-QString plainLetters(QStringView name)
-{
-    QString plain;
-    for (const QChar letter : name) {
-        switch (letter.toLower().unicode()) {
-        case u'ä':
-            plain += "ae"_L1;
-            break;
-        case u'ö':
-        case u'ø':
-            plain += "oe"_L1;
-            break;
-        case u'ü':
-            plain += "ue"_L1;
-            break;
-        case u'ß':
-            plain += "ss"_L1;
-            break;
-        case u'ı':
-            plain += u'i';
-            break;
-        case u'ł':
-            plain += u'l';
-            break;
-        default: {
-            const QChar base = QString(letter.toLower()).normalized(QString::NormalizationForm_D).front();
-            if (base >= u'a' && base <= u'z')
-                plain += base;
-        }
-        }
-    }
-    return plain;
-}
-
-constexpr double firstDay = 38353; // 2005-01-01
-
-class Company final
-{
-public:
-    UserRecord user(int number)
-    {
-        Draws draw(number);
-        const FirstName &first = draw.from(firstNames);
-        const QStringView last = draw.from(lastNames);
-        const Site &site = draw.from(sites);
-
-        UserRecord user;
-        user.UserID = 1000 + number;
-        user.UserName = logonName(first.name, last);
-        user.ServerName = site.server;
-        setAccount(user, draw, site);
-        setContact(user, draw, site, first, last);
-        user.FullName = user.FirstName + u' ' + user.LastName;
-        user.Comment = user.JobTitle + ", "_L1 + user.Department;
-        return user;
-    }
-
-private:
-    /// Names that are taken get a number behind.
-    QString logonName(QStringView first, QStringView last)
-    {
-        const QString name = plainLetters(first).left(1) + plainLetters(last);
-        const int taken = m_taken[name]++;
-        return taken == 0 ? name : name + QString::number(taken + 1);
-    }
-
-    static void setAccount(UserRecord &user, Draws &draw, const Site &site)
-    {
-        user.PasswordAge = QString::number(draw.below(90));
-        user.Privilege = draw.oneIn(50) ? 2 : 1;
-        user.NoChangePwd = draw.oneIn(20);
-        user.NoExpirePwd = draw.oneIn(10);
-        user.AccDisabled = draw.oneIn(15);
-        user.AccLocked = draw.oneIn(80);
-        user.PasswordExpired = draw.oneIn(30);
-        user.FLAGS = 0x201 | (user.AccDisabled ? 0x2 : 0) | (user.AccLocked ? 0x10 : 0) |
-                     (user.NoChangePwd ? 0x40 : 0) | (user.NoExpirePwd ? 0x10000 : 0);
-        user.HomeDir = "\\\\"_L1 + site.server + "\\Home$\\"_L1 + user.UserName;
-        user.HomeDirDrive = u"H:"_s;
-        user.Profile = "\\\\"_L1 + site.server + "\\Profiles$\\"_L1 + user.UserName;
-        user.ScriptPath = u"logon.bat"_s;
-        const double lastLogon = firstDay + draw.below(300) + draw.below(86400) / 86400.0;
-        user.LastLogon = oledate::toText(lastLogon);
-        user.LastLogoff = oledate::toText(lastLogon + (1 + draw.below(9)) / 24.0);
-        user.MaxStorage = -1;
-        user.UnitsPerWeek = 168;
-        user.BadPwCount = draw.oneIn(6) ? 1 + draw.below(3) : 0;
-        user.NumLogons = draw.below(2000);
-        user.LogonServer = u"\\\\*"_s;
-        user.CountryCode = site.countryCode;
-        user.CodePage = site.codePage;
-        user.PrimaryGroupID = 513;
-    }
-
-    static void setContact(UserRecord &user, Draws &draw, const Site &site, const FirstName &first,
-                           QStringView last)
-    {
-        const Department &department = draw.from(departments);
-        const QString extension = u"%1"_s.arg(user.UserID % 10000, 4, 10, QChar(u'0'));
-        user.Salutation = first.female ? u"Ms."_s : u"Mr."_s;
-        user.Title = draw.from(titles);
-        user.LastName = last.toString();
-        user.FirstName = first.name.toString();
-        user.JobTitle = draw.from(department.jobs).toString();
-        user.EmailAddress = user.UserName + "@example.com"_L1;
-        user.Department = department.name.toString();
-        user.CostCenter = department.costCenter;
-        user.PhoneNumber = site.dialCode + "-0"_L1;
-        user.DirectDial = site.dialCode + u'-' + extension;
-        user.MobileNumber = draw.oneIn(3) ? u"+49 170 555"_s + extension : QString();
-        user.Division = site.division.toString();
-    }
-
-    QHash<QString, int> m_taken;
-};
+// clang-format on
 
 } // namespace
+
+void fillQueries(StoreSession &store)
+{
+    for (const Query &query : queries)
+        store.execute(joined("INSERT INTO Tbl_CustomQuery ([Name],[Description],[SQLString]) "
+                             "VALUES ('{name}','{description}','{statement}')"_L1,
+                             {{"name"_L1, QString(query.name)},
+                              {"description"_L1, escapeQuotes(query.description)},
+                              {"statement"_L1, escapeQuotes(query.statement)}}));
+}
+
+} // namespace sample
 
 void createSampleStore(const QString &path, int users)
 {
     createStore(path, [users](StoreSession &store) {
-        Company company;
-        for (int number = 0; number < users; ++number) {
-            QList<QString> values = userValues(company.user(number));
-            for (QString &value : values)
-                value = escapeQuotes(value);
-            store.execute(insertUser(userColumns(), values));
-        }
+        if (users == 0)
+            return;
+        const QList<sample::User> staff = sample::fillUsers(store, users);
+        sample::fillGroups(store, staff);
+        sample::fillAssets(store, staff);
+        sample::fillQueries(store);
     });
 }

@@ -94,6 +94,7 @@ void createStore(const QString &path, const std::function<void(StoreSession &)> 
         for (const QString &statement : schemaStatements())
             store.execute(statement);
         fill(store);
+        store.close();
     }
     draft.moveToTarget();
 }

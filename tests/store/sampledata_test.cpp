@@ -1,0 +1,195 @@
+#include "store/sampledata.h"
+
+#include "platform/jet/connection.h"
+#include "queries/clsCustomQuery.h"
+#include "storetest.h"
+
+#include <algorithm>
+
+namespace {
+
+/// The company of 400, made once for all tests.
+class SampleDataTest : public testing::Test
+{
+protected:
+    static constexpr int users = 400;
+
+    static void SetUpTestSuite()
+    {
+        folder = new QTemporaryDir;
+        createSampleStore(folder->filePath(u"sample.kvs"_s), users);
+    }
+    static void TearDownTestSuite() { delete folder; }
+
+    static Rows rowsIn(const QString &path, const QString &sql)
+    {
+        jet::Recordset records;
+        StoreSession(jet::connectionString(path)).open(sql, records);
+        return rowsOf(records);
+    }
+    static Rows rows(const QString &sql) { return rowsIn(folder->filePath(u"sample.kvs"_s), sql); }
+    static int count(const QString &table)
+    {
+        return rows("SELECT COUNT(*) FROM "_L1 + table).first().toInt();
+    }
+
+    static inline QTemporaryDir *folder = nullptr;
+};
+
+constexpr QLatin1StringView filledTables[] = {
+    "Tbl_Users"_L1,
+    "Tbl_GlobalGroups"_L1,
+    "Tbl_LocalGroups"_L1,
+    "Tbl_Folders"_L1,
+    "Tbl_FolderDefaultPermissions"_L1,
+    "Tbl_HWType"_L1,
+    "Tbl_HW"_L1,
+    "Tbl_SW"_L1,
+    "Tbl_Rooms"_L1,
+    "Tbl_CustomQuery"_L1,
+    "Tbl_GlobalGroupsUsers"_L1,
+    "Tbl_LocalGroupsUsers"_L1,
+    "Tbl_LocalGroupsGlobalGroups"_L1,
+    "Tbl_UserFolderPermission"_L1,
+    "Tbl_LocalGroupFolderPermission"_L1,
+    "Tbl_GlobalGroupFolderPermission"_L1,
+    "Tbl_UserHW"_L1,
+    "Tbl_RoomHW"_L1,
+    "Tbl_RoomUsers"_L1,
+    "Tbl_SWHW"_L1,
+};
+
+struct Side
+{
+    QLatin1StringView relation;
+    QLatin1StringView column;
+    QLatin1StringView table;
+    QLatin1StringView id = "ID"_L1;
+};
+
+constexpr Side sides[] = {
+    {"Tbl_GlobalGroupsUsers"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1},
+    {"Tbl_GlobalGroupsUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_LocalGroupsUsers"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1},
+    {"Tbl_LocalGroupsUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_LocalGroupsGlobalGroups"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1},
+    {"Tbl_LocalGroupsGlobalGroups"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1},
+    {"Tbl_UserFolderPermission"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_UserFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1},
+    {"Tbl_LocalGroupFolderPermission"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1},
+    {"Tbl_LocalGroupFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1},
+    {"Tbl_GlobalGroupFolderPermission"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1},
+    {"Tbl_GlobalGroupFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1},
+    {"Tbl_UserHW"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_UserHW"_L1, "HWID"_L1, "Tbl_HW"_L1},
+    {"Tbl_RoomHW"_L1, "RoomID"_L1, "Tbl_Rooms"_L1},
+    {"Tbl_RoomHW"_L1, "HWID"_L1, "Tbl_HW"_L1},
+    {"Tbl_RoomUsers"_L1, "RoomID"_L1, "Tbl_Rooms"_L1},
+    {"Tbl_RoomUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_SWHW"_L1, "SWID"_L1, "Tbl_SW"_L1},
+    {"Tbl_SWHW"_L1, "HWID"_L1, "Tbl_HW"_L1},
+    {"Tbl_HW"_L1, "HWTypeID"_L1, "Tbl_HWType"_L1},
+};
+
+struct Key
+{
+    QLatin1StringView table;
+    QLatin1StringView columns;
+};
+
+constexpr Key keys[] = {
+    {"Tbl_Users"_L1, "UserName, ServerName"_L1},
+    {"Tbl_GlobalGroups"_L1, "Name, Server"_L1},
+    {"Tbl_LocalGroups"_L1, "Name, Server"_L1},
+    {"Tbl_Folders"_L1, "FolderName"_L1},
+    {"Tbl_FolderDefaultPermissions"_L1, "Account"_L1},
+    {"Tbl_HWType"_L1, "Type, Manufacturer, Model, TypeNumber"_L1},
+    {"Tbl_HW"_L1, "SerialNumber, HWTypeID"_L1},
+    {"Tbl_SW"_L1, "Type, Manufacturer, Name, Version"_L1},
+    {"Tbl_Rooms"_L1, "RoomNumber"_L1},
+    {"Tbl_CustomQuery"_L1, "Name"_L1},
+    {"Tbl_GlobalGroupsUsers"_L1, "GlobalGroupID, UserID"_L1},
+    {"Tbl_LocalGroupsUsers"_L1, "LocalGroupID, UserID"_L1},
+    {"Tbl_LocalGroupsGlobalGroups"_L1, "LocalGroupID, GlobalGroupID"_L1},
+    {"Tbl_UserFolderPermission"_L1, "UserID, FolderID"_L1},
+    {"Tbl_LocalGroupFolderPermission"_L1, "LocalGroupID, FolderID"_L1},
+    {"Tbl_GlobalGroupFolderPermission"_L1, "GlobalGroupID, FolderID"_L1},
+    {"Tbl_UserHW"_L1, "HWID"_L1},
+    {"Tbl_RoomHW"_L1, "HWID"_L1},
+    {"Tbl_RoomUsers"_L1, "RoomID, UserID"_L1},
+    {"Tbl_SWHW"_L1, "SWID, HWID"_L1},
+};
+
+} // namespace
+
+TEST_F(SampleDataTest, GrowsWithItsUsers)
+{
+    EXPECT_EQ(count(u"Tbl_GlobalGroups"_s), users / 20);
+    EXPECT_EQ(count(u"Tbl_LocalGroups"_s), users / 40);
+    EXPECT_EQ(count(u"Tbl_Folders"_s), users / 2);
+    EXPECT_EQ(count(u"Tbl_HW"_s), users);
+    EXPECT_EQ(count(u"Tbl_RoomUsers"_s), users);
+    int relationships = 0;
+    for (const QLatin1StringView table : filledTables) {
+        EXPECT_GT(count(table), 0) << table.data();
+        if (std::ranges::find(sides, table, &Side::relation) != std::end(sides) && table != "Tbl_HW"_L1)
+            relationships += count(table);
+    }
+    EXPECT_GT(relationships, 6 * users);
+    EXPECT_LT(relationships, 8 * users);
+}
+
+TEST_F(SampleDataTest, KeepsTheRulesOfTheStore)
+{
+    for (const Side &side : sides)
+        EXPECT_EQ(rows("SELECT "_L1 + side.column + " FROM "_L1 + side.relation + " WHERE "_L1 + side.column +
+                       " NOT IN (SELECT "_L1 + side.id + " FROM "_L1 + side.table + ")"_L1),
+                  Rows())
+            << side.relation.data() << '.' << side.column.data();
+    for (const Key &key : keys)
+        EXPECT_EQ(rows("SELECT "_L1 + key.columns + " FROM "_L1 + key.table + " GROUP BY "_L1 + key.columns +
+                       " HAVING COUNT(*) > 1"_L1),
+                  Rows())
+            << key.table.data();
+    EXPECT_EQ(rows(u"SELECT HWID FROM Tbl_UserHW WHERE HWID IN (SELECT HWID FROM Tbl_RoomHW)"_s), Rows());
+    EXPECT_EQ(rows(u"SELECT ID FROM Tbl_Folders WHERE FolderName NOT LIKE '%\\'"_s), Rows());
+    EXPECT_EQ(rows(u"SELECT Permission FROM Tbl_UserFolderPermission UNION "
+                   "SELECT Permission FROM Tbl_LocalGroupFolderPermission UNION "
+                   "SELECT Permission FROM Tbl_GlobalGroupFolderPermission"_s),
+              (Rows{u"CH"_s, u"Full Control"_s, u"L"_s, u"R"_s}));
+}
+
+TEST_F(SampleDataTest, SavedQueriesGiveRows)
+{
+    const QString connection = jet::connectionString(folder->filePath(u"sample.kvs"_s));
+    clsCustomQuery queries;
+    jet::Recordset all;
+    queries.getAll(connection, all);
+    for (; !all.eof(); all.moveNext()) {
+        jet::Recordset result;
+        queries.Execute(connection, result, all.value(u"SQLString").toText());
+        ASSERT_EQ(result.state(), jet::StateOpen) << all.value(u"Name").toText().toStdString();
+        EXPECT_GT(result.recordCount(), 0) << all.value(u"Name").toText().toStdString();
+    }
+}
+
+TEST_F(SampleDataTest, TheSameNumberGivesTheSameCompany)
+{
+    const QString again = folder->filePath(u"again.kvs"_s);
+    createSampleStore(again, users);
+    for (const QLatin1StringView table : filledTables) {
+        const QString sql = "SELECT * FROM "_L1 + table;
+        EXPECT_EQ(rowsIn(again, sql), rows(sql)) << table.data();
+    }
+}
+
+TEST_F(SampleDataTest, ACompanyMayBeOfAnySize)
+{
+    for (int size : {0, 1, 2, 3, 7, 19, 43}) {
+        const QString path = folder->filePath(QString::number(size));
+        createSampleStore(path, size);
+        EXPECT_EQ(rowsIn(path, u"SELECT COUNT(*) FROM Tbl_Users"_s), Rows{QString::number(size)});
+        EXPECT_EQ(rowsIn(path, u"SELECT COUNT(*) FROM Tbl_HW"_s), Rows{QString::number(size)});
+        EXPECT_EQ(rowsIn(path, u"SELECT COUNT(*) FROM Tbl_CustomQuery"_s).first() == u"0"_s, size == 0);
+    }
+}
