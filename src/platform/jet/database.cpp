@@ -1,6 +1,7 @@
 #include "platform/jet/database.h"
 
 #include "platform/jet/errortexts.h"
+#include "platform/jet/interrupt.h"
 #include "platform/jet/parser.h"
 #include "platform/jet/sqlitesetup.h"
 #include "platform/jet/storefile.h"
@@ -49,13 +50,35 @@ HeaderPtr headerOf(const std::vector<OutputColumn> &columns)
 
 } // namespace
 
+/// Lets a long statement ask whether it is to end, where someone wants to be asked.
+class Database::ProgressWatch final
+{
+public:
+    explicit ProgressWatch(Database &database) : m_handle(database.m_handle)
+    {
+        constexpr int stepsBetweenQuestions = 5000;
+        if (Interruptible::active())
+            sqlite3_progress_handler(m_handle, stepsBetweenQuestions, onProgress, &database);
+    }
+    ~ProgressWatch() { sqlite3_progress_handler(m_handle, 0, nullptr, nullptr); }
+    ProgressWatch(const ProgressWatch &) = delete;
+    ProgressWatch &operator=(const ProgressWatch &) = delete;
+
+private:
+    sqlite3 *m_handle;
+};
+
 std::shared_ptr<Database> Database::open(const QString &path)
 {
-    checkStoreFile(path);
+    // A file that is open already must not be opened and closed once more just to look at it:
+    // that would drop the locks of the whole process on it.
     const QString key = QFileInfo(path).canonicalFilePath();
-    std::weak_ptr<Database> &known = openDatabases()[key];
-    if (std::shared_ptr<Database> shared = known.lock())
-        return shared;
+    if (const auto known = openDatabases().find(key); known != openDatabases().end()) {
+        if (std::shared_ptr<Database> shared = known->second.lock())
+            return shared;
+        openDatabases().erase(known);
+    }
+    checkStoreFile(path);
     sqlite3 *raw = nullptr;
     const int result =
         sqlite3_open_v2(key.toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -72,7 +95,7 @@ std::shared_ptr<Database> Database::open(const QString &path)
         raise(error.number(), QStringLiteral("%1 '%2'").arg(error.description(), path));
     }
     std::shared_ptr<Database> shared(new Database(std::move(handle)));
-    known = shared;
+    openDatabases()[key] = shared;
     return shared;
 }
 
@@ -85,7 +108,7 @@ void Database::flushAll()
 {
     for (auto &[path, known] : openDatabases()) {
         if (const std::shared_ptr<Database> database = known.lock())
-            database->flush();
+            database->flushUnlessRead();
     }
 }
 
@@ -120,6 +143,8 @@ bool Database::fits(const Prepared &prepared) const
 
 Database::Prepared &Database::prepare(const QString &sql)
 {
+    if (m_asking)
+        raise(Failure, QStringLiteral("The store is busy with another statement."));
     m_text = sql.toUtf8();
     liftLiterals({m_text.constData(), std::size_t(m_text.size())}, m_lifted);
     const auto known = m_prepared.find(m_lifted.shape);
@@ -197,9 +222,25 @@ void Database::execute(const QString &sql)
     read(sql, dropped);
 }
 
+int Database::onProgress(void *database)
+{
+    auto *self = static_cast<Database *>(database);
+    self->m_asking = true;
+    bool cancelled = true;
+    try {
+        cancelled = Interruptible::cancelled();
+    } catch (...) {
+        // No exception may pass through SQLite: a question that fails ends the statement.
+        cancelled = true;
+    }
+    self->m_asking = false;
+    return cancelled ? 1 : 0;
+}
+
 bool Database::read(const QString &sql, RowSink &rows)
 {
     Prepared &prepared = prepare(sql);
+    const ProgressWatch watch(*this);
     if (prepared.writes) {
         write(prepared);
         return false;
@@ -218,6 +259,10 @@ bool Database::read(const QString &sql, RowSink &rows)
 
 void Database::write(Prepared &prepared)
 {
+    // An interrupted write takes its whole transaction along: it gets one for itself.
+    const bool alone = Interruptible::active();
+    if (alone)
+        flush();
     beginGroup();
     // A single row of values is worked out before it is written, and SQLite undoes a row that
     // its constraints refuse. What can fail with rows written needs a way back of its own.
@@ -239,7 +284,11 @@ void Database::write(Prepared &prepared)
     if (prepared.changesSchema)
         m_prepared.clear(); // the statement itself included
     m_groupWrites += changed ? 1 : 0;
-    commitWhenDue();
+    m_writesSinceTry += changed ? 1 : 0;
+    if (alone)
+        flush();
+    else
+        commitWhenDue();
 }
 
 void Database::runWrite(Prepared &prepared)
@@ -261,23 +310,40 @@ void Database::beginGroup()
 {
     if (m_inGroup)
         return;
+    requireFileInPlace();
     stepToEnd(m_handle, m_begin.get());
     m_inGroup = true;
     m_groupWrites = 0;
+    m_writesSinceTry = 0;
     m_groupStart = std::chrono::steady_clock::now();
+}
+
+// Writes to a file that has lost its name would be gone with it.
+void Database::requireFileInPlace() const
+{
+    int moved = 0;
+    sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    if (moved != 0)
+        raise(Failure, QStringLiteral("Could not find file '%1'. It was moved or deleted while it was open.")
+                           .arg(QString::fromUtf8(sqlite3_db_filename(m_handle, "main"))));
 }
 
 void Database::commitWhenDue()
 {
-    if (m_groupWrites < groupLimit && std::chrono::steady_clock::now() - m_groupStart < groupAge)
-        return;
+    if (m_writesSinceTry >= groupLimit || std::chrono::steady_clock::now() - m_groupStart >= groupAge)
+        flushUnlessRead();
+}
+
+// While another program reads the file, what is written waits for the end of the next group;
+// only the close of the connection has to tell.
+void Database::flushUnlessRead()
+{
     try {
         flush();
     } catch (const Error &) {
         if (!m_inGroup)
             throw;
-        // Someone reads the file just now: what is written waits for the end of the next group.
-        m_groupWrites = 0;
+        m_writesSinceTry = 0;
         m_groupStart = std::chrono::steady_clock::now();
     }
 }
@@ -299,7 +365,7 @@ void Database::raiseGroupLost(const Error &cause)
 
 void Database::flush()
 {
-    if (!m_inGroup)
+    if (!m_inGroup || m_asking)
         return;
     try {
         stepToEnd(m_handle, m_commit.get());

@@ -75,6 +75,8 @@ private:
     };
     using Handle = std::unique_ptr<sqlite3, Closer>;
 
+    class ProgressWatch;
+
     explicit Database(Handle handle);
 
     Prepared &prepare(const QString &sql);
@@ -85,6 +87,9 @@ private:
     void runWrite(Prepared &prepared);
     void beginGroup();
     void commitWhenDue();
+    void flushUnlessRead();
+    void requireFileInPlace() const;
+    static int onProgress(void *database);
     [[nodiscard]] bool groupLost() const;
     [[noreturn]] void raiseGroupLost(const Error &cause);
 
@@ -100,8 +105,10 @@ private:
 
     StatementHandle m_begin;
     StatementHandle m_commit;
+    bool m_asking = false; // in the middle of a statement, events may run
     bool m_inGroup = false;
     int m_groupWrites = 0;
+    int m_writesSinceTry = 0; // to commit them
     std::chrono::steady_clock::time_point m_groupStart;
 };
 

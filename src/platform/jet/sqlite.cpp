@@ -1,8 +1,11 @@
 #include "platform/jet/sqlite.h"
 
+#include "base/error.h"
+
 #include "platform/jet/collation.h"
 #include "platform/jet/errortexts.h"
 #include "platform/jet/functions.h"
+#include "platform/jet/lockholder.h"
 #include "platform/jet/sqlitesetup.h"
 
 #include <string>
@@ -22,9 +25,7 @@ constexpr ErrorRow errors[] = {
     {SQLITE_CONSTRAINT_UNIQUE, DuplicateValue, nullptr},
     {SQLITE_CONSTRAINT_PRIMARYKEY, DuplicateValue, nullptr},
     {SQLITE_CONSTRAINT_ROWID, DuplicateValue, nullptr},
-    {SQLITE_BUSY, Failure, "Could not update; currently locked by another program."},
     {SQLITE_LOCKED, Failure, "Could not update; currently locked."},
-    {SQLITE_READONLY, Failure, "Operation must use an updatable query."},
     {SQLITE_CANTOPEN, Failure, "The file or its journal could not be opened."},
     {SQLITE_FULL, Failure, "There isn't enough disk space."},
     {SQLITE_IOERR, Failure, "Disk or network error."},
@@ -42,6 +43,20 @@ constexpr const char *duplicateText =
     "data, remove "
     "the index, or redefine the index to permit duplicate entries and try again.";
 
+QString fileOf(sqlite3 *handle)
+{
+    const char *name = sqlite3_db_filename(handle, "main");
+    return QString::fromUtf8(name == nullptr ? "" : name);
+}
+
+[[noreturn]] void raiseLocked(sqlite3 *handle)
+{
+    const QString path = fileOf(handle);
+    const QString holder = lockHolder(path);
+    raise(Failure, QStringLiteral("Could not update; currently locked by %1. The file is '%2'.")
+                       .arg(holder.isEmpty() ? QStringLiteral("another program") : holder, path));
+}
+
 } // namespace
 
 void raiseSqlite(sqlite3 *handle, int result)
@@ -58,6 +73,11 @@ void raiseSqlite(sqlite3 *handle, int result)
                        "' cannot contain a Null value because the Required property for this field is set to "
                        "True.  Enter a value in this field.");
     }
+    if ((result & 0xff) == SQLITE_BUSY)
+        raiseLocked(handle);
+    if ((result & 0xff) == SQLITE_READONLY)
+        raise(Failure, QStringLiteral("Operation must use an updatable query. The file '%1' is read-only.")
+                           .arg(fileOf(handle)));
     for (const ErrorRow &row : errors) {
         if (row.result == extended || row.result == (result & 0xff))
             raiseError(row.number, row.text != nullptr ? row.text : duplicateText);

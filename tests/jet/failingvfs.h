@@ -1,0 +1,32 @@
+#pragma once
+
+/// A file system that fails on demand, beneath every SQLite handle opened while it is installed.
+/// It does what the real one does until its n-th call of a kind, which fails once or for good.
+namespace failingvfs {
+
+enum class Kind { Read, Write, Sync, Lock };
+
+/// The result code that the call with this number (from 1) gives instead of being done.
+struct Plan
+{
+    Kind kind = Kind::Write;
+    int call = 0; ///< 0: none fails
+    int result = 0;
+    bool forGood = false; ///< all calls behind fail, too, as on a disk that is full
+};
+
+/// Becomes the default file system of the process on construction, the real one again at the end.
+class Installed final
+{
+public:
+    Installed();
+    ~Installed();
+    Installed(const Installed &) = delete;
+    Installed &operator=(const Installed &) = delete;
+
+    void plan(const Plan &plan);
+    /// Whether the planned call has come.
+    [[nodiscard]] bool hasFailed() const;
+};
+
+} // namespace failingvfs

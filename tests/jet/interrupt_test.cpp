@@ -1,0 +1,98 @@
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/errors.h"
+#include "platform/jet/interrupt.h"
+#include "platform/jet/recordset.h"
+#include "support/freshstore.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class InterruptTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        makeFreshStore(path);
+        connection.open(jet::connectionString(path));
+        for (int room = 1; room <= 300; ++room)
+            connection.execute("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('R"_L1 + QString::number(room) +
+                               "')"_L1);
+    }
+
+    [[nodiscard]] qint64 number(const QString &sql)
+    {
+        jet::Recordset rows;
+        rows.open(sql, connection);
+        return rows.value(0).toInteger();
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath("plan.mdb"_L1);
+    jet::Connection connection;
+};
+
+// 27 million pairs of rooms: without an answer it would run for minutes.
+constexpr auto longSelect =
+    "SELECT COUNT(*) FROM Tbl_Rooms AS a, Tbl_Rooms AS b, Tbl_Rooms AS c, Tbl_Rooms AS d "
+    "WHERE a.RoomNumber & b.RoomNumber = c.RoomNumber & d.RoomNumber"_L1;
+
+} // namespace
+
+TEST_F(InterruptTest, EndsALongSelect)
+{
+    int asked = 0;
+    const jet::Interruptible interruptible([&asked] { return ++asked == 3; });
+    try {
+        connection.execute(longSelect);
+        FAIL() << "the statement came to an end";
+    } catch (const Error &error) {
+        EXPECT_EQ(error.number(), jet::Failure);
+        EXPECT_EQ(error.description(), u"The operation was cancelled."_s);
+    }
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(number(u"SELECT COUNT(*) FROM Tbl_Rooms"_s), 300);
+}
+
+TEST_F(InterruptTest, UndoesALongUpdateAndNothingElse)
+{
+    connection.execute(u"UPDATE Tbl_Rooms SET Description = 'first'"_s);
+    {
+        const jet::Interruptible interruptible([] { return true; });
+        EXPECT_THROW(connection.execute("UPDATE Tbl_Rooms SET Description = 'x' WHERE ("_L1 + longSelect +
+                                        ") >= 0"_L1),
+                     Error);
+    }
+    EXPECT_EQ(number(u"SELECT COUNT(*) FROM Tbl_Rooms WHERE Description = 'first'"_s), 300);
+    connection.execute(u"UPDATE Tbl_Rooms SET Description = 'second'"_s);
+    EXPECT_EQ(number(u"SELECT COUNT(*) FROM Tbl_Rooms WHERE Description = 'second'"_s), 300);
+}
+
+TEST_F(InterruptTest, RefusesTheStoreToEventsThatRunMeanwhile)
+{
+    int refused = 0;
+    const jet::Interruptible interruptible([&] {
+        jet::Connection second;
+        try {
+            second.open(jet::connectionString(path));
+            second.execute(u"SELECT * FROM Tbl_Rooms"_s);
+        } catch (const Error &error) {
+            refused += error.description().contains("busy"_L1) ? 1 : 0;
+        }
+        jet::flushPendingWrites();
+        return true;
+    });
+    EXPECT_THROW(connection.execute(longSelect), Error);
+    EXPECT_EQ(refused, 1);
+}
+
+TEST_F(InterruptTest, AFailingQuestionEndsTheStatement)
+{
+    const jet::Interruptible interruptible([]() -> bool { throw Error(1, u"no answer"_s); });
+    EXPECT_THROW(connection.execute(longSelect), Error);
+}

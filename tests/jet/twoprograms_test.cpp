@@ -1,0 +1,175 @@
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/errors.h"
+#include "platform/jet/recordset.h"
+#include "support/freshstore.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Another program on the same store: a child that holds what it has written back until told.
+class OtherProgram final
+{
+public:
+    explicit OtherProgram(const QString &path)
+    {
+        if (pipe(m_ready) != 0 || pipe(m_go) != 0)
+            throw std::runtime_error("no pipe");
+        m_process = fork();
+        if (m_process == 0)
+            _exit(run(path));
+        char byte = 0;
+        EXPECT_EQ(read(m_ready[0], &byte, 1), 1);
+    }
+    ~OtherProgram()
+    {
+        finish();
+        for (const int end : {m_ready[0], m_ready[1], m_go[0], m_go[1]})
+            close(end);
+    }
+    OtherProgram(const OtherProgram &) = delete;
+    OtherProgram &operator=(const OtherProgram &) = delete;
+
+    [[nodiscard]] pid_t process() const { return m_process; }
+
+    /// Lets it close its connection and waits for its end.
+    void finish()
+    {
+        if (m_process <= 0)
+            return;
+        EXPECT_EQ(write(m_go[1], "x", 1), 1);
+        int status = 0;
+        waitpid(m_process, &status, 0);
+        EXPECT_EQ(status, 0);
+        m_process = 0;
+    }
+
+private:
+    int run(const QString &path)
+    {
+        try {
+            jet::Connection connection;
+            connection.open(jet::connectionString(path));
+            connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('theirs')"_s);
+            char byte = 'r';
+            if (write(m_ready[1], &byte, 1) != 1 || read(m_go[0], &byte, 1) != 1)
+                return 2;
+            connection.close();
+            return 0;
+        } catch (const Error &) {
+            return 1;
+        }
+    }
+
+    int m_ready[2] = {};
+    int m_go[2] = {};
+    pid_t m_process = 0;
+};
+
+} // namespace
+
+TEST(TwoPrograms, TheSecondWriterIsToldWhoHoldsTheFile)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    makeFreshStore(path);
+    OtherProgram other(path);
+
+    jet::Connection connection;
+    connection.open(jet::connectionString(path));
+    jet::Recordset rooms;
+    rooms.open(u"SELECT * FROM Tbl_Rooms"_s, connection); // reading goes on meanwhile
+    EXPECT_EQ(rooms.recordCount(), 0);
+    try {
+        connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('ours')"_s);
+        FAIL() << "two programs wrote at once";
+    } catch (const Error &error) {
+        EXPECT_EQ(error.number(), jet::Failure);
+        EXPECT_TRUE(error.description().contains(QString::number(other.process()))) << error.what();
+        EXPECT_TRUE(error.description().contains("plan.mdb"_L1)) << error.what();
+    }
+    other.finish();
+    connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('ours')"_s);
+    jet::Recordset after;
+    after.open(u"SELECT RoomNumber FROM Tbl_Rooms ORDER BY ID"_s, connection);
+    EXPECT_EQ(after.recordCount(), 2);
+}
+
+TEST(TwoPrograms, LookingAtAnOpenFileKeepsItsLocks)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    makeFreshStore(path);
+    jet::Connection writer;
+    writer.open(jet::connectionString(path));
+    writer.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('pending')"_s);
+    {
+        jet::Connection second;
+        second.open(jet::connectionString(path));
+    }
+    // Were the locks gone, a child could write now.
+    const pid_t child = fork();
+    if (child == 0) {
+        alarm(60);
+        try {
+            jet::Connection connection;
+            // The parent's handle came along with the fork; this file is reached by another name.
+            const QString link = folder.filePath("link.mdb"_L1);
+            if (::link(path.toUtf8().constData(), link.toUtf8().constData()) != 0)
+                _exit(3);
+            connection.open(jet::connectionString(link));
+            connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('theirs')"_s);
+        } catch (const Error &) {
+            _exit(0);
+        }
+        _exit(1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+TEST(TwoConnections, OneReadsWhatTheOtherHasJustWritten)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    makeFreshStore(path);
+    jet::Connection writer;
+    writer.open(jet::connectionString(path));
+    jet::Connection reader;
+    reader.open(jet::connectionString(path));
+    for (int room = 1; room <= 50; ++room) {
+        writer.execute("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('"_L1 + QString::number(room) + "')"_L1);
+        if (room % 10 == 0)
+            jet::flushPendingWrites();
+        jet::Recordset rows;
+        rows.open(u"SELECT * FROM Tbl_Rooms"_s, reader);
+        ASSERT_EQ(rows.recordCount(), room);
+    }
+}
+
+TEST(VanishedFile, IsNotWrittenTo)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    makeFreshStore(path);
+    jet::Connection connection;
+    connection.open(jet::connectionString(path));
+    connection.execute(u"SELECT * FROM Tbl_Rooms"_s);
+    QFile::remove(path);
+    try {
+        connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('lost')"_s);
+        FAIL() << "written to a file that is gone";
+    } catch (const Error &error) {
+        EXPECT_EQ(error.number(), jet::Failure);
+        EXPECT_TRUE(error.description().contains("plan.mdb"_L1)) << error.what();
+    }
+}
