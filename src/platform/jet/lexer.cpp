@@ -201,8 +201,11 @@ Token Lexer::quoted(char close, TokenKind kind)
     if (last == std::string_view::npos || last == start + 1)
         raiseSyntax("Syntax error in name", m_statement, start,
                     last == start + 1 ? last + 1 : m_statement.size());
+    const std::string_view inside = m_statement.substr(start + 1, last - start - 1);
+    if (std::any_of(inside.begin(), inside.end(), [](unsigned char c) { return c < ' '; }))
+        raiseSyntax("Syntax error in name", m_statement, start, last + 1);
     m_at = last + 1;
-    return finish(kind, start, m_statement.substr(start + 1, last - start - 1));
+    return finish(kind, start, inside);
 }
 
 Token Lexer::text(char quote)
