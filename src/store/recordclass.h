@@ -25,6 +25,7 @@ protected:
         try {
             StoreSession store(connectionString);
             work(store);
+            store.close();
         } catch (const Error &error) {
             m_error.set(error);
             throw;
