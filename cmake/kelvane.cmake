@@ -7,6 +7,10 @@ if(KELVANE_SANITIZE)
   target_compile_options(kelvane_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(kelvane_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(KELVANE_FUZZ)
+  target_compile_options(kelvane_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(kelvane_options INTERFACE -fsanitize=address,undefined)
+endif()
 
 # kelvane_library(NAME [WIDGETS] FOLDERS folder... ): a static library of all
 # sources of the folders below src, with its precompiled Qt headers.

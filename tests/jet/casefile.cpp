@@ -35,11 +35,18 @@ private:
         else if (m_file.cases.empty() || !m_open)
             mistake("stands before the first case"_L1);
         else if (line.startsWith(u'>'))
-            m_file.cases.back().steps.emplace_back(m_line, line.mid(1).trimmed());
+            statement(line.mid(1).trimmed());
         else if (m_file.cases.back().steps.empty())
             mistake("is an expectation without a statement"_L1);
         else
             expectation(m_file.cases.back().steps.back(), line);
+    }
+
+    void statement(const QString &sql)
+    {
+        Step &step = m_file.cases.back().steps.emplace_back();
+        step.line = m_line;
+        step.sql = sql;
     }
 
     void expectation(Step &step, const QString &line)
