@@ -1,6 +1,7 @@
 #include "workbench.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 #include "store/sampledata.h"
 #include "store/storefile.h"
 
@@ -46,7 +47,7 @@ QString copyOf(const QString &store)
 {
     const QString path = freshPath();
     if (!QFile::copy(store, path))
-        raise(75, "Path/File access error: "_L1 + path);
+        raise(FileAccessError, "Path/File access error: "_L1 + path);
     return path;
 }
 

@@ -1,14 +1,11 @@
 #include "base/textcolumn.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 
 #include <limits>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-constexpr int OutOfMemory = 7;
-}
 
 QUtf8StringView TextColumn::view(std::size_t row) const
 {

@@ -1,6 +1,7 @@
 #include "exchange/modImportFile.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 
 #include <QFileInfo>
 

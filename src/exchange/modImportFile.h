@@ -6,9 +6,6 @@
 
 #include <optional>
 
-/// What an import file that cannot be read raises.
-inline constexpr int FileAccessError = 75;
-
 /// Decodes a stream of lines chunk by chunk.
 class LineStream final
 {

@@ -1,6 +1,7 @@
 #include "messages/guard.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 #include "toolkit/messagebox.h"
 
 #include <new>
@@ -8,8 +9,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int OutOfMemory = 7;
 
 void report(int number, const QString &description)
 {

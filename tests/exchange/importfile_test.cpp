@@ -1,4 +1,5 @@
 #include "base/error.h"
+#include "base/errornumbers.h"
 #include "exchange/modImportFile.h"
 #include "support/storetest.h"
 

@@ -1,6 +1,7 @@
 #include "gallery.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 
 #include <QPixmap>
 #include <QSaveFile>
@@ -8,19 +9,13 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int NotWritable = 75;
-
-} // namespace
-
 Gallery::Gallery(const QString &folder, const QString &suffix) : m_folder(folder), m_suffix(suffix)
 {
     const QFileInfo info(folder);
     if (info.exists() && !info.isDir())
-        raise(NotWritable, folder % " is not a folder."_L1);
+        raise(FileAccessError, folder % " is not a folder."_L1);
     if (!m_folder.mkpath(u"."_s))
-        raise(NotWritable, "The folder "_L1 % folder % " cannot be made."_L1);
+        raise(FileAccessError, "The folder "_L1 % folder % " cannot be made."_L1);
 }
 
 void Gallery::add(QWidget &window, const QString &name)
@@ -28,6 +23,6 @@ void Gallery::add(QWidget &window, const QString &name)
     QSaveFile file(m_folder.filePath(name % m_suffix % ".png"_L1));
     const bool written = file.open(QIODevice::WriteOnly) && window.grab().save(&file, "PNG") && file.commit();
     if (!written)
-        raise(NotWritable, file.fileName() % " cannot be written: "_L1 % file.errorString());
+        raise(FileAccessError, file.fileName() % " cannot be written: "_L1 % file.errorString());
     ++m_count;
 }

@@ -1,6 +1,7 @@
 #include "platform/settings/settings.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 
 #include <QSettings>
 #include <QStandardPaths>
@@ -55,8 +56,8 @@ void saveSetting(const QString &application, const QString &section, const QStri
     file.setValue(pathOf(section, key), value);
     file.sync();
     if (file.status() != QSettings::NoError)
-        raise(NotWritable, "The setting "_L1 % key % " could not be stored. The file "_L1 % name %
-                               " cannot be written."_L1);
+        raise(FileAccessError, "The setting "_L1 % key % " could not be stored. The file "_L1 % name %
+                                   " cannot be written."_L1);
 }
 
 } // namespace settings

@@ -7,14 +7,12 @@
 /// another process stored is seen at once.
 namespace settings {
 
-inline constexpr int NotWritable = 75;
-
 /// The stored text, or the default when there is no such key. A file that cannot be read
 /// holds no keys.
 [[nodiscard]] QString getSetting(const QString &application, const QString &section, const QString &key,
                                  const QString &defaultValue = {});
 
-/// On disk when it returns. Raises NotWritable with a text that names the file.
+/// On disk when it returns. Raises FileAccessError with a text that names the file.
 void saveSetting(const QString &application, const QString &section, const QString &key,
                  const QString &value);
 

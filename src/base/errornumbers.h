@@ -1,0 +1,7 @@
+#pragma once
+
+/// Error numbers of the program's own doing that more than one folder raises or tests. Those of
+/// the store engine are in platform/jet/errors.h, that of the store's rules is RuleViolation.
+inline constexpr int OutOfMemory = 7;
+/// A file that cannot be read or written; the text names it.
+inline constexpr int FileAccessError = 75;
