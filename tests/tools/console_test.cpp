@@ -160,6 +160,28 @@ TEST_F(ConsoleTest, Sql_RefusesAMissingStore)
     EXPECT_FALSE(QFile::exists(path));
 }
 
+TEST_F(ConsoleTest, Check_TellsFindingsAndTheStatusOfAScript)
+{
+    createStore(path);
+    const Answer sound = run({u"check"_s, path});
+    EXPECT_EQ(sound.status, ExitDone);
+    EXPECT_EQ(sound.out, "The store is in order.\n");
+
+    sql("DROP INDEX IDX_SWHW_HWID ON Tbl_SWHW\nINSERT INTO Tbl_RoomUsers (RoomID,UserID) VALUES (1,1)\n");
+    const Answer broken = run({u"check"_s, path});
+    EXPECT_EQ(broken.status, ExitFindings);
+    EXPECT_EQ(broken.out, "Index IDX_SWHW_HWID of table Tbl_SWHW is missing.\n"
+                          "Table Tbl_RoomUsers: 1 row has a RoomID that is not in Tbl_Rooms.\n"
+                          "Table Tbl_RoomUsers: 1 row has a UserID that is not in Tbl_Users.\n");
+    EXPECT_EQ(broken.complaints, "");
+
+    const Answer unreadable = run({u"check"_s, folder.path()});
+    EXPECT_EQ(unreadable.status, ExitUnreadable);
+    EXPECT_EQ(unreadable.out, "");
+    EXPECT_NE(unreadable.complaints.find(folder.path().toStdString()), std::string::npos)
+        << unreadable.complaints;
+}
+
 TEST_F(ConsoleTest, RefusesArgumentsThatMakeNoSense)
 {
     const QStringList nonsense[] = {
@@ -172,6 +194,8 @@ TEST_F(ConsoleTest, RefusesArgumentsThatMakeNoSense)
         {u"create"_s, path, u"--sample"_s, u"many"_s},
         {u"create"_s, path, u"--sample"_s, u"-1"_s},
         {u"create"_s, path, u"30"_s, u"30"_s},
+        {u"check"_s},
+        {u"check"_s, path, path},
     };
     for (const QStringList &arguments : nonsense) {
         const Answer answer = run(arguments);

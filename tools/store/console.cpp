@@ -6,6 +6,7 @@
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 #include "store/sampledata.h"
+#include "store/storecheck.h"
 #include "store/storefile.h"
 
 #include <istream>
@@ -19,10 +20,12 @@ constexpr int mostSampleUsers = 1'000'000;
 
 int refuseUsage(Console &console, const QString &reason)
 {
-    console.complaints << "kelvane-store: " << reason.toStdString() << "\n"
-                       << "usage: kelvane-store create PATH [--sample USERS]\n"
-                       << "       kelvane-store sql PATH    one statement a line from standard input,\n"
-                       << "                                 one JSON object a statement to standard output\n";
+    console.complaints
+        << "kelvane-store: " << reason.toStdString() << "\n"
+        << "usage: kelvane-store create PATH [--sample USERS]\n"
+        << "       kelvane-store sql PATH    one statement a line from standard input,\n"
+        << "                                 one JSON object a statement to standard output\n"
+        << "       kelvane-store check PATH  tells what is wrong with the store, a line each\n";
     return ExitUsage;
 }
 
@@ -109,6 +112,23 @@ int sql(const QStringList &arguments, Console &console)
     return status;
 }
 
+int check(const QStringList &arguments, Console &console)
+{
+    if (arguments.size() != 1)
+        return refuseUsage(console, u"check takes one path"_s);
+    try {
+        const QStringList findings = checkStore(arguments[0]);
+        for (const QString &finding : findings)
+            console.out << finding.toStdString() << '\n';
+        if (findings.isEmpty())
+            console.out << "The store is in order.\n";
+        return findings.isEmpty() ? ExitDone : ExitFindings;
+    } catch (const Error &error) {
+        refuse(console, error);
+        return ExitUnreadable;
+    }
+}
+
 } // namespace
 
 int runCommand(const QStringList &arguments, Console &console)
@@ -119,6 +139,8 @@ int runCommand(const QStringList &arguments, Console &console)
         return create(arguments.mid(1), console);
     if (arguments[0] == "sql"_L1)
         return sql(arguments.mid(1), console);
+    if (arguments[0] == "check"_L1)
+        return check(arguments.mid(1), console);
     return refuseUsage(console, arguments[0] == "create"_L1
                                     ? u"create takes a path"_s
                                     : "there is no command '"_L1 + arguments[0] + u'\'');

@@ -7,6 +7,8 @@
 inline constexpr int ExitDone = 0;
 inline constexpr int ExitRefused = 1;
 inline constexpr int ExitUsage = 2;
+inline constexpr int ExitFindings = 1;   ///< of check
+inline constexpr int ExitUnreadable = 2; ///< of check
 
 struct Console
 {
@@ -17,5 +19,6 @@ struct Console
 
 /// Runs one command of kelvane-store, told by its arguments without the program's name, and returns the
 /// exit status: ExitUsage when the arguments make no sense, ExitRefused when the command or any of its
-/// statements was refused.
+/// statements was refused. A check ends with ExitFindings when it found something and with ExitUnreadable
+/// when the file cannot be opened as a store.
 [[nodiscard]] int runCommand(const QStringList &arguments, Console &console);

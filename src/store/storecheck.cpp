@@ -1,0 +1,149 @@
+#include "store/storecheck.h"
+
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/inspection.h"
+#include "platform/jet/recordset.h"
+#include "store/statement.h"
+#include "store/storefile.h"
+
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A column that holds the ids of another table.
+struct Relationship
+{
+    QLatin1StringView table;
+    QLatin1StringView column;
+    QLatin1StringView target;
+    QLatin1StringView id;
+};
+
+constexpr Relationship relationships[] = {
+    {"Tbl_GlobalGroupsUsers"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1, "ID"_L1},
+    {"Tbl_GlobalGroupsUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_LocalGroupsUsers"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1, "ID"_L1},
+    {"Tbl_LocalGroupsUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_LocalGroupsGlobalGroups"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1, "ID"_L1},
+    {"Tbl_LocalGroupsGlobalGroups"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1, "ID"_L1},
+    {"Tbl_UserFolderPermission"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_UserFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1, "ID"_L1},
+    {"Tbl_LocalGroupFolderPermission"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1, "ID"_L1},
+    {"Tbl_LocalGroupFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1, "ID"_L1},
+    {"Tbl_GlobalGroupFolderPermission"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1, "ID"_L1},
+    {"Tbl_GlobalGroupFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1, "ID"_L1},
+    {"Tbl_UserHW"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_UserHW"_L1, "HWID"_L1, "Tbl_HW"_L1, "ID"_L1},
+    {"Tbl_RoomHW"_L1, "RoomID"_L1, "Tbl_Rooms"_L1, "ID"_L1},
+    {"Tbl_RoomHW"_L1, "HWID"_L1, "Tbl_HW"_L1, "ID"_L1},
+    {"Tbl_RoomUsers"_L1, "RoomID"_L1, "Tbl_Rooms"_L1, "ID"_L1},
+    {"Tbl_RoomUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
+    {"Tbl_SWHW"_L1, "SWID"_L1, "Tbl_SW"_L1, "ID"_L1},
+    {"Tbl_SWHW"_L1, "HWID"_L1, "Tbl_HW"_L1, "ID"_L1},
+    {"Tbl_HW"_L1, "HWTypeID"_L1, "Tbl_HWType"_L1, "ID"_L1},
+};
+
+/// By name without regard to case; null when there is none.
+template <typename Named>
+const Named *named(const std::vector<Named> &all, QStringView name)
+{
+    for (const Named &candidate : all) {
+        if (name.compare(candidate.name, Qt::CaseInsensitive) == 0)
+            return &candidate;
+    }
+    return nullptr;
+}
+
+/// The tables of a new store.
+std::vector<jet::StoredTable> expectedTables()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"new.mdb"_s);
+    createStore(path);
+    jet::Connection connection;
+    connection.open(jet::connectionString(path));
+    return jet::storedTables(connection);
+}
+
+void compareParts(QLatin1StringView kind, const QString &table, const std::vector<jet::StoredPart> &expected,
+                  const std::vector<jet::StoredPart> &found, QStringList &findings)
+{
+    for (const jet::StoredPart &part : expected) {
+        const QString start = kind + u' ' + part.name + " of table "_L1 + table;
+        const jet::StoredPart *const twin = named(found, part.name);
+        if (twin == nullptr)
+            findings.append(start + " is missing."_L1);
+        else if (twin->definition.compare(part.definition, Qt::CaseInsensitive) != 0)
+            findings.append(start + " is "_L1 + twin->definition + ", not "_L1 + part.definition + u'.');
+    }
+}
+
+void compareTables(const std::vector<jet::StoredTable> &found, QStringList &findings)
+{
+    for (const jet::StoredTable &table : expectedTables()) {
+        const jet::StoredTable *const twin = named(found, table.name);
+        if (twin == nullptr) {
+            findings.append("Table "_L1 + table.name + " is missing."_L1);
+            continue;
+        }
+        compareParts("Column"_L1, table.name, table.columns, twin->columns, findings);
+        compareParts("Index"_L1, table.name, table.indexes, twin->indexes, findings);
+    }
+}
+
+bool has(const std::vector<jet::StoredTable> &tables, QLatin1StringView table, QLatin1StringView column)
+{
+    const jet::StoredTable *const found = named(tables, QString(table));
+    return found != nullptr && named(found->columns, QString(column)) != nullptr;
+}
+
+void countLooseRows(jet::Connection &connection, const Relationship &relationship, QStringList &findings)
+{
+    jet::Recordset result;
+    result.open(joined("SELECT Count(*) FROM {table} LEFT JOIN {target} ON {table}.{column} = {target}.{id} "
+                       "WHERE {target}.{id} Is Null AND {table}.{column} Is Not Null"_L1,
+                       {{"table"_L1, QString(relationship.table)},
+                        {"column"_L1, QString(relationship.column)},
+                        {"target"_L1, QString(relationship.target)},
+                        {"id"_L1, QString(relationship.id)}}),
+                connection);
+    const qint64 count = result.value(0).toInteger();
+    if (count == 0)
+        return;
+    findings.append("Table "_L1 + relationship.table + ": "_L1 + QString::number(count) +
+                    (count == 1 ? " row has a "_L1 : " rows have a "_L1) + relationship.column +
+                    " that is not in "_L1 + relationship.target + u'.');
+}
+
+} // namespace
+
+QStringList checkStore(const QString &path)
+{
+    jet::Connection connection;
+    connection.open(jet::connectionString(path));
+    QStringList findings;
+    for (const QString &place : jet::brokenPlaces(connection))
+        findings.append("The file is damaged: "_L1 + place);
+    std::vector<jet::StoredTable> tables;
+    try {
+        tables = jet::storedTables(connection);
+    } catch (const Error &error) {
+        findings.append("The list of tables cannot be read: "_L1 + error.description());
+        return findings;
+    }
+    compareTables(tables, findings);
+    for (const Relationship &relationship : relationships) {
+        if (!has(tables, relationship.table, relationship.column) ||
+            !has(tables, relationship.target, relationship.id))
+            continue; // told already
+        try {
+            countLooseRows(connection, relationship, findings);
+        } catch (const Error &error) {
+            findings.append("Table "_L1 + relationship.table + " cannot be read: "_L1 + error.description());
+        }
+    }
+    return findings;
+}

@@ -1,0 +1,185 @@
+#include "store/storecheck.h"
+
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/errors.h"
+#include "platform/jet/inspection.h"
+#include "platform/jet/sqlitesetup.h"
+#include "store/sampledata.h"
+#include "support/freshstore.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Change
+{
+    const char *name;
+    /// Run on the file by SQLite, past the dialect.
+    const char *sql;
+    QStringList findings;
+};
+
+const Change changes[] = {
+    {"None", "", {}},
+    {"MoreThanANewStoreHas",
+     "CREATE TABLE Tbl_Mine (A); ALTER TABLE Tbl_Rooms ADD COLUMN Mine TEXT; CREATE INDEX IDX_Mine ON "
+     "Tbl_Rooms (Mine)",
+     {}},
+    {"MissingTables",
+     "DROP TABLE Tbl_Rooms; DROP TABLE Tbl_CustomQuery",
+     {u"Table Tbl_CustomQuery is missing."_s, u"Table Tbl_Rooms is missing."_s}},
+    {"MissingColumn",
+     "ALTER TABLE Tbl_Rooms DROP COLUMN Description",
+     {u"Column Description of table Tbl_Rooms is missing."_s}},
+    {"MissingIndex", "DROP INDEX IDX_SWHW_HWID", {u"Index IDX_SWHW_HWID of table Tbl_SWHW is missing."_s}},
+    {"IndexOfOtherColumns",
+     "DROP INDEX IDX_Users_Account; CREATE INDEX IDX_Users_Account ON Tbl_Users (UserName)",
+     {u"Index IDX_Users_Account of table Tbl_Users is (UserName), not (UserName, ServerName)."_s}},
+    {"UniqueIndex",
+     "DROP INDEX IDX_Rooms_RoomNumber; CREATE UNIQUE INDEX IDX_Rooms_RoomNumber ON Tbl_Rooms (RoomNumber)",
+     {u"Index IDX_Rooms_RoomNumber of table Tbl_Rooms is UNIQUE (RoomNumber), not (RoomNumber)."_s}},
+    {"WrongTypes",
+     "DROP TABLE Tbl_Folders; CREATE TABLE tbl_folders (ID INTEGER PRIMARY KEY, FolderName TEXT, Description "
+     "LONG);"
+     "CREATE INDEX IDX_Folders_FolderName ON tbl_folders (FolderName)",
+     {u"Column ID of table Tbl_Folders is INTEGER PRIMARY KEY, not COUNTER."_s,
+      u"Column FolderName of table Tbl_Folders is TEXT COLLATE BINARY, not TEXT."_s,
+      u"Column Description of table Tbl_Folders is LONG, not TEXT."_s}},
+    {"NullAllowed",
+     "DROP TABLE Tbl_UserHW; CREATE TABLE Tbl_UserHW (UserID LONG, HWID LONG NOT NULL);"
+     "CREATE INDEX IDX_UserHW_UserID ON Tbl_UserHW (UserID, HWID);"
+     "CREATE INDEX IDX_UserHW_HWID ON Tbl_UserHW (HWID, UserID)",
+     {u"Column UserID of table Tbl_UserHW is LONG, not LONG NOT NULL."_s}},
+    {"LooseRows",
+     "INSERT INTO Tbl_Rooms (ID) VALUES (1); INSERT INTO Tbl_Users (UserID) VALUES (5);"
+     "INSERT INTO Tbl_RoomUsers VALUES (1, 5), (1, 6), (1, 7), (2, 5)",
+     {u"Table Tbl_RoomUsers: 1 row has a RoomID that is not in Tbl_Rooms."_s,
+      u"Table Tbl_RoomUsers: 2 rows have a UserID that is not in Tbl_Users."_s}},
+    {"HardwareOfNoType",
+     "INSERT INTO Tbl_HW (HWTypeID) VALUES (NULL), (4)",
+     {u"Table Tbl_HW: 1 row has a HWTypeID that is not in Tbl_HWType."_s}},
+    // The index is left as it is and said to be of another column: its rows are wrong now.
+    {"IndexOutOfStep",
+     "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('12'); PRAGMA writable_schema = ON;"
+     "UPDATE sqlite_schema SET sql = replace(sql, 'RoomNumber\")', 'Description\")') WHERE name = "
+     "'IDX_Rooms_RoomNumber'",
+     {u"The file is damaged: row 1 missing from index IDX_Rooms_RoomNumber"_s,
+      u"Index IDX_Rooms_RoomNumber of table Tbl_Rooms is (Description), not (RoomNumber)."_s}},
+};
+
+void runPastTheDialect(const QString &path, const char *sql)
+{
+    sqlite3 *handle = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &handle);
+    jet::registerDialect(handle);
+    char *message = nullptr;
+    EXPECT_EQ(sqlite3_exec(handle, sql, nullptr, nullptr, &message), SQLITE_OK) << message;
+    sqlite3_free(message);
+    sqlite3_close(handle);
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class StoreCheckTest : public testing::TestWithParam<Change>
+{
+};
+
+} // namespace
+
+TEST_P(StoreCheckTest, TellsEachDifferenceAndChangesNothing)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    makeFreshStore(path);
+    runPastTheDialect(path, GetParam().sql);
+    const QByteArray before = contentOf(path);
+
+    const QStringList findings = checkStore(path);
+
+    EXPECT_EQ(findings.join(u'\n').toStdString(), GetParam().findings.join(u'\n').toStdString());
+    EXPECT_EQ(contentOf(path), before);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"plan.mdb"_s});
+}
+
+INSTANTIATE_TEST_SUITE_P(Changes, StoreCheckTest, testing::ValuesIn(changes),
+                         [](const auto &info) { return std::string(info.param.name); });
+
+TEST(StoreCheck, FindsASampleStoreInOrder)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("sample.mdb"_L1);
+    createSampleStore(path, 200);
+    EXPECT_EQ(checkStore(path).join(u'\n').toStdString(), "");
+}
+
+TEST(StoreCheck, KnowsEveryRelationshipOfTheSchema)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    makeFreshStore(path);
+    QStringList expected;
+    {
+        jet::Connection connection;
+        connection.open(jet::connectionString(path));
+        for (const jet::StoredTable &table : jet::storedTables(connection)) {
+            const auto isId = [](const jet::StoredPart &column) {
+                return column.name.endsWith("ID"_L1) && column.definition == "LONG NOT NULL"_L1;
+            };
+            if (table.columns.size() < 2 || !isId(table.columns[0]) || !isId(table.columns[1]))
+                continue;
+            connection.execute("INSERT INTO "_L1 + table.name + " ("_L1 + table.columns[0].name + u',' +
+                               table.columns[1].name + ") VALUES (7, 8)"_L1);
+            expected.append(table.name + u' ' + table.columns[0].name);
+            expected.append(table.name + u' ' + table.columns[1].name);
+        }
+    }
+    ASSERT_GE(expected.size(), 20);
+    QStringList told;
+    for (const QString &finding : checkStore(path))
+        told.append(finding.section(u' ', 1, 1).chopped(1) + u' ' + finding.section(u' ', 6, 6));
+    told.sort();
+    expected.sort();
+    EXPECT_EQ(told.join(u'\n').toStdString(), expected.join(u'\n').toStdString());
+}
+
+TEST(StoreCheck, NamesBrokenPagesAndGoesOn)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    createSampleStore(path, 200);
+    QByteArray content = contentOf(path);
+    constexpr qsizetype page = 4096;
+    // The last page is a leaf with rows of some table or index.
+    content.replace(content.size() - page, page, QByteArray(page, '\xA5'));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    const QStringList findings = checkStore(path);
+    ASSERT_FALSE(findings.isEmpty());
+    EXPECT_TRUE(findings[0].startsWith("The file is damaged: "_L1)) << findings[0].toStdString();
+    EXPECT_TRUE(findings.filter(u"is missing"_s).isEmpty()) << findings.join(u'\n').toStdString();
+}
+
+TEST(StoreCheck, RefusesWhatIsNoStore)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    try {
+        (void)checkStore(path);
+        FAIL() << "a missing store was found in order";
+    } catch (const Error &error) {
+        EXPECT_EQ(error.number(), jet::Failure);
+        EXPECT_TRUE(error.description().contains("plan.mdb"_L1)) << error.what();
+    }
+}
