@@ -3,7 +3,7 @@
 #include "session/modRegistry.h"
 #include "shelltest.h"
 #include "store/clsUsers.h"
-#include "workstation.h"
+#include "support/workstation.h"
 
 #include <QFile>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "folders/clsFolders.h"
-#include "storetest.h"
+#include "store/storetest.h"
 
 class FoldersTest : public StoreTest
 {

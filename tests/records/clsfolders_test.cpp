@@ -1,4 +1,4 @@
-#include "clsfolderstest.h"
+#include "folderstest.h"
 #include "platform/jet/errors.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 #include "session/modRegistry.h"
 #include "session/modServers.h"
 #include "support/storetest.h"
-#include "workstation.h"
+#include "support/workstation.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class SessionTest : public FolderTest
+class ServersTest : public FolderTest
 {
 protected:
     void TearDown() override
@@ -21,7 +21,7 @@ protected:
 
 } // namespace
 
-TEST_F(SessionTest, ADomainUserHasDomainComputerAndController)
+TEST_F(ServersTest, ADomainUserHasDomainComputerAndController)
 {
     net::installApi(std::make_unique<Workstation>(u"HEADOFFICE"_s, u"\\\\CENTRAL"_s));
     modRegistry::saveDefaultDC(u"BACKUP"_s);
@@ -32,7 +32,7 @@ TEST_F(SessionTest, ADomainUserHasDomainComputerAndController)
     EXPECT_EQ(modServers::getServerName(), u"CENTRAL"_s);
 }
 
-TEST_F(SessionTest, WithoutAControllerTheDefaultStandsIn)
+TEST_F(ServersTest, WithoutAControllerTheDefaultStandsIn)
 {
     net::installApi(std::make_unique<Workstation>(u"PC7"_s, QString()));
     modServers::resolveSession();
@@ -43,7 +43,7 @@ TEST_F(SessionTest, WithoutAControllerTheDefaultStandsIn)
     EXPECT_EQ(modServers::getServerName(), u"BACKUP"_s);
 }
 
-TEST_F(SessionTest, WithoutANetworkNothingIsKnownAnyMore)
+TEST_F(ServersTest, WithoutANetworkNothingIsKnownAnyMore)
 {
     net::installApi(std::make_unique<Workstation>(u"HEADOFFICE"_s, u"\\\\CENTRAL"_s));
     modServers::resolveSession();
