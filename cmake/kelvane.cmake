@@ -12,8 +12,8 @@ if(KELVANE_FUZZ)
   target_link_options(kelvane_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# kelvane_library(NAME [WIDGETS] FOLDERS folder... ): a static library of all
-# sources of the folders below src, with its precompiled Qt headers.
+# kelvane_library(NAME [WIDGETS] SOURCES file... LINK target...): a static library that includes from
+# src, with its precompiled Qt headers.
 function(kelvane_library name)
   cmake_parse_arguments(arg "WIDGETS" "" "SOURCES;LINK" ${ARGN})
   add_library(${name} STATIC ${arg_SOURCES})
