@@ -4,8 +4,8 @@
 #include "platform/jet/connection.h"
 #include "platform/jet/recordset.h"
 #include "store/clsUsers.h"
-#include "support/freshstore.h"
 #include "store/storesession.h"
+#include "support/freshstore.h"
 
 #include <QTemporaryDir>
 

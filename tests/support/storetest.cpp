@@ -4,8 +4,8 @@
 #include "platform/jet/recordset.h"
 #include "platform/settings/settings.h"
 #include "session/modRegistry.h"
-#include "support/freshstore.h"
 #include "store/storesession.h"
+#include "support/freshstore.h"
 
 using namespace Qt::StringLiterals;
 
