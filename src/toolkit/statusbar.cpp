@@ -15,6 +15,17 @@ namespace {
 constexpr int pictureSize = 16;
 constexpr int spacing = 4;
 constexpr int indexOutOfBounds = 35600;
+constexpr int narrowest = 76; // percent
+constexpr int narrowing = 3;
+
+/// The font, drawn narrower where that makes the text fit, or as narrow as can be read.
+QFont fitted(QFont font, const QString &text, int room)
+{
+    const auto fits = [&] { return QFontMetrics(font).horizontalAdvance(text) <= room; };
+    for (int stretch = 100; stretch > narrowest && !fits(); stretch -= narrowing)
+        font.setStretch(stretch - narrowing);
+    return font;
+}
 } // namespace
 
 class StatusBar::Panel final : public QFrame
@@ -54,8 +65,9 @@ protected:
         }
         // Of a path the end is what tells.
         const bool isPath = text.contains(u'/') || text.contains(u'\\');
+        painter.setFont(fitted(font(), text, room.width()));
         const QString shown =
-            fontMetrics().elidedText(text, isPath ? Qt::ElideMiddle : Qt::ElideRight, room.width());
+            painter.fontMetrics().elidedText(text, isPath ? Qt::ElideMiddle : Qt::ElideRight, room.width());
         style()->drawItemText(&painter, room, Qt::AlignLeading | Qt::AlignVCenter, palette(), isEnabled(),
                               shown, QPalette::WindowText);
     }

@@ -127,6 +127,27 @@ TEST(StatusBarTest, ALongTextNeverWidensTheWindow)
     EXPECT_EQ(panel->toolTip(), u""_s);
 }
 
+TEST(StatusBarTest, ATextThatNearlyFitsIsDrawnWhole)
+{
+    StatusBar bar(1);
+    bar.resize(220, 24);
+    bar.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&bar));
+    auto *panel = find<QWidget>(u"panel1"_s, &bar);
+    QString text;
+    while (bar.fontMetrics().horizontalAdvance(text) < panel->width() * 11 / 10)
+        text += u'H';
+    // The upper half of the end: empty above the dots of a text that is cut off.
+    const QRect end(panel->width() - 16, 3, 10, panel->height() / 2 - 3);
+    const auto inkAtTheEnd = [&](const QString &shown) {
+        bar.setPanelText(1, shown);
+        const QImage picture = panel->grab(end).toImage();
+        return visiblePixels(picture, panel->palette().color(QPalette::Window));
+    };
+    EXPECT_GT(inkAtTheEnd(text), 0);
+    EXPECT_EQ(inkAtTheEnd(text + text), 0);
+}
+
 TEST(BannerTest, PictureTitleAndTheMarkOfTheLiveSystem)
 {
     Banner plain;
