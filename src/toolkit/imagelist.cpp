@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 // A linker leaves out what only registers itself, so the library asks for its pictures.
 static void registerPictures()
 {
-    Q_INIT_RESOURCE(resources);
+    Q_INIT_RESOURCE(kelvane);
 }
 
 ImageList::ImageList(const QString &folder, int count, int size) : m_size(size)
@@ -22,6 +22,14 @@ const QIcon &ImageList::icon(int number) const
 {
     static const QIcon none;
     return number >= 1 && number <= count() ? m_icons[std::size_t(number) - 1] : none;
+}
+
+QIcon ImageList::iconOnPlate(int number) const
+{
+    QIcon plated;
+    for (const int scale : {1, 2, 3, 4})
+        plated.addPixmap(icon(number).pixmap(m_size / 2 * scale, QIcon::Selected));
+    return plated;
 }
 
 QPixmap ImageList::pixmap(int number, qreal devicePixelRatio) const

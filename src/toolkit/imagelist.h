@@ -16,6 +16,8 @@ public:
     ImageList(const QString &folder, int count, int size);
 
     [[nodiscard]] const QIcon &icon(int number) const;
+    /// On the light plate of selected rows: for a ground of any colour.
+    [[nodiscard]] QIcon iconOnPlate(int number) const;
     [[nodiscard]] QPixmap pixmap(int number, qreal devicePixelRatio) const;
     [[nodiscard]] QSize imageSize() const { return {m_size, m_size}; }
     [[nodiscard]] int count() const { return int(m_icons.size()); }

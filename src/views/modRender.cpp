@@ -122,7 +122,7 @@ void modRender::renderContext(frmDisplay &view, QStringView mode)
 {
     const DisplayMode &look = displayMode(mode);
     view.picLogoContainer->setPicture(look.bannerPicture);
-    view.setWindowIcon(imageLists().ImageListContext.icon(look.bannerPicture));
+    view.setWindowIcon(imageLists().ImageListContext.iconOnPlate(look.bannerPicture));
     if (look.family == ModeFamily::None)
         return;
 
