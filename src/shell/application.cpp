@@ -56,7 +56,7 @@ void showStartWindow()
 
 void resolveNetwork()
 {
-    modServers::resolveSession();
+    attempt(modServers::resolveSession);
     if (modServers::DomainName.isEmpty())
         messageBox(u"Warning! The Domain Name could not be resolved."_s, box::WarningIcon);
     if (modServers::PDCName.isEmpty())
@@ -91,7 +91,7 @@ void Main()
 
     attempt(showStartWindow);
     attempt(yieldToEvents);
-    attempt(resolveNetwork);
+    resolveNetwork();
     attempt(yieldToEvents);
     testStore();
     mainForm().show();

@@ -13,13 +13,13 @@
 #include "toolkit/messagebox.h"
 #include "toolkit/statusbar.h"
 
+#include <QActionEvent>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScreen>
-#include <QStyle>
 #include <QToolBar>
 
 #include <algorithm>
@@ -34,6 +34,28 @@ constexpr int statusPanelCharacters = 36;
 constexpr int serverPanelCharacters = 44;
 constexpr int livePicture = 1;
 constexpr int databasePicture = 2;
+constexpr int areaDarkness = 115; // percent of the window's colour
+
+/// Takes no room while none of its buttons shows.
+class CommandBar final : public QToolBar
+{
+public:
+    explicit CommandBar(const QString &title) : QToolBar(title) { fit(); }
+
+protected:
+    void actionEvent(QActionEvent *event) override
+    {
+        QToolBar::actionEvent(event);
+        fit();
+    }
+
+private:
+    void fit()
+    {
+        const bool hasButtons = std::ranges::any_of(actions(), &QAction::isVisible);
+        setMaximumHeight(hasButtons ? QWIDGETSIZE_MAX : 0);
+    }
+};
 
 } // namespace
 
@@ -79,6 +101,7 @@ frmMain::frmMain()
     StatusBar->setPanelWidth(ServerPanel, serverPanelCharacters * character);
     setStatusBar(StatusBar);
     showMenus();
+    paintArea();
 
     setStatusTarget(StatusBar, this);
     load();
@@ -94,13 +117,11 @@ frmMain::~frmMain()
 
 QToolBar *frmMain::addNamedToolbar(QLatin1StringView name, const QString &title)
 {
-    auto *bar = addToolBar(title);
+    auto *bar = new CommandBar(title);
+    addToolBar(bar);
     bar->setObjectName(name);
     bar->setMovable(false);
-    const QSize picture = imageLists().ImageListToolbar.imageSize();
-    bar->setIconSize(picture);
-    // A bar keeps its height without buttons, so that the views do not jump.
-    bar->setMinimumHeight(picture.height() + 2 * style()->pixelMetric(QStyle::PM_ButtonMargin));
+    bar->setIconSize(imageLists().ImageListToolbar.imageSize());
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     return bar;
 }
@@ -130,6 +151,19 @@ bool frmMain::event(QEvent *event)
     if (event->type() == QEvent::WindowActivate)
         guarded([this] { activate(); });
     return handled;
+}
+
+void frmMain::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        paintArea();
+}
+
+// The area would keep the palette that it was made under.
+void frmMain::paintArea()
+{
+    m_area->setBackground(palette().color(QPalette::Window).darker(areaDarkness));
 }
 
 void frmMain::activate()

@@ -42,6 +42,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -49,6 +50,7 @@ private:
     [[nodiscard]] QToolBar *addNamedToolbar(QLatin1StringView name, const QString &title);
     void load();
     void activate();
+    void paintArea();
     void fitStatusPanels();
     void showMenus();
 

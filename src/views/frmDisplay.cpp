@@ -218,7 +218,7 @@ void frmDisplay::unload()
     MainWindowLink *window = mainWindow();
     if (!window)
         return;
-    showOnlyToolbar(MainWindowLink::Toolbar::Main);
+    swapToolbars(MainWindowLink::Toolbar::Main, {MainWindowLink::Toolbar::Display});
     window->setWindowMenuShown(false);
     window->setTargetDisplay(nullptr);
     attempt([] { showStatusReady(); });

@@ -16,14 +16,28 @@ void setMainWindow(MainWindowLink *window)
     current = window;
 }
 
-void showOnlyToolbar(MainWindowLink::Toolbar which)
+using Toolbar = MainWindowLink::Toolbar;
+
+void showOnlyToolbar(Toolbar which)
 {
-    using Toolbar = MainWindowLink::Toolbar;
+    switch (which) {
+    case Toolbar::Main:
+        return swapToolbars(which, {Toolbar::Display, Toolbar::ModalDisplay});
+    case Toolbar::Display:
+        return swapToolbars(which, {Toolbar::Main, Toolbar::ModalDisplay});
+    case Toolbar::ModalDisplay:
+        return swapToolbars(which, {Toolbar::Main, Toolbar::Display});
+    }
+}
+
+void swapToolbars(Toolbar shown, std::initializer_list<Toolbar> hidden)
+{
     if (!current)
         return;
-    QWidget *window = current->toolbar(which).window();
+    QWidget *window = current->toolbar(shown).window();
     window->setUpdatesEnabled(false);
-    for (const Toolbar toolbar : {Toolbar::Main, Toolbar::Display, Toolbar::ModalDisplay})
-        current->toolbar(toolbar).setVisible(toolbar == which);
+    for (const Toolbar toolbar : hidden)
+        current->toolbar(toolbar).hide();
+    current->toolbar(shown).show();
     window->setUpdatesEnabled(true);
 }

@@ -2,6 +2,8 @@
 
 #include <QList>
 
+#include <initializer_list>
+
 class QMdiArea;
 class QMenu;
 class QToolBar;
@@ -41,3 +43,5 @@ void setMainWindow(MainWindowLink *window);
 
 /// Shows one toolbar of the main window and hides the other two, without a flicker between.
 void showOnlyToolbar(MainWindowLink::Toolbar which);
+/// The same for some of them; the others stay as they are.
+void swapToolbars(MainWindowLink::Toolbar shown, std::initializer_list<MainWindowLink::Toolbar> hidden);

@@ -114,9 +114,10 @@ TEST_F(MainWindowTest, TheLastEventDecidesWhichToolbarShows)
     EXPECT_EQ(toolbars(), u"D"_s) << "the other view came up";
     EXPECT_EQ(mainForm().targetDisplay(), first);
 
+    mainForm().ToolBarModalDisplay->show();
     first->close();
     settle();
-    EXPECT_EQ(toolbars(), u"M"_s);
+    EXPECT_EQ(toolbars(), u"MX"_s) << "a view leaves the modal list's toolbar alone";
     EXPECT_EQ(mainForm().targetDisplay(), nullptr);
 
     showOnlyToolbar(MainWindowLink::Toolbar::ModalDisplay);
@@ -236,6 +237,35 @@ TEST_F(MainWindowTest, TheSidebarFollowsTheSettingOnceItHasFrames)
     modRegistry::saveShowSideBar(false);
     window.prepareMainWindow();
     EXPECT_TRUE(window.picControlContainer->isHidden());
+}
+
+TEST_F(MainWindowTest, AToolbarWithoutButtonsTakesNoRoom)
+{
+    start();
+    QToolBar &bar = *mainForm().ToolBarDisplay;
+    const auto height = [&bar] {
+        settle();
+        return bar.height();
+    };
+    trigger(u"mnuShowAllUsers"_s);
+    EXPECT_EQ(height(), 0);
+    QAction *button = bar.addAction(u"Rooms"_s);
+    EXPECT_GE(height(), bar.iconSize().height());
+    button->setVisible(false);
+    EXPECT_EQ(height(), 0);
+}
+
+TEST_F(MainWindowTest, TheAreaFollowsThePalette)
+{
+    frmMain &window = start();
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(0x2b, 0x2d, 0x30), QColor(0x23, 0x25, 0x28)));
+    settle();
+    const int dark = window.mdiArea().background().color().lightness();
+    QApplication::setPalette(before);
+    settle();
+    EXPECT_LT(dark, 0x28);
+    EXPECT_GT(window.mdiArea().background().color().lightness(), 0xc0);
 }
 
 TEST_F(MainWindowTest, TheStorePanelTakesTheRoomThatIsLeft)
