@@ -5,12 +5,14 @@
 #include "messages/guard.h"
 #include "toolkit/banner.h"
 #include "toolkit/commondialog.h"
+#include "toolkit/imagelist.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QScopeGuard>
 
@@ -18,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int importPicture = 10; // of ImageListContext
+constexpr int databasePicture = 2; // of ImageListDataContext
 constexpr int fieldWidthInCharacters = 56;
 
 template <typename Widget>
@@ -53,7 +55,7 @@ frmImport::frmImport(QWidget *owner)
     setObjectName("frmImport"_L1);
     setWindowTitle(u"Import from File"_s);
     LblInfo->setText(u"Import Data From File"_s);
-    picLogoContainer->setPicture(importPicture);
+    picLogoContainer->setPicture(imageLists().ImageListDataContext, databasePicture);
     cmdInfo->setToolTip(u"Shows the format of the file"_s);
     arrange();
 
@@ -73,8 +75,12 @@ void frmImport::OK()
 {
     if (m_running)
         return;
+    const QPointer<QWidget> focused = focusWidget();
     setResting(true);
-    const auto wake = qScopeGuard([this] { setResting(false); });
+    const auto wake = qScopeGuard([this, focused] {
+        setResting(false);
+        (focused ? focused.data() : cmdOK)->setFocus();
+    });
     modImport::startImport(cboImportType->currentText(), txtFileName->text());
 }
 
@@ -123,6 +129,4 @@ void frmImport::setResting(bool resting)
     Frame1->setEnabled(!resting);
     cmdOK->setEnabled(!resting);
     cmdCancel->setEnabled(!resting);
-    if (!resting)
-        cmdOK->setFocus();
 }

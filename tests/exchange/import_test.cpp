@@ -269,6 +269,22 @@ TEST_F(ImportTest, ManyLinesAreImportedAndTheWindowLives)
     EXPECT_EQ(column(u"SELECT MAX(UserID) FROM Tbl_Users"_s), QStringList{QString::number(count)});
 }
 
+TEST_F(ImportTest, ARefusedNameCanBeCorrectedAtOnce)
+{
+    expectBox(u"The File you specified could not be found"_s, box::WarningIcon);
+    whenShown<frmImport>([&](frmImport &dialog) {
+        dialog.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        EXPECT_EQ(dialog.focusWidget(), dialog.cboImportType);
+        dialog.txtFileName->setFocus();
+        QTest::keyClicks(dialog.txtFileName, path(u"missing.txt"_s));
+        QTest::keyClick(dialog.txtFileName, Qt::Key_Return);
+        EXPECT_EQ(dialog.focusWidget(), dialog.txtFileName);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+    });
+    modImport::showImport(nullptr);
+}
+
 TEST_F(ImportTest, TheOtherButtons)
 {
     const QString file = write("a;b\n");
