@@ -81,6 +81,7 @@ void frmResult::Save()
     }
     // Written beside and renamed, so that a full disk leaves the old file.
     QSaveFile file(name);
+    file.setDirectWriteFallback(true); // in a folder where nothing can be added
     if (file.open(QIODevice::WriteOnly)) {
         file.write(resultText().toUtf8());
         file.commit();
