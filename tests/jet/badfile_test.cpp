@@ -115,14 +115,31 @@ TEST_P(BadFileTest, IsRefusedByNameAndLeftAlone)
 INSTANTIATE_TEST_SUITE_P(Files, BadFileTest, testing::ValuesIn(badFiles),
                          [](const auto &info) { return std::string(info.param.name); });
 
-TEST(ReadOnlyStore, IsReadAndRefusesWrites)
+namespace {
+
+constexpr QFile::Permissions readable = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+constexpr QFile::Permissions writable = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+
+struct ReadOnly
+{
+    const char *name;
+    QFile::Permissions ofFile;
+};
+
+class ReadOnlyTest : public testing::TestWithParam<ReadOnly>
+{
+};
+
+} // namespace
+
+// Without a place for a journal a writable file is as good as a read-only one.
+TEST_P(ReadOnlyTest, IsReadAndRefusesWrites)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("plan.mdb"_L1);
     createStore(path);
     const QByteArray before = contentOf(path);
-    const QFile::Permissions readable = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
-    QFile::setPermissions(path, readable);
+    QFile::setPermissions(path, GetParam().ofFile);
     QFile::setPermissions(folder.path(), readable | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
 
     // Permission bits do not bind the superuser, so the question is asked as nobody.
@@ -154,3 +171,8 @@ TEST(ReadOnlyStore, IsReadAndRefusesWrites)
     EXPECT_EQ(WEXITSTATUS(status), 0) << (WEXITSTATUS(status) == 3 ? "the write went through" : "");
     EXPECT_EQ(contentOf(path), before);
 }
+
+INSTANTIATE_TEST_SUITE_P(Folders, ReadOnlyTest,
+                         testing::Values(ReadOnly{"FileAndFolder", readable},
+                                         ReadOnly{"FolderAlone", readable | writable}),
+                         [](const auto &info) { return std::string(info.param.name); });
