@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int widthInCharacters = 90;
+constexpr int widthInCharacters = 120;
 constexpr int heightInLines = 26;
 constexpr int textPicture = 12;
 

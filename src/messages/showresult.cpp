@@ -5,6 +5,9 @@
 
 #include <QDialog>
 #include <QPointer>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,14 +31,29 @@ void giveTo(QPointer<frmResult> window, QWidget *owner)
         Qt::SingleShotConnection);
 }
 
+// Over what it belongs to, and once only: after that it stays where the user puts it.
+void place(QWidget &window, const QWidget *owner)
+{
+    if (!owner)
+        return;
+    QRect at(QPoint(), window.size());
+    at.moveCenter(owner->window()->geometry().center());
+    const QRect room = owner->screen()->availableGeometry();
+    window.move(std::max(room.left(), std::min(at.left(), room.right() - at.width())),
+                std::max(room.top(), std::min(at.top(), room.bottom() - at.height())));
+}
+
 } // namespace
 
 void showResult(const QString &text, const QString &title)
 {
     static QPointer<frmResult> window;
-    if (!window)
+    const bool isNew = !window;
+    if (isNew)
         window = new frmResult;
     giveTo(window, ownerOfNewWindows());
+    if (isNew)
+        place(*window, window->parentWidget());
     window->setResult(text, title);
     window->show();
     window->raise();

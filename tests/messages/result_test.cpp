@@ -1,5 +1,6 @@
 #include "messages/frmResult.h"
 #include "messages/showresult.h"
+#include "messages/status.h"
 #include "support/windowtest.h"
 
 #include <QDialog>
@@ -7,6 +8,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +79,24 @@ TEST_F(ResultTest, ShowsTextAndTitleModeless)
     trigger(u"mnuExit"_s);
     settle();
     EXPECT_TRUE(findAll<frmResult>(u"frmResult"_s).isEmpty());
+}
+
+TEST_F(ResultTest, AppearsOverItsOwnerAndStaysWhereItIsPut)
+{
+    QWidget owner;
+    owner.setGeometry(300, 200, 200, 100);
+    setStatusTarget(nullptr, &owner);
+    frmResult *window = show(u"One"_s);
+    ASSERT_TRUE(window);
+    const QRect screen = window->screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(window->geometry().topLeft()));
+    EXPECT_TRUE(window->geometry().contains(owner.geometry().center()));
+    window->move(5, 7);
+    showResult(u"Two"_s, u"Other"_s);
+    EXPECT_EQ(window->pos(), QPoint(5, 7));
+    window->close();
+    settle();
+    setStatusTarget(nullptr, nullptr);
 }
 
 TEST_F(ResultTest, SavesTheBytesAsTheyAre)
