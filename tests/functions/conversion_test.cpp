@@ -1,6 +1,7 @@
 #include "platform/jet/functions.h"
 
 #include "base/value.h"
+#include "platform/jet/errortexts.h"
 #include "platform/jet/numbertext.h"
 #include "sqltest.h"
 
@@ -176,6 +177,6 @@ TEST(FindFunction, KnowsNamesInAnyCaseAndWithTheirDollar)
     EXPECT_EQ(jet::findFunction("Nz"), nullptr);
     EXPECT_EQ(jet::findFunction("DLookup"), nullptr);
     EXPECT_EQ(jet::findFunction(""), nullptr);
-    EXPECT_EQ(jet::nearestFunction("DateDif"), "DateDiff");
-    EXPECT_EQ(jet::nearestFunction("Frobnicate"), "");
+    EXPECT_EQ(jet::suggestion("DateDif", jet::functionNames()), " Did you mean 'DateDiff'?");
+    EXPECT_EQ(jet::suggestion("Frobnicate", jet::functionNames()), "");
 }

@@ -3,6 +3,7 @@
 #include "platform/jet/errortexts.h"
 #include "platform/jet/sqlite.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace jet {
@@ -88,6 +89,8 @@ const Table *Catalog::find(std::string_view name)
         raiseSqlite(m_handle, result);
     if (table->columns.empty())
         return nullptr;
+    const auto counts = [](const TableColumn &column) { return column.type.type == DataType::Counter; };
+    m_lastCounter.watch(table->name, std::ranges::any_of(table->columns, counts));
     return m_tables.emplace(key, std::move(table)).first->second.get();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/jet/lastcounter.h"
 #include "platform/jet/types.h"
 
 #include <memory>
@@ -32,7 +33,7 @@ struct Table
 class Catalog final
 {
 public:
-    explicit Catalog(sqlite3 *handle) : m_handle(handle) {}
+    explicit Catalog(sqlite3 *handle) : m_handle(handle), m_lastCounter(handle) {}
 
     /// Forgets what another program may have changed. Called before a statement is parsed.
     void refresh();
@@ -43,6 +44,7 @@ public:
 
 private:
     sqlite3 *m_handle;
+    LastCounter m_lastCounter;
     long long m_version = -1;
     std::unordered_map<std::string, std::unique_ptr<Table>> m_tables;
 };

@@ -50,6 +50,9 @@ private:
         bool condition = false; ///< SQLite's 1 and 0, not the dialect's -1 and 0
         bool column = false;    ///< a column, which carries its collation along
         bool exact = false;     ///< whole and within 32 bits
+        bool mayOverflow =
+            false;         ///< a calculation that SQLite lets end in infinity or outside of the calendar
+        char chain = '\0'; ///< '+' or '*': `sql` is a chain of these in parentheses
     };
     struct Output
     {
@@ -63,17 +66,32 @@ private:
         std::string sql;
         std::vector<OutputColumn> columns;
     };
+    /// Ends what would take too much stack or time.
+    class ComplexityGuard final
+    {
+    public:
+        explicit ComplexityGuard(Emitter &emitter);
+        ~ComplexityGuard() { --m_emitter.m_depth; }
+        ComplexityGuard(const ComplexityGuard &) = delete;
+        ComplexityGuard &operator=(const ComplexityGuard &) = delete;
+
+    private:
+        Emitter &m_emitter;
+    };
     enum class Aggregates { Forbidden, Allowed, Inside };
 
     // emitter_select.cpp
     Rows query(const Query &query, Scope *outer, bool numbered = false);
     Rows unionOf(const Query &query, Scope *outer, bool numbered);
+    static std::vector<OutputColumn> unionColumns(const std::vector<Rows> &arms);
+    static std::string converted(const Rows &arm, const std::vector<OutputColumn> &columns, bool numbered);
     Rows select(const Select &select, const std::vector<OrderItem> &order, Scope *outer, bool numbered);
     std::vector<Output> outputs(const Select &select, Scope &scope);
     void nameOutputs(std::vector<Output> &outputs) const;
     void checkGrouping(const Select &select, const std::vector<Output> &outputs,
                        const std::vector<OrderItem> &order, Scope &scope);
     void checkGrouped(const Expression &expression, const std::set<std::string> &keys, Scope &scope);
+    std::string groupsOf(const Select &select, Scope &scope);
     std::string orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
                          Scope &scope);
     std::string distinctRows(const Select &select, const Scope &scope) const;
@@ -93,19 +111,27 @@ private:
     Piece literal(const Expression &expression);
     Piece column(const Expression &expression, Scope &scope);
     Piece alias(const Expression &expression, Scope &scope);
-    Piece arithmetic(const Expression &expression, Scope &scope);
-    Piece joinTexts(const Expression &expression, Scope &scope);
-    Piece logic(const Expression &expression, Scope &scope);
+    std::string conditionIn(const Expression &source, Scope &scope);
     Piece compare(const Expression &expression, Scope &scope);
     Piece between(const Expression &expression, Scope &scope);
     Piece inList(const Expression &expression, Scope &scope);
-    Piece subquery(const Expression &expression, Scope &scope);
-    Piece quantified(const Expression &expression, Scope &scope);
-    Piece scalar(const Expression &expression, Scope &scope);
     std::string conditionOf(const Expression &expression, Scope &scope, std::string_view clause);
     [[noreturn]] void raiseUnknown(const Expression &expression, const Scope &scope) const;
     void requireComparable(const Expression &expression, const Piece &left, const Piece &right) const;
     std::string fingerprint(const Expression &expression, Scope &scope);
+
+    // emitter_operator.cpp
+    Piece arithmetic(const Expression &expression, Scope &scope);
+    Piece infix(std::string_view sign, const Piece &left, const Piece &right);
+    Piece joinTexts(const Expression &expression, Scope &scope);
+    Piece logic(const Expression &expression, Scope &scope);
+    std::string asBits(const Piece &piece);
+
+    // emitter_subquery.cpp
+    Rows singleColumn(const Expression &source, Scope &scope, bool numbered);
+    Piece subquery(const Expression &expression, Scope &scope);
+    Piece quantified(const Expression &expression, Scope &scope);
+    Piece scalar(const Expression &expression, Scope &scope);
 
     // emitter_call.cpp
     static bool isAggregate(const Expression &expression);
@@ -124,6 +150,7 @@ private:
     void write(const CreateIndex &index, EmittedStatement &result);
     void write(const DropTable &table, EmittedStatement &result);
     void write(const DropIndex &index, EmittedStatement &result);
+    std::string where(const ExpressionPtr &condition, Scope &scope);
     std::string coerced(const Piece &piece, const TableColumn &column);
     std::string insertedRows(const Insert &insert, std::vector<const TableColumn *> &columns,
                              const Table &table);
@@ -132,6 +159,9 @@ private:
     static std::string condition(const Piece &piece);
     static std::string collated(const Piece &piece);
     static std::string asText(const Piece &piece);
+    /// A text of whatever it is.
+    static std::string writtenOut(const Piece &piece);
+    static std::string as(DataType type, const Piece &piece);
     std::string asNumber(const Piece &piece);
     void pin(int literal);
 
@@ -142,6 +172,8 @@ private:
     bool m_literalsAsValues = false;
     bool m_mayRaise = false;
     int m_subqueries = 0;
+    int m_depth = 0;
+    int m_steps = 0;
     std::map<const Source *, std::string> m_derivedTables;
     std::vector<int> m_pinned;
 };

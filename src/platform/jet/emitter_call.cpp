@@ -2,6 +2,8 @@
 #include "platform/jet/errortexts.h"
 #include "platform/jet/functions.h"
 
+#include <algorithm>
+
 namespace jet {
 namespace {
 
@@ -16,17 +18,17 @@ struct AggregateRow
 };
 
 constexpr AggregateRow aggregates[] = {
-    {"COUNT", "COUNT", AggregateType::Count, false},
-    {"SUM", "SUM", AggregateType::Double, true},
-    {"AVG", "AVG", AggregateType::Double, true},
-    {"MIN", "MIN", AggregateType::SameAsArgument, false},
-    {"MAX", "MAX", AggregateType::SameAsArgument, false},
-    {"FIRST", "jet_first", AggregateType::SameAsArgument, false},
-    {"LAST", "jet_last", AggregateType::SameAsArgument, false},
-    {"STDEV", "jet_stdev", AggregateType::Double, true},
-    {"STDEVP", "jet_stdevp", AggregateType::Double, true},
-    {"VAR", "jet_var", AggregateType::Double, true},
-    {"VARP", "jet_varp", AggregateType::Double, true},
+    {"Count", "COUNT", AggregateType::Count, false},
+    {"Sum", "SUM", AggregateType::Double, true},
+    {"Avg", "AVG", AggregateType::Double, true},
+    {"Min", "MIN", AggregateType::SameAsArgument, false},
+    {"Max", "MAX", AggregateType::SameAsArgument, false},
+    {"First", "jet_first", AggregateType::SameAsArgument, false},
+    {"Last", "jet_last", AggregateType::SameAsArgument, false},
+    {"StDev", "jet_stdev", AggregateType::Double, true},
+    {"StDevP", "jet_stdevp", AggregateType::Double, true},
+    {"Var", "jet_var", AggregateType::Double, true},
+    {"VarP", "jet_varp", AggregateType::Double, true},
 };
 
 const AggregateRow *findAggregate(std::string_view name)
@@ -36,6 +38,30 @@ const AggregateRow *findAggregate(std::string_view name)
             return &row;
     }
     return nullptr;
+}
+
+// Functions that are no rows of the table.
+constexpr std::string_view branchings[] = {"IIf", "Choose", "Switch"};
+
+bool isBranching(std::string_view name)
+{
+    return std::ranges::any_of(branchings, [&](std::string_view word) { return sameWord(word, name); });
+}
+
+bool isCallOf(const Expression &source, std::string_view name)
+{
+    return source.kind == ExpressionKind::Call && sameWord(source.name, name);
+}
+
+[[noreturn]] void raiseUndefined(std::string_view name)
+{
+    std::vector<std::string_view> names = functionNames();
+    names.insert(names.end(), std::begin(branchings), std::end(branchings));
+    names.push_back("IsNull");
+    for (const AggregateRow &row : aggregates)
+        names.push_back(row.name);
+    raiseError(SyntaxError,
+               "Undefined function '" + std::string(name) + "' in expression." + suggestion(name, names));
 }
 
 [[noreturn]] void raiseArgumentCount(const Expression &source)
@@ -55,11 +81,9 @@ Emitter::Piece Emitter::call(const Expression &source, Scope &scope)
 {
     if (isAggregate(source))
         return aggregate(source, scope);
-    for (const std::string_view word : {"IIF", "CHOOSE", "SWITCH"}) {
-        if (sameWord(word, source.name))
-            return branches(source, scope);
-    }
-    if (sameWord(source.name, "ISNULL")) {
+    if (isBranching(source.name))
+        return branches(source, scope);
+    if (sameWord(source.name, "IsNull")) {
         if (source.arguments.size() != 1)
             raiseArgumentCount(source);
         return {.sql = '(' + value(expression(*source.arguments[0], scope)) + " IS NULL)",
@@ -73,10 +97,10 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
 {
     if (m_aggregates == Aggregates::Forbidden)
         raiseError(SyntaxError, "Cannot have aggregate function in " + std::string(m_clause) + " (" +
-                                    std::string(source.text) + ").");
+                                    excerpt(source.text) + ").");
     if (m_aggregates == Aggregates::Inside)
         raiseError(SyntaxError,
-                   "Cannot have aggregate function in expression (" + std::string(source.text) + ").");
+                   "Cannot have aggregate function in expression (" + excerpt(source.text) + ").");
     scope.hasAggregate = true;
     if (source.kind == ExpressionKind::CountRows)
         return {.sql = "COUNT(*)", .type = {DataType::Long}};
@@ -93,7 +117,7 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
     case AggregateType::Count:
         return {.sql = sql, .type = {DataType::Long}};
     case AggregateType::Double:
-        return {.sql = sql, .type = {DataType::Double}};
+        return {.sql = sql, .type = {DataType::Double}, .mayOverflow = true};
     case AggregateType::SameAsArgument:
         break;
     }
@@ -107,36 +131,40 @@ Emitter::Piece Emitter::branches(const Expression &source, Scope &scope)
 {
     const std::vector<ExpressionPtr> &arguments = source.arguments;
     const std::size_t count = arguments.size();
-    const bool choose = sameWord(source.name, "CHOOSE");
-    const bool iif = sameWord(source.name, "IIF");
+    const bool choose = isCallOf(source, "Choose");
+    const bool iif = isCallOf(source, "IIf");
     if (iif ? count != 3 : choose ? count < 2 : count == 0 || count % 2 != 0)
         raiseArgumentCount(source);
 
-    Piece result;
-    const auto branch = [&](const Expression &branch) {
-        const Piece piece = expression(branch, scope);
-        result.type = {commonType(result.type.type, piece.type.type)};
-        return value(piece);
-    };
-    const auto when = [&](const Expression &test) {
-        return " WHEN " + condition(expression(test, scope)) + " THEN ";
-    };
+    // What stands before each branch: WHEN with its condition, or ELSE.
     std::string sql = "CASE";
-    if (iif)
-        sql += when(*arguments[0]) + branch(*arguments[1]) + " ELSE " + branch(*arguments[2]);
-    else if (choose) {
+    std::vector<std::string> heads;
+    std::vector<Piece> pieces;
+    DataType type = DataType::Unknown;
+    const auto branch = [&](std::string head, const Expression &branch) {
+        heads.push_back(std::move(head));
+        pieces.push_back(expression(branch, scope));
+        type = commonType(type, pieces.back().type.type);
+    };
+    const auto when = [&](const Expression &test) { return " WHEN " + conditionIn(test, scope) + " THEN "; };
+    if (iif) {
+        // An IIf in the last place goes on with the same CASE.
+        const Expression *last = &source;
+        for (; isCallOf(*last, "IIf") && last->arguments.size() == 3; last = last->arguments[2].get())
+            branch(when(*last->arguments[0]), *last->arguments[1]);
+        branch(" ELSE ", *last);
+    } else if (choose) {
         m_mayRaise = true;
-        sql += " jet_tolong(" + value(expression(*arguments[0], scope)) + ')';
+        sql += " jet_clng(" + asNumber(expression(*arguments[0], scope)) + ')';
         for (std::size_t i = 1; i < count; ++i)
-            sql += " WHEN " + std::to_string(i) + " THEN " + branch(*arguments[i]);
+            branch(" WHEN " + std::to_string(i) + " THEN ", *arguments[i]);
     } else {
-        for (std::size_t i = 0; i < count; i += 2) {
-            sql += when(*arguments[i]);
-            sql += branch(*arguments[i + 1]);
-        }
+        for (std::size_t i = 0; i < count; i += 2)
+            branch(when(*arguments[i]), *arguments[i + 1]);
     }
-    result.sql = '(' + sql + " END)";
-    return result;
+    for (std::size_t i = 0; i < pieces.size(); ++i)
+        sql += heads[i] + as(type, pieces[i]);
+    return {.sql = '(' + sql + " END)", .type = {type}};
 }
 
 std::string Emitter::argument(const Piece &piece, char kind)
@@ -165,12 +193,8 @@ std::string Emitter::argument(const Piece &piece, char kind)
 Emitter::Piece Emitter::function(const Expression &source, Scope &scope)
 {
     const FunctionInfo *info = findFunction(source.name);
-    if (info == nullptr) {
-        const std::string_view nearest = nearestFunction(source.name);
-        raiseError(SyntaxError,
-                   "Undefined function '" + std::string(source.name) + "' in expression." +
-                       (nearest.empty() ? std::string() : " Did you mean '" + std::string(nearest) + "'?"));
-    }
+    if (info == nullptr)
+        raiseUndefined(source.name);
     const int count = static_cast<int>(source.arguments.size());
     if (count < info->minimum || (info->maximum >= 0 && count > info->maximum))
         raiseArgumentCount(source);
@@ -187,6 +211,8 @@ Emitter::Piece Emitter::function(const Expression &source, Scope &scope)
         list += (list.empty() ? "" : ", ") + argument(piece, kind);
     }
     result.sql = std::string(info->sqlite) + '(' + list + ')';
+    if (info->oncePerStatement)
+        result.sql = "(SELECT " + result.sql + ')';
     switch (info->result) {
     case ResultKind::Text:
         result.type = {DataType::Memo};
@@ -214,7 +240,9 @@ Emitter::Piece Emitter::function(const Expression &source, Scope &scope)
         result.type = {first};
         break;
     case ResultKind::Numeric:
-        result.type = {isWhole(first) ? DataType::Long : DataType::Double};
+        result.type = {!isWhole(first)           ? DataType::Double
+                       : first == DataType::Wide ? DataType::Wide
+                                                 : DataType::Long};
         break;
     }
     return result;

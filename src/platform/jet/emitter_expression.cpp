@@ -2,6 +2,7 @@
 #include "platform/jet/errortexts.h"
 
 #include <array>
+#include <utility>
 
 namespace jet {
 namespace {
@@ -25,14 +26,28 @@ std::string inlineLiteral(const Literal &literal)
 
 } // namespace
 
+Emitter::ComplexityGuard::ComplexityGuard(Emitter &emitter) : m_emitter(emitter)
+{
+    constexpr int deepest = 350;
+    constexpr int mostSteps = 2'000'000;
+    if (emitter.m_depth >= deepest || ++emitter.m_steps > mostSteps)
+        raiseError(SyntaxError, queryTooComplex);
+    ++emitter.m_depth;
+}
+
 std::string Emitter::value(const Piece &piece)
 {
-    return piece.condition ? "(-(" + piece.sql + "))" : piece.sql;
+    if (piece.condition)
+        return "(-(" + piece.sql + "))";
+    if (piece.mayOverflow)
+        return (piece.type.type == DataType::Date ? "jet_asdate(" : "jet_cdbl(") + piece.sql + ')';
+    return piece.sql;
 }
 
 std::string Emitter::condition(const Piece &piece)
 {
-    return piece.condition || piece.type.type == DataType::Boolean ? piece.sql : '(' + piece.sql + " <> 0)";
+    return piece.condition || piece.type.type == DataType::Boolean ? piece.sql
+                                                                   : '(' + value(piece) + " <> 0)";
 }
 
 std::string Emitter::collated(const Piece &piece)
@@ -44,10 +59,23 @@ std::string Emitter::collated(const Piece &piece)
 std::string Emitter::asText(const Piece &piece)
 {
     if (piece.type.type == DataType::Date)
-        return "jet_datetext(" + piece.sql + ')';
+        return "jet_datetext(" + value(piece) + ')';
     if (piece.type.type == DataType::Boolean)
         return "jet_booltext(" + value(piece) + ')';
     return value(piece);
+}
+
+std::string Emitter::writtenOut(const Piece &piece)
+{
+    const DataType type = piece.type.type;
+    return isText(type) || type == DataType::Date || type == DataType::Boolean
+               ? asText(piece)
+               : "jet_text(" + value(piece) + ')';
+}
+
+std::string Emitter::as(DataType type, const Piece &piece)
+{
+    return isText(type) && !isText(piece.type.type) ? writtenOut(piece) : value(piece);
 }
 
 std::string Emitter::asNumber(const Piece &piece)
@@ -65,10 +93,11 @@ void Emitter::pin(int literal)
 
 std::string Emitter::fingerprint(const Expression &source, Scope &scope)
 {
-    const bool before = m_literalsAsValues;
-    m_literalsAsValues = true;
+    const bool before = std::exchange(m_literalsAsValues, true);
+    const int subqueries = std::exchange(m_subqueries, 0);
     std::string result = expression(source, scope).sql;
     m_literalsAsValues = before;
+    m_subqueries = subqueries;
     return result;
 }
 
@@ -78,16 +107,24 @@ std::string Emitter::conditionOf(const Expression &source, Scope &scope, std::st
     const std::string_view outerClause = m_clause;
     m_aggregates = clause == "HAVING clause" ? Aggregates::Allowed : Aggregates::Forbidden;
     m_clause = clause;
-    const Piece piece = expression(source, scope);
+    std::string sql = conditionIn(source, scope);
     m_aggregates = aggregates;
     m_clause = outerClause;
+    return sql;
+}
+
+std::string Emitter::conditionIn(const Expression &source, Scope &scope)
+{
+    const Piece piece = expression(source, scope);
     if (isText(piece.type.type))
-        raiseTypeMismatch(source.text, "a condition", "a text");
+        raiseError(TypeMismatch, "Data type mismatch in criteria expression. '" + excerpt(source.text) +
+                                     "' is a text, not a condition.");
     return condition(piece);
 }
 
 Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
 {
+    const ComplexityGuard guard(*this);
     switch (source.kind) {
     case ExpressionKind::Literal:
         return literal(source);
@@ -98,19 +135,19 @@ Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
     case ExpressionKind::Column:
         return column(source, scope);
     case ExpressionKind::Identity:
-        return {.sql = "last_insert_rowid()", .type = {DataType::Long}};
+        return {.sql = "jet_identity()", .type = {DataType::Long}};
     case ExpressionKind::Negate: {
         const Piece operand = expression(*source.arguments[0], scope);
         const DataType type = isNumber(operand.type.type) ? operand.type.type : DataType::Double;
         return {.sql = "(-" + asNumber(operand) + ')',
                 .type = {type == DataType::Boolean ? DataType::Long : type},
-                .exact = operand.exact};
+                .exact = operand.exact && !operand.column};
     }
     case ExpressionKind::BitNot:
-        return {.sql = "(~" + asNumber(expression(*source.arguments[0], scope)) + ')',
+        return {.sql = "(~" + asBits(expression(*source.arguments[0], scope)) + ')',
                 .type = {DataType::Long}};
     case ExpressionKind::Not:
-        return {.sql = "(NOT " + condition(expression(*source.arguments[0], scope)) + ')',
+        return {.sql = "(NOT " + conditionIn(*source.arguments[0], scope) + ')',
                 .type = {DataType::Short},
                 .condition = true};
     case ExpressionKind::Arithmetic:
@@ -182,11 +219,15 @@ Emitter::Piece Emitter::literal(const Expression &source)
 Emitter::Piece Emitter::column(const Expression &source, Scope &scope)
 {
     for (Scope *at = &scope; at != nullptr; at = at->outer) {
-        if (const Scope::Found found = at->find(source.qualifier, source.name); found.column != nullptr)
-            return {.sql = quotedName(found.source->name) + '.' + quotedName(found.column->name),
-                    .type = found.column->type,
-                    .column = true,
-                    .exact = isWhole(found.column->type.type)};
+        const Scope::Found found = at->find(source.qualifier, source.name);
+        if (found.column == nullptr)
+            continue;
+        if (at != &scope)
+            at->borrowed.push_back(&source);
+        return {.sql = quotedName(found.source->name) + '.' + quotedName(found.column->name),
+                .type = found.column->type,
+                .column = true,
+                .exact = isWhole(found.column->type.type)};
     }
     return alias(source, scope);
 }
@@ -229,7 +270,10 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
 void Emitter::raiseUnknown(const Expression &source, const Scope &scope) const
 {
     std::vector<std::string_view> names;
+    std::vector<std::string_view> tables;
     for (const Scope *at = &scope; at != nullptr; at = at->outer) {
+        for (const std::string_view table : at->sourceNames())
+            tables.push_back(table);
         for (const ScopeSource &table : at->sources) {
             if (!source.qualifier.empty() && !sameWord(table.name, source.qualifier))
                 continue;
@@ -237,93 +281,17 @@ void Emitter::raiseUnknown(const Expression &source, const Scope &scope) const
                 names.push_back(column.name);
         }
     }
-    raiseError(MissingParameter, "No value given for one or more required parameters. '" +
-                                     std::string(source.text) + "' is not known here." +
-                                     suggestion(source.name, names));
+    const bool tableKnown = source.qualifier.empty() || !names.empty();
+    raiseError(MissingParameter,
+               "No value given for one or more required parameters. '" + excerpt(source.text) +
+                   "' is not known here." +
+                   (tableKnown ? suggestion(source.name, names) : suggestion(source.qualifier, tables)));
 }
 
 void Emitter::requireComparable(const Expression &source, const Piece &left, const Piece &right) const
 {
     if (!comparable(left.type.type, right.type.type))
         raiseTypeMismatch(source.text, typeWord(left.type.type), typeWord(right.type.type));
-}
-
-Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
-{
-    const Piece left = expression(*source.arguments[0], scope);
-    const Piece right = expression(*source.arguments[1], scope);
-    const std::string_view sign = source.name;
-    if (sign == "+" && isText(left.type.type) && isText(right.type.type))
-        return {.sql = '(' + value(left) + " || " + value(right) + ')', .type = {DataType::Memo}};
-
-    const bool runningTells = isText(commonType(left.type.type, right.type.type)) &&
-                              (left.type.type == DataType::Unknown || right.type.type == DataType::Unknown);
-    if (sign == "+" && runningTells) {
-        m_mayRaise = true;
-        return {.sql = "jet_add(" + value(left) + ", " + value(right) + ')', .type = {DataType::Unknown}};
-    }
-
-    const std::string a = asNumber(left);
-    const std::string b = asNumber(right);
-    const bool whole = isWhole(left.type.type) && isWhole(right.type.type);
-    const bool leftDate = left.type.type == DataType::Date;
-    const bool rightDate = right.type.type == DataType::Date;
-    const auto infix = [&](const char *op, DataType type) {
-        return Piece{.sql = '(' + a + op + b + ')', .type = {type}};
-    };
-    const auto call = [&](const char *name, DataType type) {
-        m_mayRaise = true;
-        return Piece{.sql = std::string(name) + '(' + a + ", " + b + ')', .type = {type}};
-    };
-    const DataType number = whole ? DataType::Long : DataType::Double;
-    if (sign == "+")
-        return infix(" + ", leftDate || rightDate ? DataType::Date : number);
-    if (sign == "-")
-        return infix(" - ", leftDate && !rightDate ? DataType::Date : number);
-    if (sign == "*")
-        return infix(" * ", number);
-    if (sign == "/")
-        return call("jet_div", DataType::Double);
-    if (sign == "\\")
-        return call("jet_idiv", DataType::Long);
-    if (sign == "MOD")
-        return call("jet_mod", DataType::Long);
-    if (sign == "^")
-        return call("jet_pow", DataType::Double);
-    if (sign == "BAND")
-        return infix(" & ", DataType::Long);
-    if (sign == "BOR")
-        return infix(" | ", DataType::Long);
-    return {.sql = "((" + a + " | " + b + ") & ~(" + a + " & " + b + "))", .type = {DataType::Long}};
-}
-
-Emitter::Piece Emitter::joinTexts(const Expression &source, Scope &scope)
-{
-    std::string sql;
-    for (const ExpressionPtr &operand : source.arguments)
-        sql += (sql.empty() ? "jet_cat(" : ", ") + asText(expression(*operand, scope));
-    return {.sql = sql + ')', .type = {DataType::Text}};
-}
-
-Emitter::Piece Emitter::logic(const Expression &source, Scope &scope)
-{
-    const Piece left = expression(*source.arguments[0], scope);
-    const Piece right = expression(*source.arguments[1], scope);
-    for (const Piece *side : {&left, &right}) {
-        if (isText(side->type.type))
-            raiseTypeMismatch(source.text, "a condition", "a text");
-    }
-    const std::string a = condition(left);
-    const std::string b = condition(right);
-    const std::string_view word = source.name;
-    std::string sql;
-    if (word == "AND" || word == "OR")
-        sql = '(' + a + ' ' + std::string(word) + ' ' + b + ')';
-    else if (word == "IMP")
-        sql = "((NOT " + a + ") OR " + b + ')';
-    else
-        sql = "((NOT " + a + (word == "XOR" ? ") <> (NOT " : ") = (NOT ") + b + "))";
-    return {.sql = sql, .type = {DataType::Short}, .condition = true};
 }
 
 Emitter::Piece Emitter::compare(const Expression &source, Scope &scope)
@@ -372,58 +340,6 @@ Emitter::Piece Emitter::inList(const Expression &source, Scope &scope)
     else
         sql = '(' + left + (source.negated ? " NOT IN (" : " IN (") + list + "))";
     return {.sql = sql, .type = {DataType::Short}, .condition = true};
-}
-
-Emitter::Piece Emitter::subquery(const Expression &source, Scope &scope)
-{
-    if (source.kind == ExpressionKind::Exists)
-        return {.sql = "EXISTS (" + query(*source.query, &scope).sql + ')',
-                .type = {DataType::Short},
-                .condition = true};
-    const Piece operand = expression(*source.arguments[0], scope);
-    const Rows rows = query(*source.query, &scope);
-    if (rows.columns.size() != 1)
-        raiseError(SyntaxError,
-                   "The subquery '" + std::string(source.query->text) + "' must return one field only.");
-    requireComparable(source, operand, {.sql = {}, .type = rows.columns[0].type});
-    return {.sql = '(' + collated(operand) + (source.negated ? " NOT IN (" : " IN (") + rows.sql + "))",
-            .type = {DataType::Short},
-            .condition = true};
-}
-
-Emitter::Piece Emitter::quantified(const Expression &source, Scope &scope)
-{
-    const Piece operand = expression(*source.arguments[0], scope);
-    const Rows rows = query(*source.query, &scope, true);
-    if (rows.columns.size() != 1)
-        raiseError(SyntaxError,
-                   "The subquery '" + std::string(source.query->text) + "' must return one field only.");
-    requireComparable(source, operand, {.sql = {}, .type = rows.columns[0].type});
-    const std::string name = quotedName("%any" + std::to_string(++m_subqueries));
-    const std::string test =
-        '(' + collated(operand) + ' ' + std::string(source.name) + ' ' + name + ".\"c0\")";
-    const std::string from = " (SELECT 1 FROM (" + rows.sql + ") AS " + name + " WHERE ";
-    // ALL fails on a row whose comparison is not true, Null included.
-    return {.sql = source.all ? "(NOT EXISTS" + from + '(' + test + " IS NOT TRUE)))"
-                              : "(EXISTS" + from + test + "))",
-            .type = {DataType::Short},
-            .condition = true};
-}
-
-Emitter::Piece Emitter::scalar(const Expression &source, Scope &scope)
-{
-    const Rows rows = query(*source.query, &scope, true);
-    if (rows.columns.size() != 1)
-        raiseError(SyntaxError,
-                   "The subquery '" + std::string(source.query->text) + "' must return one field only.");
-    m_mayRaise = true;
-    std::string sql = "(SELECT CASE WHEN COUNT(*) > 1 THEN jet_raise(";
-    sql += std::to_string(Failure);
-    sql += ", 'At most one record can be returned by this subquery.') ELSE MAX(\"c0\") END FROM (SELECT "
-           "\"c0\" FROM (";
-    sql += rows.sql;
-    sql += ") LIMIT 2))";
-    return {.sql = std::move(sql), .type = rows.columns[0].type};
 }
 
 } // namespace jet

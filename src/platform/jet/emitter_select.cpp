@@ -32,6 +32,7 @@ bool isPosition(const OrderItem &item, const std::vector<Literal> &literals)
 
 Emitter::Rows Emitter::query(const Query &query, Scope *outer, bool numbered)
 {
+    const ComplexityGuard guard(*this);
     const Aggregates aggregates = m_aggregates;
     m_aggregates = Aggregates::Allowed;
     Rows rows = query.arms.size() == 1 ? select(query.arms[0], query.orderBy, outer, numbered)
@@ -40,33 +41,56 @@ Emitter::Rows Emitter::query(const Query &query, Scope *outer, bool numbered)
     return rows;
 }
 
-Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
+std::vector<OutputColumn> Emitter::unionColumns(const std::vector<Rows> &arms)
 {
-    Rows result;
-    bool duplicatesDropped = false;
-    const std::vector<OrderItem> none;
-    for (std::size_t i = 0; i < query.arms.size(); ++i) {
-        const Select &arm = query.arms[i];
-        // Only with TOP does a branch's own order tell which rows it gives.
-        Rows rows = select(arm, arm.top ? arm.orderBy : none, outer, numbered);
-        if (arm.top)
-            rows.sql = "SELECT * FROM (" + rows.sql + ')';
-        if (i == 0) {
-            result = std::move(rows);
-            continue;
-        }
-        if (rows.columns.size() != result.columns.size())
+    std::vector<OutputColumn> columns = arms.front().columns;
+    for (const Rows &arm : arms) {
+        if (arm.columns.size() != columns.size())
             raiseError(SyntaxError,
                        "The number of columns in the two selected tables or queries of a union query do "
                        "not match.");
-        for (std::size_t column = 0; column < rows.columns.size(); ++column) {
-            ColumnType &type = result.columns[column].type;
-            type = {commonType(type.type, rows.columns[column].type.type),
-                    std::max(type.width, rows.columns[column].type.width)};
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            ColumnType &type = columns[i].type;
+            const ColumnType other = arm.columns[i].type;
+            type = {commonType(type.type, other.type), std::max(type.width, other.width)};
         }
-        duplicatesDropped = duplicatesDropped || !query.unionAll[i - 1];
-        result.sql += (query.unionAll[i - 1] ? " UNION ALL " : " UNION ") + rows.sql;
     }
+    return columns;
+}
+
+// The rows of an arm as texts where another arm makes the column a text.
+std::string Emitter::converted(const Rows &arm, const std::vector<OutputColumn> &columns, bool numbered)
+{
+    bool same = true;
+    std::string list;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const std::string name = numbered ? numberedName(i) : quotedName(arm.columns[i].name);
+        const Piece piece{.sql = name, .type = arm.columns[i].type, .column = true};
+        const std::string sql = as(columns[i].type.type, piece);
+        same = same && sql == name;
+        list += (i == 0 ? "" : ", ") + (sql == name ? name : '(' + sql + " COLLATE JET)") + " AS " + name;
+    }
+    return same ? arm.sql : "SELECT " + list + " FROM (" + arm.sql + ')';
+}
+
+Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
+{
+    std::vector<Rows> arms;
+    const std::vector<OrderItem> none;
+    for (const Select &arm : query.arms) {
+        // Only with TOP does a branch's own order tell which rows it gives.
+        arms.push_back(select(arm, arm.top ? arm.orderBy : none, outer, numbered));
+        if (arm.top)
+            arms.back().sql = "SELECT * FROM (" + arms.back().sql + ')';
+    }
+    Rows result{.sql = {}, .columns = unionColumns(arms)};
+    for (std::size_t i = 0; i < arms.size(); ++i) {
+        if (i > 0)
+            result.sql += query.unionAll[i - 1] ? " UNION ALL " : " UNION ";
+        result.sql += converted(arms[i], result.columns, numbered);
+    }
+    const bool duplicatesDropped =
+        std::find(query.unionAll.begin(), query.unionAll.end(), false) != query.unionAll.end();
 
     std::string order;
     const auto add = [&order](std::size_t position, bool descending) {
@@ -86,7 +110,7 @@ Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
         }
         if (position == 0 || position > result.columns.size())
             raiseError(SyntaxError,
-                       "The ORDER BY expression (" + std::string(item.expression->text) +
+                       "The ORDER BY expression (" + excerpt(item.expression->text) +
                            ") includes fields that are not selected by the query.  Only those fields "
                            "requested in the first query can be included in an ORDER BY expression.");
         add(position, item.descending);
@@ -129,7 +153,8 @@ std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope
             raiseError(MissingTable,
                        "The Microsoft Jet database engine cannot find the input table or query '" +
                            std::string(item.starOf) +
-                           "'.  Make sure it exists and that its name is spelled correctly.");
+                           "'.  Make sure it exists and that its name is spelled correctly." +
+                           suggestion(item.starOf, scope.sourceNames()));
         if (scope.sources.empty())
             raiseError(SyntaxError, "Query input must contain at least one table or query.");
         for (const ScopeSource &source : scope.sources) {
@@ -172,10 +197,13 @@ void Emitter::nameOutputs(std::vector<Output> &outputs) const
         Output &output = outputs[i];
         if (!qualified[i].empty())
             output.name = qualified[i];
-        const auto taken = [&](const Output &earlier) { return sameName(earlier, output); };
-        while (output.name.empty() ||
-               std::any_of(outputs.begin(), outputs.begin() + std::ptrdiff_t(i), taken))
+        const auto taken = [&](const Output &other) { return &other != &output && sameName(other, output); };
+        const auto self = outputs.begin() + std::ptrdiff_t(i);
+        if (!output.name.empty() && std::none_of(outputs.begin(), self, taken))
+            continue;
+        do
             output.name = "Expr" + std::to_string(unnamed++);
+        while (std::any_of(outputs.begin(), outputs.end(), taken));
     }
 }
 
@@ -197,16 +225,12 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     std::string tail;
     if (!source.empty())
         tail += " FROM " + source;
+    // Sub-queries before the grouping may use any column.
+    const std::size_t borrowed = scope.borrowed.size();
     if (select.where)
         tail += " WHERE " + conditionOf(*select.where, scope, "WHERE clause");
-
-    std::string groups;
-    for (const ExpressionPtr &group : select.groupBy) {
-        m_aggregates = Aggregates::Forbidden;
-        m_clause = "GROUP BY clause";
-        groups += (groups.empty() ? " GROUP BY " : ", ") + collated(expression(*group, scope));
-        m_aggregates = Aggregates::Allowed;
-    }
+    std::string groups = groupsOf(select, scope);
+    scope.borrowed.resize(borrowed);
     if (select.having)
         groups += " HAVING " + conditionOf(*select.having, scope, "HAVING clause");
 
@@ -242,6 +266,18 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     return result;
 }
 
+std::string Emitter::groupsOf(const Select &select, Scope &scope)
+{
+    std::string groups;
+    for (const ExpressionPtr &group : select.groupBy) {
+        m_aggregates = Aggregates::Forbidden;
+        m_clause = "GROUP BY clause";
+        groups += (groups.empty() ? " GROUP BY " : ", ") + collated(expression(*group, scope));
+        m_aggregates = Aggregates::Allowed;
+    }
+    return groups;
+}
+
 std::string Emitter::orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
                               Scope &scope)
 {
@@ -262,8 +298,8 @@ std::string Emitter::orderKey(const OrderItem &item, const std::vector<Output> &
                                                  : output.piece.sql) == wanted;
         });
         if (!selected)
-            raiseError(SyntaxError, "ORDER BY clause (" + std::string(item.expression->text) +
-                                        ") conflicts with DISTINCT.");
+            raiseError(SyntaxError,
+                       "ORDER BY clause (" + excerpt(item.expression->text) + ") conflicts with DISTINCT.");
     }
     return key;
 }
@@ -273,9 +309,12 @@ void Emitter::checkGrouping(const Select &select, const std::vector<Output> &out
 {
     if (select.groupBy.empty() && !scope.hasAggregate && !select.having)
         return;
+    const std::vector<const Expression *> borrowed = scope.borrowed;
     std::set<std::string> keys;
     for (const ExpressionPtr &group : select.groupBy)
         keys.insert(fingerprint(*group, scope));
+    for (const Expression *column : borrowed)
+        checkGrouped(*column, keys, scope);
     for (const Output &output : outputs) {
         if (output.expression != nullptr)
             checkGrouped(*output.expression, keys, scope);
@@ -299,7 +338,7 @@ void Emitter::checkGrouped(const Expression &source, const std::set<std::string>
     if (source.kind == ExpressionKind::Column && scope.find(source.qualifier, source.name).column != nullptr)
         raiseError(SyntaxError,
                    "You tried to execute a query that does not include the specified expression '" +
-                       std::string(source.text) + "' as part of an aggregate function.");
+                       excerpt(source.text) + "' as part of an aggregate function.");
     for (const ExpressionPtr &argument : source.arguments)
         checkGrouped(*argument, keys, scope);
 }

@@ -19,11 +19,38 @@ std::string columnDefinition(std::string_view name, ColumnType type, bool notNul
     return notNull ? sql + " NOT NULL" : sql;
 }
 
-void requireColumn(const Table &table, std::string_view name)
+bool isAmong(std::string_view name, const std::vector<std::string_view> &names)
 {
-    if (table.column(name) == nullptr)
-        raiseError(MissingParameter,
-                   "No such field '" + std::string(name) + "' in table '" + table.name + "'.");
+    return std::ranges::any_of(names, [&](std::string_view other) { return sameWord(other, name); });
+}
+
+std::vector<std::string_view> columnNames(const Table &table)
+{
+    std::vector<std::string_view> names;
+    for (const TableColumn &column : table.columns)
+        names.push_back(column.name);
+    return names;
+}
+
+const TableColumn *requireColumn(const Table &table, std::string_view name)
+{
+    const TableColumn *column = table.column(name);
+    if (column == nullptr)
+        raiseError(MissingParameter, "No such field '" + std::string(name) + "' in table '" + table.name +
+                                         "'." + suggestion(name, columnNames(table)));
+    return column;
+}
+
+const TableColumn *requireDestination(const Table &table, std::string_view name)
+{
+    const TableColumn *column = table.column(name);
+    if (column == nullptr)
+        raiseError(SyntaxError,
+                   "The INSERT INTO statement contains the following unknown field name: '" +
+                       std::string(name) +
+                       "'.  Make sure you have typed the name correctly, and try the operation again." +
+                       suggestion(name, columnNames(table)));
+    return column;
 }
 
 void requireNoTable(Catalog &catalog, std::string_view name)
@@ -32,11 +59,30 @@ void requireNoTable(Catalog &catalog, std::string_view name)
         raiseError(TableExists, "Table '" + std::string(name) + "' already exists.");
 }
 
+void requireSoundColumns(const CreateTable &table)
+{
+    std::vector<std::string_view> names;
+    for (const ColumnDefinition &column : table.columns) {
+        if (isAmong(column.name, names))
+            raiseError(SyntaxError, "Cannot define field more than once. '" + std::string(column.name) +
+                                        "' stands there twice.");
+        names.push_back(column.name);
+    }
+    for (const std::string_view column : table.primaryKey) {
+        if (!isAmong(column, names))
+            raiseError(MissingParameter, "No such field '" + std::string(column) + "' in table '" +
+                                             std::string(table.table) + "'." + suggestion(column, names));
+    }
+}
+
 const Table &existing(Catalog &catalog, std::string_view name)
 {
     const Table *table = catalog.find(name);
-    if (table == nullptr)
-        raiseError(MissingTable, "Table '" + std::string(name) + "' does not exist.");
+    if (table == nullptr) {
+        const std::vector<std::string> names = catalog.tableNames();
+        raiseError(MissingTable, "Table '" + std::string(name) + "' does not exist." +
+                                     suggestion(name, {names.begin(), names.end()}));
+    }
     return *table;
 }
 
@@ -64,8 +110,12 @@ void Emitter::write(const Query &source, EmittedStatement &result)
     const std::string_view into = source.arms.front().into;
     requireNoTable(m_catalog, into);
     std::string columns;
-    for (const OutputColumn &column : rows.columns)
-        columns += (columns.empty() ? "" : ", ") + columnDefinition(column.name, column.type, false, false);
+    for (const OutputColumn &column : rows.columns) {
+        const bool unknown = column.type.type == DataType::Unknown;
+        columns +=
+            (columns.empty() ? "" : ", ") +
+            columnDefinition(column.name, unknown ? ColumnType{DataType::Memo} : column.type, false, false);
+    }
     result.before.push_back("CREATE TABLE " + quotedName(into) + " (" + columns + ')');
     result.sql = "INSERT INTO " + quotedName(into) + ' ' + rows.sql;
     result.writes = true;
@@ -93,10 +143,12 @@ std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
         return from == DataType::Byte ? sql : through("jet_tobyte");
     case DataType::Short:
         return from == DataType::Short || from == DataType::Byte ? sql : through("jet_toshort");
+    case DataType::Wide:
     case DataType::Long:
     case DataType::Counter:
         return isWhole(from) && piece.exact ? sql : through("jet_tolong");
     case DataType::Single:
+        return from == DataType::Single ? sql : through("jet_tosingle");
     case DataType::Double:
         return isNumber(from) ? sql : through("jet_todouble");
     case DataType::Currency:
@@ -105,13 +157,10 @@ std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
         return from == DataType::Date ? sql : through("jet_todate");
     case DataType::Text:
     case DataType::Memo: {
-        const std::string text = isText(from) || from == DataType::Date || from == DataType::Boolean
-                                     ? asText(piece)
-                                     : "jet_text(" + sql + ')';
         if (column.type.width == 0)
-            return text;
+            return writtenOut(piece);
         m_mayRaise = true;
-        return "jet_fit(" + text + ", " + std::to_string(column.type.width) + ')';
+        return "jet_fit(" + writtenOut(piece) + ", " + std::to_string(column.type.width) + ')';
     }
     case DataType::Unknown:
         break;
@@ -122,22 +171,15 @@ std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
 void Emitter::write(const Insert &insert, EmittedStatement &result)
 {
     const Table *table = m_catalog.find(insert.table);
-    if (table == nullptr)
-        raiseError(MissingTable, "Could not find output table '" + std::string(insert.table) + "'.");
+    if (table == nullptr) {
+        const std::vector<std::string> names = m_catalog.tableNames();
+        raiseError(MissingTable, "Could not find output table '" + std::string(insert.table) + "'." +
+                                     suggestion(insert.table, {names.begin(), names.end()}));
+    }
 
     std::vector<const TableColumn *> columns;
     for (const std::string_view name : insert.columns) {
-        const TableColumn *column = table->column(name);
-        if (column == nullptr) {
-            std::vector<std::string_view> names;
-            for (const TableColumn &known : table->columns)
-                names.push_back(known.name);
-            raiseError(SyntaxError,
-                       "The INSERT INTO statement contains the following unknown field name: '" +
-                           std::string(name) +
-                           "'.  Make sure you have typed the name correctly, and try the operation again." +
-                           suggestion(name, names));
-        }
+        const TableColumn *column = requireDestination(*table, name);
         if (std::find(columns.begin(), columns.end(), column) != columns.end())
             raiseError(SyntaxError, "Duplicate output destination '" + column->name + "'.");
         columns.push_back(column);
@@ -178,10 +220,8 @@ std::string Emitter::insertedRows(const Insert &insert, std::vector<const TableC
     const Select &first = insert.query->arms.front();
     const bool byName = columns.empty() && first.items.size() == 1 && !first.items[0].expression;
     if (byName) {
-        for (const OutputColumn &output : rows.columns) {
-            requireColumn(table, output.name);
-            columns.push_back(table.column(output.name));
-        }
+        for (const OutputColumn &output : rows.columns)
+            columns.push_back(requireDestination(table, output.name));
     } else if (columns.empty())
         takeAllColumns();
     requireCount(rows.columns.size());
@@ -196,12 +236,13 @@ std::string Emitter::insertedRows(const Insert &insert, std::vector<const TableC
 void Emitter::write(const Update &update, EmittedStatement &result)
 {
     Scope scope;
-    addSources(*update.source, scope);
+    const std::string source = from(update.sources, scope);
     m_clause = "UPDATE statement";
     const ScopeSource *target = nullptr;
     std::string assignments;
     std::string values;
-    const bool joinedTables = update.source->left != nullptr || update.source->query != nullptr;
+    std::vector<const TableColumn *> changedColumns;
+    const bool joinedTables = scope.sources.size() > 1;
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
         const Assignment &assignment = update.assignments[i];
         const Scope::Found found = scope.find(assignment.column->qualifier, assignment.column->name);
@@ -211,6 +252,9 @@ void Emitter::write(const Update &update, EmittedStatement &result)
             raiseError(Failure, "Operation must use an updatable query.");
         if (found.column->type.type == DataType::Counter)
             raiseError(Failure, "Cannot update '" + found.column->name + "'; field not updateable.");
+        if (std::find(changedColumns.begin(), changedColumns.end(), found.column) != changedColumns.end())
+            raiseError(SyntaxError, "Duplicate output destination '" + found.column->name + "'.");
+        changedColumns.push_back(found.column);
         target = found.source;
         const std::string changed = coerced(expression(*assignment.value, scope), *found.column);
         const std::string name = "\"v" + std::to_string(i) + '"';
@@ -218,9 +262,7 @@ void Emitter::write(const Update &update, EmittedStatement &result)
                        (joinedTables ? "\"%rows\"." + name : changed);
         values += ", " + changed + " AS " + name;
     }
-    const std::string where =
-        update.where ? " WHERE " + conditionOf(*update.where, scope, "WHERE clause") : std::string();
-    const std::string source = joined(*update.source, scope);
+    const std::string where = this->where(update.where, scope);
     result.writes = true;
     if (!joinedTables) {
         result.sql = "UPDATE " + source + " SET " + assignments + where;
@@ -232,27 +274,30 @@ void Emitter::write(const Update &update, EmittedStatement &result)
                  source + where + ") AS \"%rows\" WHERE \"%target\".rowid = \"%rows\".\"%row\"";
 }
 
+std::string Emitter::where(const ExpressionPtr &condition, Scope &scope)
+{
+    return condition ? " WHERE " + conditionOf(*condition, scope, "WHERE clause") : std::string();
+}
+
 void Emitter::write(const Delete &statement, EmittedStatement &result)
 {
     Scope scope;
-    addSources(*statement.source, scope);
-    const std::string where =
-        statement.where ? " WHERE " + conditionOf(*statement.where, scope, "WHERE clause") : std::string();
-    const std::string source = joined(*statement.source, scope);
+    const std::string source = from(statement.sources, scope);
+    const std::string where = this->where(statement.where, scope);
     result.writes = true;
-    if (!statement.source->left) {
-        if (statement.source->query)
-            raiseError(Failure, "Could not delete from specified tables.");
-        if (!statement.starOf.empty() && scope.source(statement.starOf) == nullptr)
-            (void)m_catalog.table(statement.starOf);
+    const bool joinedTables = scope.sources.size() > 1;
+    if (joinedTables && statement.starOf.empty())
+        raiseError(Failure, "Specify the table containing the records you want to delete.");
+    const ScopeSource *target =
+        statement.starOf.empty() ? &scope.sources.front() : scope.source(statement.starOf);
+    if (target == nullptr)
+        (void)m_catalog.table(statement.starOf);
+    if (target == nullptr || !target->isTable())
+        raiseError(Failure, "Could not delete from specified tables.");
+    if (!joinedTables) {
         result.sql = "DELETE FROM " + source + where;
         return;
     }
-    if (statement.starOf.empty())
-        raiseError(Failure, "Specify the table containing the records you want to delete.");
-    const ScopeSource *target = scope.source(statement.starOf);
-    if (target == nullptr || !target->isTable())
-        raiseError(Failure, "Could not delete from specified tables.");
     result.sql = "DELETE FROM " + quotedName(target->table) + " WHERE rowid IN (SELECT " +
                  quotedName(target->name) + ".rowid FROM " + source + where + ')';
 }
@@ -260,6 +305,7 @@ void Emitter::write(const Delete &statement, EmittedStatement &result)
 void Emitter::write(const CreateTable &table, EmittedStatement &result)
 {
     requireNoTable(m_catalog, table.table);
+    requireSoundColumns(table);
     std::string columns;
     std::string counter;
     for (const ColumnDefinition &column : table.columns) {
@@ -290,7 +336,7 @@ void Emitter::write(const CreateIndex &index, EmittedStatement &result)
     const Table &table = m_catalog.table(index.table);
     std::string columns;
     for (const auto &[name, descending] : index.columns) {
-        requireColumn(table, name);
+        (void)requireColumn(table, name);
         columns += (columns.empty() ? "" : ", ") + quotedName(name) + (descending ? " DESC" : "");
     }
     result.sql = std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +

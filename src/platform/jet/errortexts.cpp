@@ -2,6 +2,9 @@
 
 #include "base/error.h"
 #include "platform/jet/lexer.h"
+#include "platform/jet/utf8.h"
+
+#include <algorithm>
 
 namespace jet {
 
@@ -10,7 +13,25 @@ void raiseError(int number, std::string_view text)
     raise(number, QString::fromUtf8(text.data(), qsizetype(text.size())));
 }
 
-void raiseSyntax(std::string_view text, std::string_view statement, std::size_t offset, std::size_t end)
+std::string excerpt(std::string_view text)
+{
+    constexpr std::size_t longest = 200;
+    constexpr char32_t firstControlPicture = 0x2400;
+    const std::size_t end = utf8::offset(text, longest);
+    std::string shown;
+    for (const char c : text.substr(0, end)) {
+        if (c == '\t' || c == '\r' || c == '\n')
+            shown += ' ';
+        else if (c >= 0 && c < ' ')
+            utf8::append(shown, firstControlPicture + static_cast<char32_t>(c));
+        else
+            shown += c;
+    }
+    return end < text.size() ? shown + "..." : shown;
+}
+
+void raiseSyntax(std::string_view text, std::string_view statement, std::size_t offset, std::size_t end,
+                 int number)
 {
     std::string message(text);
     message += '.';
@@ -22,21 +43,31 @@ void raiseSyntax(std::string_view text, std::string_view statement, std::size_t 
             --offset;
         while (end < statement.size() && (static_cast<unsigned char>(statement[end]) & 0xc0) == 0x80)
             ++end;
-        message += " Near '" + std::string(statement.substr(offset, end - offset)) + "' at " +
+        message += " Near '" + excerpt(statement.substr(offset, end - offset)) + "' at " +
                    std::to_string(characterAt(statement, offset)) + '.';
     }
-    raiseError(SyntaxError, message);
+    raiseError(number, message);
 }
 
 void raiseInExpression(int number, std::string_view what, std::string_view expression)
 {
-    raiseError(number, std::string(what) + " in query expression '" + std::string(expression) + "'.");
+    raiseError(number, std::string(what) + " in query expression '" + excerpt(expression) + "'.");
+}
+
+bool tellsOfLimit(std::string_view sqliteMessage)
+{
+    static constexpr std::string_view limits[] = {
+        "parser stack overflow",  "Expression tree is too large", "too many", "at most ",
+        "string or blob too big", "statement too long",
+    };
+    return std::ranges::any_of(limits,
+                               [&](std::string_view limit) { return sqliteMessage.starts_with(limit); });
 }
 
 std::string suggestion(std::string_view word, const std::vector<std::string_view> &names)
 {
     std::string_view nearest;
-    std::size_t best = word.size() / 3 + 1;
+    std::size_t best = std::max<std::size_t>(1, word.size() / 3);
     for (const std::string_view name : names) {
         const std::size_t distance = wordDistance(word, name);
         if (distance <= best && (nearest.empty() || distance < best)) {
@@ -49,7 +80,7 @@ std::string suggestion(std::string_view word, const std::vector<std::string_view
 
 void raiseTypeMismatch(std::string_view expression, std::string_view left, std::string_view right)
 {
-    raiseError(TypeMismatch, "Data type mismatch in criteria expression. '" + std::string(expression) +
+    raiseError(TypeMismatch, "Data type mismatch in criteria expression. '" + excerpt(expression) +
                                  "' compares " + std::string(left) + " with " + std::string(right) + '.');
 }
 

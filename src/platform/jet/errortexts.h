@@ -9,15 +9,24 @@
 
 namespace jet {
 
+inline constexpr std::string_view queryTooComplex = "Query is too complex.";
+
 /// Raises an Error whose text is UTF-8.
 [[noreturn]] void raiseError(int number, std::string_view text);
 
-/// Raises SyntaxError with the text, and the word at the place and its character position.
+/// A piece of a statement as a message shows it: its first characters, on one line.
+[[nodiscard]] std::string excerpt(std::string_view text);
+
+/// Raises SyntaxError, or another number, with the text, and the word at the place and its
+/// character position.
 [[noreturn]] void raiseSyntax(std::string_view text, std::string_view statement, std::size_t offset,
-                              std::size_t end);
+                              std::size_t end, int number = SyntaxError);
 
 /// Raises "WHAT in query expression 'EXPRESSION'."
 [[noreturn]] void raiseInExpression(int number, std::string_view what, std::string_view expression);
+
+/// Whether the message is SQLite's word for a statement beyond its limits.
+[[nodiscard]] bool tellsOfLimit(std::string_view sqliteMessage);
 
 /// " Did you mean 'NAME'?" with the nearest of the names, or nothing when none is near.
 [[nodiscard]] std::string suggestion(std::string_view word, const std::vector<std::string_view> &names);

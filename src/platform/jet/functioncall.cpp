@@ -5,6 +5,7 @@
 #include "platform/jet/decimal.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/numbertext.h"
+#include "platform/jet/utf8.h"
 
 #include <charconv>
 #include <cmath>
@@ -43,6 +44,15 @@ void raiseMismatch()
     throw CallError{TypeMismatch, "Data type mismatch in criteria expression."};
 }
 
+void raiseMismatch(std::string_view text, std::string_view wanted)
+{
+    constexpr std::size_t shown = 40;
+    const std::size_t end = utf8::offset(text, shown);
+    throw CallError{TypeMismatch, "Data type mismatch in criteria expression. '" +
+                                      std::string(text.substr(0, end)) + (end < text.size() ? "..." : "") +
+                                      "' is not " + std::string(wanted) + '.'};
+}
+
 void raiseOverflow()
 {
     throw CallError{Failure, "Overflow"};
@@ -61,6 +71,15 @@ void raiseDivisionByZero()
 double roundToEven(double number)
 {
     return std::nearbyint(number);
+}
+
+double shownSingle(double number)
+{
+    char text[40];
+    const auto end = std::to_chars(std::begin(text), std::end(text), static_cast<float>(number)).ptr;
+    double shown = 0;
+    std::from_chars(text, end, shown);
+    return shown;
 }
 
 std::optional<double> currency(double number)
@@ -123,7 +142,7 @@ double Call::number(int index) const
         return sqlite3_value_double(m_values[index]);
     const auto number = parseNumber(ownText(index));
     if (!number)
-        raiseMismatch();
+        raiseMismatch(ownText(index), "a number");
     return toDouble(*number);
 }
 
@@ -153,7 +172,7 @@ double Call::date(int index) const
         const std::string_view text = ownText(index);
         const auto date = oledate::parse(QString::fromUtf8(text.data(), qsizetype(text.size())));
         if (!date)
-            raiseMismatch();
+            raiseMismatch(text, "a date");
         days = *date;
     } else {
         days = number(index);

@@ -16,16 +16,21 @@ namespace jet {
 struct CallError
 {
     int number;
-    std::string_view text; ///< of a literal
+    std::string text;
 };
 
 [[noreturn]] void raiseMismatch();
+/// Names the text that is not, say, "a number".
+[[noreturn]] void raiseMismatch(std::string_view text, std::string_view wanted);
 [[noreturn]] void raiseOverflow();
 [[noreturn]] void raiseInvalidCall();
 [[noreturn]] void raiseDivisionByZero();
 
 /// Halves go to the even neighbour.
 [[nodiscard]] double roundToEven(double number);
+
+/// The number as a single holds it: what people see of the single's shortest text.
+[[nodiscard]] double shownSingle(double number);
 
 /// Rounded to four decimals, halves to even. Nothing outside of what a currency holds.
 [[nodiscard]] std::optional<double> currency(double number);

@@ -41,7 +41,7 @@ constexpr Function functions[] = {
     {{"Cos",          1, 1, "n",      Double,   "jet_cos"},          {bodies::cosine}},
     {{"CSng",         1, 1, "n",      Double,   "jet_csng"},         {bodies::toSingle}},
     {{"CStr",         1, 1, "t",      Text,     "jet_cstr"},         {bodies::toText}},
-    {{"Date",         0, 0, "",       Date,     "jet_today"},        {bodies::today, givesNull, eachCall}},
+    {{"Date",         0, 0, "",       Date,     "jet_today", true},        {bodies::today, givesNull, eachCall}},
     {{"DateAdd",      3, 3, "tnd",    Date,     "jet_dateadd"},      {bodies::dateAdd}},
     {{"DateDiff",     3, 5, "tddnn",  Long,     "jet_datediff"},     {bodies::dateDifference}},
     {{"DatePart",     2, 4, "tdnn",   Long,     "jet_datepart"},     {bodies::datePart}},
@@ -67,7 +67,7 @@ constexpr Function functions[] = {
     {{"Minute",       1, 1, "d",      Short,    "jet_minute"},       {bodies::minute}},
     {{"Month",        1, 1, "d",      Short,    "jet_month"},        {bodies::month}},
     {{"MonthName",    1, 2, "n",      Text,     "jet_monthname"},    {bodies::monthName}},
-    {{"Now",          0, 0, "",       Date,     "jet_now"},          {bodies::now, givesNull, eachCall}},
+    {{"Now",          0, 0, "",       Date,     "jet_now", true},          {bodies::now, givesNull, eachCall}},
     {{"Oct",          1, 1, "n",      Text,     "jet_oct"},          {bodies::octal}},
     {{"Replace",      3, 6, "tttn",   Text,     "jet_replace"},      {bodies::replace, handled}},
     {{"Right",        2, 2, "tn",     Text,     "jet_right"},        {bodies::right}},
@@ -85,8 +85,8 @@ constexpr Function functions[] = {
     {{"String",       2, 2, "nv",     Text,     "jet_string"},       {bodies::stringOf}},
     {{"StrReverse",   1, 1, "t",      Text,     "jet_strreverse"},   {bodies::reverse}},
     {{"Tan",          1, 1, "n",      Double,   "jet_tan"},          {bodies::tangent}},
-    {{"Time",         0, 0, "",       Date,     "jet_time"},         {bodies::time, givesNull, eachCall}},
-    {{"Timer",        0, 0, "",       Double,   "jet_timer"},        {bodies::timer, givesNull, eachCall}},
+    {{"Time",         0, 0, "",       Date,     "jet_time", true},         {bodies::time, givesNull, eachCall}},
+    {{"Timer",        0, 0, "",       Double,   "jet_timer", true},        {bodies::timer, givesNull, eachCall}},
     {{"TimeSerial",   3, 3, "n",      Date,     "jet_timeserial"},   {bodies::timeSerial}},
     {{"TimeValue",    1, 1, "d",      Date,     "jet_timevalue"},    {bodies::timeValue}},
     {{"Trim",         1, 1, "t",      Text,     "jet_trim"},         {bodies::trim}},
@@ -121,18 +121,12 @@ const FunctionInfo *findFunction(std::string_view name)
     return info && info->result == Text ? info : nullptr;
 }
 
-std::string_view nearestFunction(std::string_view name)
+std::vector<std::string_view> functionNames()
 {
-    std::string_view nearest;
-    std::size_t best = name.size() / 3 + 2;
-    for (const Function &function : functions) {
-        const std::size_t distance = wordDistance(name, function.info.name);
-        if (distance < best) {
-            best = distance;
-            nearest = function.info.name;
-        }
-    }
-    return nearest;
+    std::vector<std::string_view> names;
+    for (const Function &function : functions)
+        names.push_back(function.info.name);
+    return names;
 }
 
 void setClock(std::function<QDateTime()> newClock)

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string_view>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_context;
@@ -38,14 +39,15 @@ struct FunctionInfo
     int maximum; ///< -1: any number
     std::string_view arguments;
     ResultKind result;
-    const char *sqlite; ///< the SQL function the call becomes
+    const char *sqlite;            ///< the SQL function the call becomes
+    bool oncePerStatement = false; ///< gives the same for every row
 };
 
 /// The row of a function, or null for an unknown one. A text function is known by its name
 /// with $ behind it, too.
 [[nodiscard]] const FunctionInfo *findFunction(std::string_view name);
-/// The known function whose name is nearest, or empty.
-[[nodiscard]] std::string_view nearestFunction(std::string_view name);
+/// As people write them.
+[[nodiscard]] std::vector<std::string_view> functionNames();
 
 /// Adds every function of the table, the aggregates and the conversions below to a handle:
 ///   jet_cat(a, b, ...)   the & operator: Null counts as '', all Null gives Null
@@ -53,8 +55,8 @@ struct FunctionInfo
 ///   jet_text(x)          number to text; jet_datetext(x), jet_booltext(x) ("True"/"False")
 ///   jet_num(x)           text to number, raises TypeMismatch; other values as they are
 ///   jet_cdate(x)         text to date, raises TypeMismatch; numbers as they are
-///   jet_tolong(x), jet_toshort(x), jet_tobyte(x), jet_todouble(x), jet_tocurrency(x),
-///   jet_todate(x), jet_tobool(x): what a column of that type takes; a text that is no
+///   jet_tolong(x), jet_toshort(x), jet_tobyte(x), jet_todouble(x), jet_tosingle(x),
+///   jet_tocurrency(x), jet_todate(x), jet_tobool(x): what a column of that type takes; a text that is no
 ///                        such value raises TypeMismatch, a number out of range Failure
 ///                        with the text "Numeric field overflow."; Null stays Null
 ///   jet_fit(x, n)        the text, raises FieldTooSmall when longer than n characters

@@ -17,9 +17,8 @@ namespace jet {
 
 namespace {
 
-constexpr std::string_view tooSmall =
-    "The field is too small to accept the amount of data you attempted to add.  "
-    "Try inserting or pasting less data.";
+constexpr const char *tooSmall = "The field is too small to accept the amount of data you attempted to add.  "
+                                 "Try inserting or pasting less data.";
 
 [[noreturn]] void raiseFieldOverflow()
 {
@@ -81,7 +80,7 @@ void number(Call &call)
     }
     const auto number = parseNumber(call.text(0));
     if (!number)
-        raiseMismatch();
+        raiseMismatch(call.text(0), "a number");
     if (const auto *whole = std::get_if<std::int64_t>(&*number))
         call.giveWhole(*whole);
     else
@@ -120,6 +119,14 @@ void toDoubleColumn(Call &call)
     if (!std::isfinite(number))
         raiseFieldOverflow();
     call.giveNumber(number);
+}
+
+void toSingleColumn(Call &call)
+{
+    const double number = call.number(0);
+    if (!(std::abs(number) <= double(std::numeric_limits<float>::max())))
+        raiseFieldOverflow();
+    call.giveNumber(shownSingle(number));
 }
 
 void toCurrencyColumn(Call &call)
@@ -227,6 +234,7 @@ const Conversion conversions[] = {
     {"jet_toshort", {toWholeColumn<std::int16_t>}},
     {"jet_tobyte", {toWholeColumn<std::uint8_t>}},
     {"jet_todouble", {toDoubleColumn}},
+    {"jet_tosingle", {toSingleColumn}},
     {"jet_tocurrency", {toCurrencyColumn}},
     {"jet_todate", {toDateColumn}},
     {"jet_tobool", {toBooleanColumn}},

@@ -163,12 +163,7 @@ void toSingle(Call &call)
     const double number = call.number(0);
     if (std::abs(number) > double(std::numeric_limits<float>::max()))
         raiseOverflow();
-    // The shortest text of the single is what people see of it.
-    std::string text(40, ' ');
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), static_cast<float>(number)).ptr;
-    double shown = 0;
-    std::from_chars(text.data(), end, shown);
-    call.giveNumber(shown);
+    call.giveNumber(shownSingle(number));
 }
 
 void toCurrency(Call &call)

@@ -217,8 +217,8 @@ Token Lexer::text(char quote)
     for (;;) {
         at = m_statement.find(quote, at);
         if (at == std::string_view::npos)
-            raiseSyntax("Syntax error in string in query expression '" +
-                            std::string(m_statement.substr(start)) + "'",
+            raiseSyntax("Syntax error in string in query expression '" + excerpt(m_statement.substr(start)) +
+                            "'",
                         m_statement, start, m_statement.size());
         if (at + 1 >= m_statement.size() || m_statement[at + 1] != quote)
             break;
@@ -242,7 +242,9 @@ Token Lexer::date()
     if (last != std::string_view::npos)
         date = oledate::parse(QString::fromUtf8(literal.text.data(), qsizetype(literal.text.size())));
     if (!date)
-        raiseInExpression(TypeMismatch, "Syntax error in date", m_statement.substr(start, end - start));
+        raiseSyntax("Syntax error in date in query expression '" +
+                        excerpt(m_statement.substr(start, end - start)) + '\'',
+                    m_statement, start, end, TypeMismatch);
     literal.number = *date;
     m_at = end;
     return finishLiteral(finish(TokenKind::Date, start, literal.text), literal);

@@ -28,14 +28,29 @@ constexpr std::array reserved = {
     std::string_view("TABLE"),   std::string_view("ALL"),
 };
 
-// Before a parenthesis these are functions all the same.
-constexpr bool isReserved(std::string_view word)
+// Words and signs that may stand behind an expression.
+constexpr std::array<std::string_view, 17> behindExpression = {
+    ",",    ")",  ";",   "FROM", "WHERE", "GROUP", "HAVING", "ORDER", "UNION",
+    "INTO", "AS", "ASC", "DESC", "INNER", "LEFT",  "RIGHT",  "SET"};
+
+// What may stand behind a table of FROM.
+constexpr std::array<std::string_view, 13> behindTable = {
+    ",", ")", ";", "WHERE", "GROUP", "HAVING", "ORDER", "UNION", "INNER", "LEFT", "RIGHT", "ON", "SET"};
+
+template <typename Words>
+constexpr bool contains(const Words &words, std::string_view word)
 {
-    for (const std::string_view entry : reserved) {
+    for (const std::string_view entry : words) {
         if (sameWord(entry, word))
             return true;
     }
     return false;
+}
+
+bool isOneOf(const Token &token, const auto &words)
+{
+    const bool word = token.kind == TokenKind::Name || token.kind == TokenKind::Symbol;
+    return token.kind == TokenKind::End || (word && contains(words, token.text));
 }
 
 constexpr std::string_view misplacedWord =
@@ -87,7 +102,8 @@ void Parser::expect(std::string_view word)
 bool Parser::atIdentifier(std::size_t ahead) const
 {
     const Token &token = peek(ahead);
-    return token.kind == TokenKind::QuotedName || (token.kind == TokenKind::Name && !isReserved(token.text));
+    return token.kind == TokenKind::QuotedName ||
+           (token.kind == TokenKind::Name && !contains(reserved, token.text));
 }
 
 std::string_view Parser::identifier()
@@ -106,18 +122,41 @@ std::string_view Parser::textFrom(std::size_t start) const
 void Parser::fail() const
 {
     const Token &token = peek();
-    if (m_expressionStart != std::string_view::npos)
+    if (m_expressionStart < token.offset && m_at > 0 && m_expressionStart < m_tokens[m_at - 1].end)
         failMissingOperator(m_expressionStart);
-    raiseSyntax("Syntax error" + (m_clause.empty() ? std::string() : " in " + std::string(m_clause)),
-                m_lexer.statement(), token.offset, token.end);
+    failAt("Syntax error" + (m_clause.empty() ? std::string() : " in " + std::string(m_clause)), token);
+}
+
+void Parser::failAt(std::string_view what, const Token &token) const
+{
+    raiseSyntax(what, m_lexer.statement(), token.offset, token.end);
+}
+
+void Parser::failTooComplex() const
+{
+    raiseError(SyntaxError, queryTooComplex);
+}
+
+void Parser::expectEndOfClause() const
+{
+    if (!at(";") && peek().kind != TokenKind::End)
+        fail();
+}
+
+ExpressionPtr Parser::clauseExpression()
+{
+    const std::size_t start = peek().offset;
+    ExpressionPtr result = expression();
+    if (!isOneOf(peek(), behindExpression))
+        failMissingOperator(start);
+    return result;
 }
 
 void Parser::failMissingOperator(std::size_t start) const
 {
     const Token &token = peek();
     const std::string_view expression = m_lexer.statement().substr(start, token.end - start);
-    raiseSyntax("Syntax error (missing operator) in query expression '" + std::string(expression) + '\'',
-                m_lexer.statement(), token.offset, token.end);
+    failAt("Syntax error (missing operator) in query expression '" + excerpt(expression) + '\'', token);
 }
 
 Statement Parser::parse()
@@ -135,19 +174,13 @@ Statement Parser::parse()
             return create();
         if (accept("DROP"))
             return drop();
-        const Token &token = peek();
-        raiseSyntax("Invalid SQL statement; expected 'DELETE', 'INSERT', 'PROCEDURE', 'SELECT', or 'UPDATE'",
-                    m_lexer.statement(), token.offset, token.end);
+        failAt("Invalid SQL statement; expected 'DELETE', 'INSERT', 'PROCEDURE', 'SELECT', or 'UPDATE'",
+               peek());
     }();
     const bool ended = accept(";");
     if (peek().kind == TokenKind::End)
         return statement;
-    if (ended)
-        raiseSyntax("Characters found after end of SQL statement", m_lexer.statement(), peek().offset,
-                    peek().end);
-    if (std::holds_alternative<Query>(statement))
-        raiseSyntax(misplacedWord, m_lexer.statement(), peek().offset, peek().end);
-    fail();
+    failAt(ended ? "Characters found after end of SQL statement" : misplacedWord, peek());
 }
 
 QueryPtr Parser::query(bool allowInto)
@@ -194,7 +227,7 @@ void Parser::selectArm(Query &query, bool allowInto)
         select.distinct = true;
     else if (accept("DISTINCTROW"))
         select.distinctRow = true;
-    if (at("TOP") && (peek(1).kind == TokenKind::Integer || at("(", 1) || at("-", 1)))
+    if (at("TOP") && (peek(1).literal >= 0 || at("(", 1) || at("-", 1)))
         top(select);
     items(select);
     if (allowInto && accept("INTO")) {
@@ -205,18 +238,18 @@ void Parser::selectArm(Query &query, bool allowInto)
         select.from = from();
     if (accept("WHERE")) {
         const ClauseGuard clause(*this, "WHERE clause");
-        select.where = expression();
+        select.where = clauseExpression();
     }
     if (accept("GROUP")) {
         const ClauseGuard clause(*this, "GROUP BY clause");
         expect("BY");
         do
-            select.groupBy.push_back(expression());
+            select.groupBy.push_back(clauseExpression());
         while (accept(","));
     }
     if (accept("HAVING")) {
         const ClauseGuard clause(*this, "HAVING clause");
-        select.having = expression();
+        select.having = clauseExpression();
     }
     if (at("ORDER"))
         select.orderBy = orderBy();
@@ -228,7 +261,7 @@ void Parser::top(Select &select)
     take();
     const Token count = peek();
     if (count.kind != TokenKind::Integer || m_lexer.literals()[std::size_t(count.literal)].number < 1)
-        raiseSyntax("Invalid argument of TOP", m_lexer.statement(), count.offset, count.end);
+        failAt("Invalid TOP argument", count);
     select.topLiteral = count.literal;
     select.top = static_cast<int>(m_lexer.literals()[std::size_t(count.literal)].number);
     take();
@@ -253,17 +286,18 @@ SelectItem Parser::item()
         m_at += 2;
         return item;
     }
-    if (at("FROM") || at(",") || peek().kind == TokenKind::End)
-        raiseSyntax(misplacedWord, m_lexer.statement(), peek().offset, peek().end);
-    const std::size_t start = peek().offset;
-    item.expression = expression();
-    if (accept("AS")) {
-        // A keyword is a good enough name behind AS: nothing else can stand there.
-        if (peek().kind != TokenKind::Name && peek().kind != TokenKind::QuotedName)
-            fail();
-        item.alias = take().text;
-    } else if (peek().kind == TokenKind::QuotedName || peek().literal >= 0 || atIdentifier())
-        failMissingOperator(start);
+    if (isOneOf(peek(), behindExpression) && !at("(", 1))
+        failAt(misplacedWord, peek());
+    item.expression = clauseExpression();
+    if (!accept("AS"))
+        return item;
+    // A keyword is a good enough name behind AS: nothing but the list's end can stand there.
+    const bool name = peek().kind == TokenKind::QuotedName || peek().kind == TokenKind::Name;
+    if (!name || at("FROM") || at("INTO"))
+        failAt(misplacedWord, peek());
+    item.alias = take().text;
+    if (!isOneOf(peek(), behindExpression))
+        failAt(misplacedWord, peek());
     return item;
 }
 
@@ -275,7 +309,7 @@ std::vector<OrderItem> Parser::orderBy()
     std::vector<OrderItem> items;
     do {
         OrderItem item;
-        item.expression = expression();
+        item.expression = clauseExpression();
         if (accept("DESC"))
             item.descending = true;
         else
@@ -288,11 +322,16 @@ std::vector<OrderItem> Parser::orderBy()
 std::vector<std::unique_ptr<Source>> Parser::from()
 {
     const ClauseGuard clause(*this, "FROM clause");
-    std::vector<std::unique_ptr<Source>> sources;
+    return sources();
+}
+
+std::vector<std::unique_ptr<Source>> Parser::sources()
+{
+    std::vector<std::unique_ptr<Source>> result;
     do
-        sources.push_back(joinedSource());
+        result.push_back(joinedSource());
     while (accept(","));
-    return sources;
+    return result;
 }
 
 std::unique_ptr<Source> Parser::joinedSource()
@@ -301,32 +340,44 @@ std::unique_ptr<Source> Parser::joinedSource()
     std::unique_ptr<Source> left = singleSource();
     for (;;) {
         JoinKind kind = JoinKind::Inner;
-        if (at("LEFT") || at("RIGHT")) {
-            kind = at("LEFT") ? JoinKind::Left : JoinKind::Right;
-            take();
-            accept("OUTER");
-        } else if (at("INNER"))
-            take();
-        else
+        if (!acceptJoin(kind))
             return left;
-        expect("JOIN");
         auto join = std::make_unique<Source>();
         join->offset = left->offset;
         join->join = kind;
         join->left = std::move(left);
         // a JOIN b JOIN c ON .. ON .. binds the inner one first.
         join->right = singleSource();
-        if (at("INNER") || at("LEFT") || at("RIGHT")) {
-            --m_at;
-            fail();
-        }
         expect("ON");
         {
             const ClauseGuard clause(*this, "JOIN operation");
-            join->on = expression();
+            join->on = clauseExpression();
         }
         left = std::move(join);
     }
+}
+
+bool Parser::acceptJoin(JoinKind &kind)
+{
+    if (at("LEFT") || at("RIGHT")) {
+        kind = at("LEFT") ? JoinKind::Left : JoinKind::Right;
+        take();
+        accept("OUTER");
+    } else if (!accept("INNER"))
+        return false;
+    expect("JOIN");
+    return true;
+}
+
+void Parser::alias(Source &source)
+{
+    const Token first = peek();
+    const bool bare = !accept("AS") && atIdentifier();
+    if (bare || sameWord(first.text, "AS"))
+        source.alias = identifier();
+    // A word that is none of the dialect has passed as an alias: it is at fault, not the next.
+    if (!isOneOf(peek(), behindTable))
+        failAt("Syntax error in " + std::string(m_clause), bare ? first : peek());
 }
 
 std::unique_ptr<Source> Parser::singleSource()
@@ -347,9 +398,7 @@ std::unique_ptr<Source> Parser::singleSource()
             return source;
     } else
         source->table = identifier();
-    const bool as = accept("AS");
-    if (as || atIdentifier())
-        source->alias = identifier();
+    alias(*source);
     return source;
 }
 

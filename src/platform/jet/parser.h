@@ -25,10 +25,13 @@ private:
     [[nodiscard]] bool at(std::string_view word, std::size_t ahead = 0) const;
     bool accept(std::string_view word);
     void expect(std::string_view word);
+    void expectEndOfClause() const;
     std::string_view identifier();
     [[nodiscard]] bool atIdentifier(std::size_t ahead = 0) const;
     [[noreturn]] void fail() const;
+    [[noreturn]] void failAt(std::string_view what, const Token &token) const;
     [[noreturn]] void failMissingOperator(std::size_t start) const;
+    [[noreturn]] void failTooComplex() const;
     [[nodiscard]] std::string_view textFrom(std::size_t start) const;
 
     // parser.cpp
@@ -39,8 +42,11 @@ private:
     SelectItem item();
     std::vector<OrderItem> orderBy();
     std::vector<std::unique_ptr<Source>> from();
+    std::vector<std::unique_ptr<Source>> sources();
     std::unique_ptr<Source> joinedSource();
     std::unique_ptr<Source> singleSource();
+    void alias(Source &source);
+    bool acceptJoin(JoinKind &kind);
 
     // parser_write.cpp
     Insert insert();
@@ -54,6 +60,8 @@ private:
 
     // parser_expression.cpp
     ExpressionPtr expression();
+    /// One that a word of the statement must follow, a sign between two or the end.
+    ExpressionPtr clauseExpression();
     ExpressionPtr logic(std::size_t level);
     ExpressionPtr negation();
     ExpressionPtr comparison();
@@ -66,6 +74,11 @@ private:
     ExpressionPtr nameOrCall();
     ExpressionPtr call(std::string_view name, std::size_t start);
     ExpressionPtr make(ExpressionKind kind, std::size_t start, std::string_view name = {});
+    /// Raises SyntaxError for a tree that grows deeper than can be walked.
+    void add(Expression &parent, ExpressionPtr argument) const;
+    template <typename Operand>
+    ExpressionPtr chain(ExpressionKind kind, std::string_view sign, std::size_t start, ExpressionPtr first,
+                        Operand operand);
     template <typename... Arguments>
     ExpressionPtr node(ExpressionKind kind, std::size_t start, std::string_view name, Arguments... arguments);
 

@@ -7,8 +7,13 @@
 namespace jet {
 namespace {
 
-// Weakest first; a level holds what binds alike, from left to right.
+// Weakest first; a level holds what binds alike, from left to right. People write hundreds of
+// the last two in a row.
 constexpr std::array<std::string_view, 5> logicLevels = {"IMP", "EQV", "XOR", "OR", "AND"};
+constexpr std::size_t firstChainedLevel = 3;
+
+// Walking a tree takes stack for each level.
+constexpr int deepestTree = 300;
 
 struct ArithmeticLevel
 {
@@ -43,8 +48,28 @@ ExpressionPtr Parser::node(ExpressionKind kind, std::size_t start, std::string_v
                            Arguments... arguments)
 {
     ExpressionPtr expression = make(kind, start, name);
-    (expression->arguments.push_back(std::move(arguments)), ...);
+    (add(*expression, std::move(arguments)), ...);
     return expression;
+}
+
+void Parser::add(Expression &parent, ExpressionPtr argument) const
+{
+    parent.depth = std::max(parent.depth, argument->depth + 1);
+    if (parent.depth > deepestTree)
+        failTooComplex();
+    parent.arguments.push_back(std::move(argument));
+}
+
+// a & b & c is one node: it is written over and over, and never too deep.
+template <typename Operand>
+ExpressionPtr Parser::chain(ExpressionKind kind, std::string_view sign, std::size_t start,
+                            ExpressionPtr first, Operand operand)
+{
+    ExpressionPtr result = node(kind, start, sign, std::move(first));
+    while (accept(sign))
+        add(*result, operand());
+    result->text = textFrom(start);
+    return result;
 }
 
 ExpressionPtr Parser::expression()
@@ -64,6 +89,9 @@ ExpressionPtr Parser::logic(std::size_t level)
         return negation();
     const std::size_t start = peek().offset;
     ExpressionPtr left = logic(level + 1);
+    if (level >= firstChainedLevel && at(logicLevels[level]))
+        return chain(ExpressionKind::Logic, logicLevels[level], start, std::move(left),
+                     [&] { return logic(level + 1); });
     while (accept(logicLevels[level])) {
         ExpressionPtr right = logic(level + 1);
         left = node(ExpressionKind::Logic, start, logicLevels[level], std::move(left), std::move(right));
@@ -138,7 +166,7 @@ ExpressionPtr Parser::predicate(ExpressionPtr left, std::size_t start, bool &don
         } else {
             result = node(ExpressionKind::InList, start, "IN", std::move(left));
             do
-                result->arguments.push_back(logic(0));
+                add(*result, logic(0));
             while (accept(","));
         }
         expect(")");
@@ -157,12 +185,7 @@ ExpressionPtr Parser::joinedTexts()
     ExpressionPtr left = arithmetic(0);
     if (!at("&"))
         return left;
-    // A chain is one node: a & b & c is written over and over by the program.
-    ExpressionPtr join = node(ExpressionKind::Join, start, "&", std::move(left));
-    while (accept("&"))
-        join->arguments.push_back(arithmetic(0));
-    join->text = textFrom(start);
-    return join;
+    return chain(ExpressionKind::Join, "&", start, std::move(left), [&] { return arithmetic(0); });
 }
 
 ExpressionPtr Parser::arithmetic(std::size_t level)
@@ -304,7 +327,7 @@ ExpressionPtr Parser::call(std::string_view name, std::size_t start)
     ExpressionPtr result = make(ExpressionKind::Call, start, name);
     if (!at(")")) {
         do
-            result->arguments.push_back(logic(0));
+            add(*result, logic(0));
         while (accept(","));
     }
     expect(")");

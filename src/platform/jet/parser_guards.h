@@ -13,7 +13,7 @@ public:
     {
         constexpr int deepest = 200;
         if (++parser.m_depth > deepest)
-            raiseError(SyntaxError, "Query is too complex.");
+            parser.failTooComplex();
     }
     ~DepthGuard() { --m_parser.m_depth; }
     DepthGuard(const DepthGuard &) = delete;

@@ -22,14 +22,16 @@ Insert Parser::insert()
     if (accept("VALUES")) {
         expect("(");
         do
-            insert.values.push_back(expression());
+            insert.values.push_back(clauseExpression());
         while (accept(","));
         expect(")");
         if (at(","))
-            raiseSyntax("Missing semicolon (;) at end of SQL statement", m_lexer.statement(), peek().offset,
-                        peek().end);
-    } else
+            failAt("Missing semicolon (;) at end of SQL statement", peek());
+    } else if (at("SELECT") || at("TABLE") || at("("))
         insert.query = query();
+    expectEndOfClause();
+    if (insert.values.empty() && !insert.query)
+        fail();
     return insert;
 }
 
@@ -37,7 +39,7 @@ Update Parser::update()
 {
     const ClauseGuard clause(*this, "UPDATE statement");
     Update update;
-    update.source = joinedSource();
+    update.sources = sources();
     expect("SET");
     do {
         Assignment assignment;
@@ -50,13 +52,14 @@ Update Parser::update()
         }
         assignment.column->text = textFrom(start);
         expect("=");
-        assignment.value = expression();
+        assignment.value = clauseExpression();
         update.assignments.push_back(std::move(assignment));
     } while (accept(","));
     if (accept("WHERE")) {
         const ClauseGuard where(*this, "WHERE clause");
-        update.where = expression();
+        update.where = clauseExpression();
     }
+    expectEndOfClause();
     return update;
 }
 
@@ -64,6 +67,7 @@ Delete Parser::deleteRows()
 {
     const ClauseGuard clause(*this, "DELETE statement");
     Delete statement;
+    accept("DISTINCTROW");
     if (!accept("*") && atIdentifier()) {
         statement.starOf = identifier();
         expect(".");
@@ -72,12 +76,13 @@ Delete Parser::deleteRows()
     expect("FROM");
     {
         const ClauseGuard from(*this, "FROM clause");
-        statement.source = joinedSource();
+        statement.sources = sources();
     }
     if (accept("WHERE")) {
         const ClauseGuard where(*this, "WHERE clause");
-        statement.where = expression();
+        statement.where = clauseExpression();
     }
+    expectEndOfClause();
     return statement;
 }
 
@@ -112,6 +117,7 @@ CreateTable Parser::createTable()
             table.columns.push_back(columnDefinition(table));
     } while (accept(","));
     expect(")");
+    expectEndOfClause();
     return table;
 }
 
@@ -131,8 +137,7 @@ ColumnDefinition Parser::columnDefinition(CreateTable &table)
             fail();
         const double characters = m_lexer.literals()[std::size_t(width.literal)].number;
         if (characters < 1 || characters > 255)
-            raiseSyntax("Size of field '" + std::string(column.name) + "' is too long", m_lexer.statement(),
-                        width.offset, width.end);
+            failAt("Size of field '" + std::string(column.name) + "' is too long", width);
         take();
         expect(")");
         column.type = {DataType::Text, static_cast<int>(characters)};
@@ -170,19 +175,24 @@ CreateIndex Parser::createIndex(bool unique)
         index.columns.emplace_back(column, descending);
     } while (accept(","));
     expect(")");
+    expectEndOfClause();
     return index;
 }
 
 Statement Parser::drop()
 {
     const ClauseGuard clause(*this, "DROP TABLE or DROP INDEX");
-    if (accept("TABLE"))
-        return DropTable{identifier()};
+    if (accept("TABLE")) {
+        const DropTable table{identifier()};
+        expectEndOfClause();
+        return table;
+    }
     expect("INDEX");
     DropIndex index;
     index.index = identifier();
     expect("ON");
     index.table = identifier();
+    expectEndOfClause();
     return index;
 }
 

@@ -13,6 +13,14 @@ const ScopeSource *Scope::source(std::string_view name) const
     return nullptr;
 }
 
+std::vector<std::string_view> Scope::sourceNames() const
+{
+    std::vector<std::string_view> names;
+    for (const ScopeSource &candidate : sources)
+        names.push_back(candidate.name);
+    return names;
+}
+
 Scope::Found Scope::find(std::string_view qualifier, std::string_view name) const
 {
     Found found;

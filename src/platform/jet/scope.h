@@ -29,6 +29,8 @@ struct Scope
     const std::vector<SelectItem> *items = nullptr;
     std::size_t visibleItems = 0;
     bool hasAggregate = false;
+    /// The columns of this scope that sub-queries have used so far.
+    std::vector<const Expression *> borrowed;
 
     struct Found
     {
@@ -39,6 +41,7 @@ struct Scope
     /// Looks in this scope alone. Raises SyntaxError for a name that more than one source has.
     [[nodiscard]] Found find(std::string_view qualifier, std::string_view name) const;
     [[nodiscard]] const ScopeSource *source(std::string_view name) const;
+    [[nodiscard]] std::vector<std::string_view> sourceNames() const;
 };
 
 } // namespace jet

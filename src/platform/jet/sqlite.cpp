@@ -82,6 +82,8 @@ void raiseSqlite(sqlite3 *handle, int result)
         if (row.result == extended || row.result == (result & 0xff))
             raiseError(row.number, row.text != nullptr ? row.text : duplicateText);
     }
+    if (tellsOfLimit(message))
+        raiseError(SyntaxError, queryTooComplex);
     raiseError(Failure, message);
 }
 

@@ -29,7 +29,7 @@ enum class ExpressionKind {
     Join,       ///< a & b & ...
     Compare,    ///< a `name` b
     Quantified, ///< a `name` ANY or ALL (query)
-    Logic,      ///< a `name` b: And, Or, Xor, Eqv, Imp
+    Logic,      ///< a `name` b: Xor, Eqv, Imp; a And b And ..., a Or b Or ...
     Like,       ///< a Like b
     Between,    ///< a Between b And c
     InList,     ///< a In (b, c, ...)
@@ -51,6 +51,7 @@ struct Expression
     QueryPtr query;
     int literal = -1;
     int number = 0;
+    int depth = 0;          ///< of the tree below, sub-queries left out
     bool negated = false;   ///< Not Like, Not In, Not Between, Is Not Null
     bool all = false;       ///< ALL instead of ANY
     bool bracketed = false; ///< a name in brackets is never a constant
@@ -126,7 +127,7 @@ struct Insert
 
 struct Update
 {
-    std::unique_ptr<Source> source;
+    std::vector<std::unique_ptr<Source>> sources; ///< separated by commas
     std::vector<Assignment> assignments;
     ExpressionPtr where;
 };
@@ -134,7 +135,7 @@ struct Update
 struct Delete
 {
     std::string_view starOf;
-    std::unique_ptr<Source> source;
+    std::vector<std::unique_ptr<Source>> sources; ///< separated by commas
     ExpressionPtr where;
 };
 

@@ -24,6 +24,7 @@ constexpr TypeRow types[] = {
     {DataType::Short, FieldType::Short, 2, "SHORT"},
     {DataType::Long, FieldType::Long, 4, "LONG"},
     {DataType::Counter, FieldType::Long, 4, "INTEGER"},
+    {DataType::Wide, FieldType::Double, 8, "DOUBLE"},
     {DataType::Single, FieldType::Single, 4, "SINGLE"},
     {DataType::Double, FieldType::Double, 8, "DOUBLE"},
     {DataType::Currency, FieldType::Currency, 8, "CURRENCY"},
@@ -134,11 +135,11 @@ DataType commonType(DataType left, DataType right)
     if (left == DataType::Unknown)
         return right;
     if (isText(left) || isText(right))
-        return isText(left) && isText(right) ? DataType::Memo : DataType::Unknown;
+        return DataType::Memo;
     if (left == DataType::Date || right == DataType::Date)
         return DataType::Date;
     if (isWhole(left) && isWhole(right))
-        return DataType::Long;
+        return left == DataType::Wide || right == DataType::Wide ? DataType::Wide : DataType::Long;
     return DataType::Double;
 }
 

@@ -15,6 +15,7 @@ enum class DataType {
     Short,
     Long,
     Counter,
+    Wide, ///< what + - * make of whole numbers: it may leave the range of Long
     Single,
     Double,
     Currency,
@@ -36,7 +37,13 @@ enum class DataType {
 
 [[nodiscard]] constexpr bool isWhole(DataType type)
 {
-    return type >= DataType::Boolean && type <= DataType::Counter;
+    return type >= DataType::Boolean && type <= DataType::Wide;
+}
+
+/// Whole numbers of at most 32 bits.
+[[nodiscard]] constexpr bool isLong(DataType type)
+{
+    return isWhole(type) && type != DataType::Wide;
 }
 
 /// One column as its table defines it.

@@ -1,0 +1,137 @@
+#include "platform/jet/emitter.h"
+#include "platform/jet/errortexts.h"
+
+#include <span>
+
+namespace jet {
+namespace {
+
+/// a OP b OP c ... as a tree of bounded depth: SQLite refuses deep ones.
+std::string balanced(std::span<const std::string> operands, std::string_view sign)
+{
+    constexpr std::size_t longest = 50;
+    std::string sql = "(";
+    if (operands.size() > longest) {
+        const std::size_t half = operands.size() / 2;
+        sql += balanced(operands.first(half), sign);
+        sql += sign;
+        sql += balanced(operands.subspan(half), sign);
+    } else {
+        for (std::size_t i = 0; i < operands.size(); ++i)
+            sql.append(i == 0 ? std::string_view() : sign).append(operands[i]);
+    }
+    return sql + ')';
+}
+
+/// jet_cat(a, b, ...), nested where SQLite would refuse so many arguments.
+std::string concatenated(std::span<const std::string> operands)
+{
+    constexpr std::size_t longest = 100;
+    if (operands.size() == 1)
+        return operands[0];
+    std::string sql;
+    const std::size_t share = operands.size() <= longest ? 1 : (operands.size() + longest - 1) / longest;
+    for (; !operands.empty(); operands = operands.subspan(std::min(share, operands.size())))
+        sql += (sql.empty() ? "jet_cat(" : ", ") +
+               concatenated(operands.first(std::min(share, operands.size())));
+    return sql + ')';
+}
+
+} // namespace
+
+// Whole numbers are as exact as 64 bits; floating ones and dates are checked where the chain
+// of operators ends.
+Emitter::Piece Emitter::infix(std::string_view sign, const Piece &left, const Piece &right)
+{
+    const char level = sign == "*" ? '*' : '+';
+    const bool goesOn = left.chain == level && (level == '+' || !left.mayOverflow);
+    const std::string a = goesOn ? left.sql.substr(1, left.sql.size() - 2) : asNumber(left);
+    const DataType types[] = {left.type.type, right.type.type};
+    const bool whole = isWhole(types[0]) && isWhole(types[1]);
+    const bool wide = types[0] == DataType::Wide || types[1] == DataType::Wide;
+    const bool dates[] = {types[0] == DataType::Date, types[1] == DataType::Date};
+    const bool date = (sign == "+" && (dates[0] || dates[1])) || (sign == "-" && dates[0] && !dates[1]);
+    return {.sql = '(' + a + ' ' + std::string(sign) + ' ' + asNumber(right) + ')',
+            .type = {date    ? DataType::Date
+                     : whole ? DataType::Wide
+                             : DataType::Double},
+            .mayOverflow = !whole || (level == '*' && wide) || (goesOn && left.mayOverflow),
+            .chain = level};
+}
+
+Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
+{
+    const Piece left = expression(*source.arguments[0], scope);
+    const Piece right = expression(*source.arguments[1], scope);
+    const std::string_view sign = source.name;
+    const DataType common = commonType(left.type.type, right.type.type);
+    const bool texts = isText(left.type.type) && isText(right.type.type);
+    if (sign == "+" && texts)
+        return {.sql = '(' + value(left) + " || " + value(right) + ')', .type = {DataType::Memo}};
+
+    const bool runningTells =
+        isText(common) && (left.type.type == DataType::Unknown || right.type.type == DataType::Unknown);
+    if (sign == "+" && runningTells) {
+        m_mayRaise = true;
+        return {.sql = "jet_add(" + value(left) + ", " + value(right) + ')', .type = {DataType::Unknown}};
+    }
+    if (sign == "+" || sign == "-" || sign == "*")
+        return infix(sign, left, right);
+
+    m_mayRaise = true;
+    const bool longs = isLong(left.type.type) && isLong(right.type.type);
+    const DataType whole = longs ? DataType::Long : DataType::Wide;
+    const auto call = [&](const char *name, DataType type) {
+        return Piece{.sql = std::string(name) + '(' + asNumber(left) + ", " + asNumber(right) + ')',
+                     .type = {type}};
+    };
+    if (sign == "/")
+        return call("jet_div", DataType::Double);
+    if (sign == "\\")
+        return call("jet_idiv", whole);
+    if (sign == "MOD")
+        return call("jet_mod", whole);
+    if (sign == "^")
+        return call("jet_pow", DataType::Double);
+    const std::string a = asBits(left);
+    const std::string b = asBits(right);
+    if (sign == "BAND")
+        return {.sql = '(' + a + " & " + b + ')', .type = {DataType::Long}};
+    if (sign == "BOR")
+        return {.sql = '(' + a + " | " + b + ')', .type = {DataType::Long}};
+    return {.sql = "((" + a + " | " + b + ") & ~(" + a + " & " + b + "))", .type = {DataType::Long}};
+}
+
+std::string Emitter::asBits(const Piece &piece)
+{
+    if (isLong(piece.type.type))
+        return value(piece);
+    m_mayRaise = true;
+    return "jet_clng(" + asNumber(piece) + ')';
+}
+
+Emitter::Piece Emitter::joinTexts(const Expression &source, Scope &scope)
+{
+    std::vector<std::string> operands;
+    for (const ExpressionPtr &operand : source.arguments)
+        operands.push_back(asText(expression(*operand, scope)));
+    return {.sql = concatenated(operands), .type = {DataType::Text}};
+}
+
+Emitter::Piece Emitter::logic(const Expression &source, Scope &scope)
+{
+    std::vector<std::string> operands;
+    for (const ExpressionPtr &operand : source.arguments)
+        operands.push_back(conditionIn(*operand, scope));
+    const std::string_view word = source.name;
+    std::string sql;
+    if (word == "AND" || word == "OR")
+        sql = balanced(operands, word == "AND" ? " AND " : " OR ");
+    else if (word == "IMP")
+        sql = "((NOT " + operands[0] + ") OR " + operands[1] + ')';
+    else
+        sql = "((NOT " + operands[0] + (word == "XOR" ? ") <> (NOT " : ") = (NOT ") + operands[1] + "))";
+    return {.sql = sql, .type = {DataType::Short}, .condition = true};
+}
+
+} // namespace jet

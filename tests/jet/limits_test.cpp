@@ -1,0 +1,119 @@
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/recordset.h"
+#include "support/freshstore.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Long and deep statements: answered, or refused in plain words, and the store works on.
+class LimitsTest : public testing::Test
+{
+public:
+    void SetUp() override
+    {
+        const QString path = m_folder.filePath("store.mdb"_L1);
+        makeFreshStore(path);
+        m_connection.open(jet::connectionString(path));
+        m_connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('A')"_s);
+    }
+
+    /// The only value of the answer, or the number and the text of the error.
+    QString answer(const QString &sql)
+    {
+        try {
+            jet::Recordset rows;
+            rows.open(sql, m_connection);
+            return rows.recordCount() == 1 ? rows.value(0).toText() : QString::number(rows.recordCount());
+        } catch (const Error &error) {
+            return QString::number(error.number()) + u' ' + error.description();
+        }
+    }
+
+private:
+    QTemporaryDir m_folder;
+    jet::Connection m_connection;
+};
+
+QString repeated(QLatin1StringView text, int times)
+{
+    return QString(text).repeated(times);
+}
+
+const QString tooComplex = u"-2147217900 Query is too complex."_s;
+
+struct Statement
+{
+    const char *name;
+    QString sql;
+    QString answer;
+};
+
+TEST_F(LimitsTest, LongStatementsAreAnswered)
+{
+    QStringList numbers;
+    for (int i = 1; i <= 10'000; ++i)
+        numbers.append(QString::number(i));
+    const Statement statements[] = {
+        {"a list", "SELECT ID FROM Tbl_Rooms WHERE ID IN ("_L1 + numbers.join(u',') + u')', u"1"_s},
+        {"a list of texts",
+         "SELECT ID FROM Tbl_Rooms WHERE RoomNumber IN ('"_L1 + numbers.join("','"_L1) + "','a')"_L1, u"1"_s},
+        {"alternatives", "SELECT ID FROM Tbl_Rooms WHERE ID = "_L1 + numbers.join(" OR ID = "_L1), u"1"_s},
+        {"conditions", "SELECT ID FROM Tbl_Rooms WHERE ID < 2"_L1 + repeated(" AND ID > 0"_L1, 5000), u"1"_s},
+        {"joined texts", "SELECT Len("_L1 + numbers.join(" & "_L1) + u')', u"38894"_s},
+        {"a sum", "SELECT "_L1 + repeated("1 + "_L1, 250) + u'1', u"251"_s},
+        {"parentheses", "SELECT "_L1 + repeated("("_L1, 150) + u'7' + repeated(")"_L1, 150), u"7"_s},
+        {"branches", "SELECT "_L1 + repeated("IIf(False, 1, "_L1, 60) + u'5' + repeated(")"_L1, 60), u"5"_s},
+        {"choices", "SELECT Choose(3000"_L1 + repeated(", 1"_L1, 2999) + ", 2)"_L1, u"2"_s},
+        {"unions", "SELECT ID FROM Tbl_Rooms"_L1 + repeated(" UNION SELECT ID FROM Tbl_Rooms"_L1, 400),
+         u"1"_s},
+        {"a text of 1 MB", "SELECT Len('"_L1 + repeated("a"_L1, 1'000'000) + "')"_L1, u"1000000"_s},
+        {"blanks", "SELECT "_L1 + repeated(" "_L1, 1'000'000) + u'1', u"1"_s},
+    };
+    for (const Statement &statement : statements)
+        EXPECT_EQ(statement.answer, answer(statement.sql)) << statement.name;
+}
+
+TEST_F(LimitsTest, DeepStatementsAreRefusedInPlainWords)
+{
+    const Statement statements[] = {
+        {"parentheses", "SELECT "_L1 + repeated("("_L1, 5000) + u'1' + repeated(")"_L1, 5000), tooComplex},
+        {"Not", "SELECT "_L1 + repeated("NOT "_L1, 5000) + u'1', tooComplex},
+        {"minus", "SELECT "_L1 + repeated("- "_L1, 5000) + u'1', tooComplex},
+        {"plus", "SELECT "_L1 + repeated("+ "_L1, 5000) + u'1', tooComplex},
+        {"a sum", "SELECT "_L1 + repeated("1 + "_L1, 5000) + u'1', tooComplex},
+        {"powers", "SELECT "_L1 + repeated("1 ^ "_L1, 5000) + u'1', tooComplex},
+        {"comparisons", "SELECT "_L1 + repeated("1 = "_L1, 5000) + u'1', tooComplex},
+        {"implications", "SELECT "_L1 + repeated("1 Imp "_L1, 5000) + u'1', tooComplex},
+        {"calls", "SELECT "_L1 + repeated("Abs("_L1, 5000) + u'1' + repeated(")"_L1, 5000), tooComplex},
+        {"calls within the parser's depth",
+         "SELECT "_L1 + repeated("Abs("_L1, 150) + u'1' + repeated(")"_L1, 150), tooComplex},
+        {"sub-queries", "SELECT "_L1 + repeated("(SELECT "_L1, 100) + u'1' + repeated(")"_L1, 100),
+         tooComplex},
+        {"derived tables",
+         "SELECT * FROM "_L1 + repeated("(SELECT * FROM "_L1, 300) + "Tbl_Rooms"_L1 + repeated(")"_L1, 300),
+         tooComplex},
+        {"joins in parentheses",
+         "SELECT 1 FROM "_L1 + repeated("("_L1, 5000) + "Tbl_Rooms"_L1 + repeated(")"_L1, 5000), tooComplex},
+        {"unions", "SELECT ID FROM Tbl_Rooms"_L1 + repeated(" UNION SELECT ID FROM Tbl_Rooms"_L1, 1000),
+         tooComplex},
+        {"columns", "SELECT ID"_L1 + repeated(", ID"_L1, 3000) + " FROM Tbl_Rooms"_L1, tooComplex},
+    };
+    for (const Statement &statement : statements)
+        EXPECT_EQ(statement.answer, answer(statement.sql)) << statement.name;
+    EXPECT_EQ(u"1"_s, answer(u"SELECT Count(*) FROM Tbl_Rooms"_s));
+}
+
+TEST_F(LimitsTest, LongErrorsShowAnExcerpt)
+{
+    const QString text = answer("SELECT 'x"_L1 + repeated("a"_L1, 1'000'000));
+    EXPECT_TRUE(text.startsWith("-2147217900 Syntax error in string"_L1));
+    EXPECT_LT(text.size(), 600);
+}
+
+} // namespace
