@@ -30,7 +30,7 @@ public:
     /// file when it is missing, a folder, unreadable or no store.
     void open(const QString &connectionString, const QString &user = {}, const QString &password = {},
               int options = -1);
-    /// Commits what is pending. Raises ConnectionClosed's brother ObjectClosed (3704) when not open.
+    /// Commits what is pending. Raises ObjectClosed (3704) when not open.
     void close();
     [[nodiscard]] int state() const { return m_database ? StateOpen : StateClosed; }
 

@@ -8,6 +8,7 @@
 
 #include <QFileInfo>
 
+#include <exception>
 #include <map>
 
 namespace jet {
@@ -15,9 +16,8 @@ namespace {
 
 constexpr int groupLimit = 20000;
 constexpr auto groupAge = std::chrono::milliseconds(250);
-constexpr std::size_t cacheLimit = 500;
+constexpr std::size_t cacheLimit = 500; // the program has some hundred shapes; the rest people type
 
-// Programs use a few hundred shapes; the rest is what people type.
 std::map<QString, std::weak_ptr<Database>> &openDatabases()
 {
     static std::map<QString, std::weak_ptr<Database>> databases;
@@ -106,10 +106,17 @@ void Database::create(const QString &path)
 
 void Database::flushAll()
 {
+    std::exception_ptr first;
     for (auto &[path, known] : openDatabases()) {
-        if (const std::shared_ptr<Database> database = known.lock())
-            database->flushUnlessRead();
+        try {
+            if (const std::shared_ptr<Database> database = known.lock())
+                database->flushUnlessRead();
+        } catch (const Error &) {
+            first = first ? first : std::current_exception();
+        }
     }
+    if (first)
+        std::rethrow_exception(first);
 }
 
 Database::Database(Handle handle)
@@ -127,7 +134,7 @@ Database::~Database()
         flush();
         // The emptied journal goes too: a store at rest is one file.
         sqlite3_exec(m_handle, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
-    } catch (const Error &) {
+    } catch (...) {
         // Whoever closes by hand has heard of it; a destructor has no one to tell.
     }
 }

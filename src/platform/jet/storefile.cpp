@@ -66,9 +66,10 @@ void createStoreFile(const QString &path)
         if (result != SQLITE_OK)
             raiseSqlite(raw, result);
         // The file is worth nothing yet: whoever fills it makes it safe on the disk.
-        const QByteArray marks =
-            "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA encoding = 'UTF-8'; PRAGMA application_id = " + QByteArray::number(ApplicationId) +
-            "; PRAGMA user_version = " + QByteArray::number(FileVersion);
+        const QByteArray marks = "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA encoding = "
+                                 "'UTF-8'; PRAGMA application_id = " +
+                                 QByteArray::number(ApplicationId) +
+                                 "; PRAGMA user_version = " + QByteArray::number(FileVersion);
         runSqlite(raw, marks.constData());
     } catch (const Error &error) {
         QFile::remove(path);
