@@ -74,10 +74,20 @@ void closeAllUsers()
     QApplication::processEvents();
 }
 
+/// Fonts, pictures and caches are there before anything is measured.
+void warmUp()
+{
+    modRegistry::saveDataBase(workbench::sampleStore(10));
+    mainForm().show();
+    openAllUsers();
+    closeAllUsers();
+}
+
 void OpenAllUsers(benchmark::State &state)
 {
-    modRegistry::saveDataBase(workbench::sampleStore(int(state.range(0))));
-    mainForm().show();
+    const QString &store = workbench::sampleStore(int(state.range(0)));
+    warmUp();
+    modRegistry::saveDataBase(store);
     for (auto _ : state) {
         workbench::measure(state, openAllUsers);
         closeAllUsers();
@@ -105,10 +115,7 @@ void MemoryOfAllUsers(benchmark::State &state)
 {
     const int rows = int(state.range(0));
     const QString &store = workbench::sampleStore(rows);
-    modRegistry::saveDataBase(workbench::sampleStore(10));
-    mainForm().show();
-    openAllUsers(); // fonts, pictures and caches are there before the count begins
-    closeAllUsers();
+    warmUp();
     modRegistry::saveDataBase(store);
     for (auto _ : state) {
         const double before = bytesInUse();
