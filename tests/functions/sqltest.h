@@ -25,7 +25,8 @@ protected:
     void execute(const std::string &sql);
     /// The literals of the first column of all rows, joined by a blank, or the error.
     std::string values(const std::string &sql);
-    void check(std::span<const SqlCase> cases);
+    /// The function turns each value into what is expected.
+    void check(std::span<const SqlCase> cases, const std::string &shownBy = "quote");
 
 private:
     sqlite3 *m_handle = nullptr;
