@@ -37,7 +37,7 @@ protected:
     jet::Connection connection;
 };
 
-// 27 million pairs of rooms: without an answer it would run for minutes.
+// Eight billion combinations of rooms: without an answer it would run for minutes.
 constexpr auto longSelect =
     "SELECT COUNT(*) FROM Tbl_Rooms AS a, Tbl_Rooms AS b, Tbl_Rooms AS c, Tbl_Rooms AS d "
     "WHERE a.RoomNumber & b.RoomNumber = c.RoomNumber & d.RoomNumber"_L1;
