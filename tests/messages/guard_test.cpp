@@ -6,6 +6,8 @@
 #include "toolkit/pointer.h"
 #include "toolkit/statusbar.h"
 
+#include <QTimer>
+
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;

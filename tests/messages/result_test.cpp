@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QScreen>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
