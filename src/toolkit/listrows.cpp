@@ -59,6 +59,12 @@ QUtf8StringView ListRows::view(int row, int column) const
 
 void ListRows::setText(int row, int column, QStringView text)
 {
+    const QByteArray utf8 = text.toUtf8();
+    setText(row, column, QUtf8StringView(utf8));
+}
+
+void ListRows::setText(int row, int column, QUtf8StringView text)
+{
     Q_ASSERT(row >= 0 && row < rowCount() && column >= 0);
     if (column >= columnCount()) {
         if (text.isEmpty())

@@ -28,6 +28,7 @@ public:
     [[nodiscard]] QString text(int row, int column) const;
     [[nodiscard]] QUtf8StringView view(int row, int column) const;
     void setText(int row, int column, QStringView text);
+    void setText(int row, int column, QUtf8StringView text);
 
     [[nodiscard]] int picture(int row, int column) const;
     /// 0 to 255.

@@ -151,6 +151,8 @@ void frmDisplay::PrepareForm()
             attempt(doIt);
     };
     MainWindowLink *window = mainWindow();
+    // Painted once, with its pictures, however often the steps between yield.
+    step([this] { listDisplay->setUpdatesEnabled(false); });
     step([&] {
         if (window)
             window->setWindowMenuShown(true);
@@ -166,6 +168,7 @@ void frmDisplay::PrepareForm()
     step([this] { takeCaption(); });
     step([] { yieldToEvents(); });
     step([this] { RenderListIcons(); });
+    step([this] { listDisplay->setUpdatesEnabled(true); });
     step([] { showStatusReady(); });
 }
 

@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QLabel>
 
+#include <string_view>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -25,18 +26,18 @@ enum class Subject { Value, Field };
 struct PictureTest
 {
     Subject subject;
-    QLatin1StringView text;
+    std::string_view text;
     int picture;
 };
 
 // Made in this order on every cell; the last that matches wins.
 constexpr PictureTest pictureTests[] = {
-    {Subject::Value, "N/A"_L1, 10},         {Subject::Field, "UserName"_L1, 14},
-    {Subject::Field, "Server"_L1, 11},      {Subject::Field, "ServerName"_L1, 11},
-    {Subject::Field, "Description"_L1, 12}, {Subject::Value, "CH"_L1, 13},
-    {Subject::Value, "R"_L1, 13},           {Subject::Value, "Full Control"_L1, 13},
-    {Subject::Value, "L"_L1, 13},           {Subject::Field, "FolderName"_L1, 4},
-    {Subject::Field, "GlobalGroup"_L1, 1},  {Subject::Field, "LocalGroup"_L1, 2},
+    {Subject::Value, "N/A", 10},         {Subject::Field, "UserName", 14},
+    {Subject::Field, "Server", 11},      {Subject::Field, "ServerName", 11},
+    {Subject::Field, "Description", 12}, {Subject::Value, "CH", 13},
+    {Subject::Value, "R", 13},           {Subject::Value, "Full Control", 13},
+    {Subject::Value, "L", 13},           {Subject::Field, "FolderName", 4},
+    {Subject::Field, "GlobalGroup", 1},  {Subject::Field, "LocalGroup", 2},
 };
 
 /// The tests with what is known before the first row: which of them a field name passes.
@@ -46,11 +47,11 @@ public:
     explicit CellPicture(QStringView field)
     {
         for (const PictureTest &test : pictureTests)
-            if (test.subject == Subject::Value || field == test.text)
+            if (test.subject == Subject::Value || field == QLatin1StringView(test.text))
                 m_tests.push_back(&test);
     }
 
-    [[nodiscard]] int operator()(QStringView value) const
+    [[nodiscard]] int operator()(std::string_view value) const
     {
         for (auto test = m_tests.rbegin(); test != m_tests.rend(); ++test)
             if ((*test)->subject == Subject::Field || value == (*test)->text)
@@ -62,10 +63,18 @@ private:
     std::vector<const PictureTest *> m_tests;
 };
 
-QString textOf(jet::Recordset &recordset, int field)
+/// The text of a field of the current record, in the recordset or, where that holds none, in `own`.
+QUtf8StringView textOf(jet::Recordset &recordset, int field, QByteArray &own)
 {
-    QString text;
-    attempt([&] { text = recordset.value(field).toText(); });
+    QUtf8StringView text;
+    attempt([&] {
+        if (const auto stored = recordset.textView(field)) {
+            text = *stored;
+            return;
+        }
+        own = recordset.value(field).toText().toUtf8();
+        text = own;
+    });
     return text;
 }
 
@@ -79,13 +88,15 @@ ListRows readRows(jet::Recordset &recordset, const QStringList &fields)
     ListRows rows(count);
     if (recordset.recordCount() == 0)
         return rows;
+    QByteArray own;
     for (recordset.moveFirst(); !recordset.eof(); recordset.moveNext()) {
         const int row = rows.addRow();
-        rows.setText(row, 0, textOf(recordset, 0));
+        rows.setText(row, 0, textOf(recordset, 0, own));
         for (int field = 1; field < count; ++field) {
-            const QString text = textOf(recordset, field);
+            const QUtf8StringView text = textOf(recordset, field, own);
             rows.setText(row, field, text);
-            rows.setPicture(row, field, pictures[std::size_t(field)](text));
+            rows.setPicture(row, field,
+                            pictures[std::size_t(field)]({text.data(), std::size_t(text.size())}));
         }
     }
     return rows;

@@ -221,6 +221,15 @@ Value Recordset::value(int index)
     return fields().item(index).value();
 }
 
+std::optional<QUtf8StringView> Recordset::textView(int index)
+{
+    const FieldType type = fields().item(index).type();
+    requireRecord();
+    if (storageOf(type) != Storage::Texts)
+        return {};
+    return m_columns[std::size_t(index)].texts.view(m_current);
+}
+
 Value Recordset::valueAt(std::size_t row, std::size_t column) const
 {
     const Column &values = m_columns[column];
