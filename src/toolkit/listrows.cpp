@@ -59,12 +59,6 @@ QUtf8StringView ListRows::view(int row, int column) const
 
 void ListRows::setText(int row, int column, QStringView text)
 {
-    const QByteArray utf8 = text.toUtf8();
-    setText(row, column, QUtf8StringView(utf8));
-}
-
-void ListRows::setText(int row, int column, QUtf8StringView text)
-{
     Q_ASSERT(row >= 0 && row < rowCount() && column >= 0);
     if (column >= columnCount()) {
         if (text.isEmpty())
@@ -76,6 +70,12 @@ void ListRows::setText(int row, int column, QUtf8StringView text)
         texts.setNull(std::size_t(row));
     else
         texts.set(std::size_t(row), text);
+}
+
+void ListRows::setTexts(int column, const TextColumn &texts)
+{
+    Q_ASSERT(column >= 0 && column < columnCount());
+    m_columns[std::size_t(column)].texts = texts;
 }
 
 int ListRows::picture(int row, int column) const

@@ -22,13 +22,16 @@ public:
 
     /// Appends a row without texts and gives its index.
     int addRow();
+    /// Appends so many rows without texts.
+    void addRows(int count) { m_rows += std::size_t(count); }
     /// O(rows).
     void removeRow(int row);
 
     [[nodiscard]] QString text(int row, int column) const;
     [[nodiscard]] QUtf8StringView view(int row, int column) const;
     void setText(int row, int column, QStringView text);
-    void setText(int row, int column, QUtf8StringView text);
+    /// The texts of a column there is, in place of those it has; of as many rows as there are at most.
+    void setTexts(int column, const TextColumn &texts);
 
     [[nodiscard]] int picture(int row, int column) const;
     /// 0 to 255.

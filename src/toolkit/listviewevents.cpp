@@ -113,6 +113,16 @@ void ListView::resizeEvent(QResizeEvent *event)
         applySpread();
 }
 
+void ListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                           const QList<int> &roles)
+{
+    // Of many rows the base class would look for the place of each.
+    if (topLeft.row() != bottomRight.row())
+        viewport()->update();
+    else
+        QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
 bool ListView::viewportEvent(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)

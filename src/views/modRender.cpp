@@ -63,41 +63,35 @@ private:
     std::vector<const PictureTest *> m_tests;
 };
 
-/// The text of a field of the current record, in the recordset or, where that holds none, in `own`.
-QUtf8StringView textOf(jet::Recordset &recordset, int field, QByteArray &own)
+void readTexts(jet::Recordset &recordset, int field, ListRows &rows)
 {
-    QUtf8StringView text;
-    attempt([&] {
-        if (const auto stored = recordset.textView(field)) {
-            text = *stored;
-            return;
-        }
-        own = recordset.value(field).toText().toUtf8();
-        text = own;
-    });
-    return text;
+    if (const TextColumn *texts = recordset.texts(field)) {
+        rows.setTexts(field, *texts);
+        return;
+    }
+    int row = 0;
+    for (recordset.moveFirst(); !recordset.eof(); recordset.moveNext(), ++row)
+        attempt([&] { rows.setText(row, field, recordset.value(field).toText()); });
+}
+
+void setPictures(ListRows &rows, int field, const CellPicture &picture)
+{
+    for (int row = 0; row < rows.rowCount(); ++row) {
+        const QUtf8StringView text = rows.view(row, field);
+        rows.setPicture(row, field, picture({text.data(), std::size_t(text.size())}));
+    }
 }
 
 ListRows readRows(jet::Recordset &recordset, const QStringList &fields)
 {
-    const int count = int(fields.size());
-    std::vector<CellPicture> pictures;
-    for (const QString &field : fields)
-        pictures.emplace_back(field);
-
-    ListRows rows(count);
+    ListRows rows(int(fields.size()));
     if (recordset.recordCount() == 0)
         return rows;
-    QByteArray own;
-    for (recordset.moveFirst(); !recordset.eof(); recordset.moveNext()) {
-        const int row = rows.addRow();
-        rows.setText(row, 0, textOf(recordset, 0, own));
-        for (int field = 1; field < count; ++field) {
-            const QUtf8StringView text = textOf(recordset, field, own);
-            rows.setText(row, field, text);
-            rows.setPicture(row, field,
-                            pictures[std::size_t(field)]({text.data(), std::size_t(text.size())}));
-        }
+    rows.addRows(recordset.recordCount());
+    for (int field = 0; field < fields.size(); ++field) {
+        readTexts(recordset, field, rows);
+        if (field > 0)
+            setPictures(rows, field, CellPicture(fields[field]));
     }
     return rows;
 }

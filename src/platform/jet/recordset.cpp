@@ -221,13 +221,11 @@ Value Recordset::value(int index)
     return fields().item(index).value();
 }
 
-std::optional<QUtf8StringView> Recordset::textView(int index)
+const TextColumn *Recordset::texts(int index)
 {
+    requireOpen();
     const FieldType type = fields().item(index).type();
-    requireRecord();
-    if (storageOf(type) != Storage::Texts)
-        return {};
-    return m_columns[std::size_t(index)].texts.view(m_current);
+    return storageOf(type) == Storage::Texts ? &m_columns[std::size_t(index)].texts : nullptr;
 }
 
 Value Recordset::valueAt(std::size_t row, std::size_t column) const

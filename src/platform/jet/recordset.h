@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace jet {
@@ -111,9 +110,9 @@ public:
     [[nodiscard]] Value value(QStringView name);
     /// Short for fields().item(index).value().
     [[nodiscard]] Value value(int index);
-    /// The UTF-8 of a text field of the current record where it stands, empty for Null; nothing for a
-    /// field of another type. Valid until the recordset is written, opened or closed.
-    [[nodiscard]] std::optional<QUtf8StringView> textView(int index);
+    /// The texts of all records of a text field, Null as Null; null for a field of another type. Valid
+    /// until the recordset is written, opened or closed.
+    [[nodiscard]] const TextColumn *texts(int index);
 
 private:
     friend class Field;
