@@ -23,7 +23,9 @@ int main(int argc, char **argv)
     }
     TableReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    const std::string table = reporter.table();
+    std::string table = reporter.table();
+    if (const std::string readers = reporter.readersTable(); !readers.empty())
+        table += "\n" + readers;
     std::printf("\n%s", table.c_str());
     if (argc == 2 && !(std::ofstream(argv[1]) << table)) {
         std::fprintf(stderr, "%s cannot be written\n", argv[1]);

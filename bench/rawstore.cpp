@@ -67,3 +67,9 @@ int RawStatement::columns() const
 {
     return sqlite3_column_count(m_statement.get());
 }
+
+bool RawStatement::isNumber(int column) const
+{
+    const int type = sqlite3_column_type(m_statement.get(), column);
+    return type == SQLITE_INTEGER || type == SQLITE_FLOAT;
+}

@@ -38,6 +38,7 @@ public:
     [[nodiscard]] qint64 number(int column) const;
     [[nodiscard]] std::string_view text(int column) const;
     [[nodiscard]] int columns() const;
+    [[nodiscard]] bool isNumber(int column) const;
 
 private:
     jet::StatementHandle m_statement;

@@ -1,5 +1,9 @@
 #include "table.h"
 
+#include "plan.h"
+#include "readers.h"
+
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -22,12 +26,15 @@ constexpr Comparison comparisons[] = {
     {"translating a new statement, against preparing the result", "Translate", "PrepareTranslated", 1},
     {"sorting last names, against NOCASE", "Sort", "SortNoCase", 3, false},
     {"LIKE '%er%', against SQLite's", "Like", "LikeOfSqlite", 2},
+    {"`addUsers` of a global group", "AddUsers", "AddUsersByHand", 2, false},
+    {"`AddPermissionsBatch`", "AddPermissionsBatch", "AddPermissionsBatchByHand", 2, false},
 };
 
 constexpr int few = 10'000;
 constexpr int many = 100'000;
 constexpr double memoryGoal = 4;
 constexpr double growthGoal = 1.3;
+constexpr double readerGoal = 2;
 
 std::string line(const std::string &what, const std::string &rows, const std::string &ours,
                  const std::string &floor, double ratio, double goal)
@@ -99,4 +106,30 @@ std::string TableReporter::table() const
                  withUnit(bytes / many, "bytes"), withUnit(texts / many, "bytes"), bytes / texts, memoryGoal);
     }
     return table;
+}
+
+std::string TableReporter::readersTable() const
+{
+    std::string table = "| reading method | rows | Kelvane | by hand | ratio | growth | reads with |\n"
+                        "|---|---|---|---|---|---|---|\n";
+    bool any = false;
+    for (const Reader &reader : readers()) {
+        const std::string name = reader.name;
+        const Measured *large = find(name, manyUsers);
+        const Measured *small = find(name, fewUsers);
+        const Measured *floor = find(name + "ByHand", manyUsers);
+        if (!large || !small || !floor)
+            continue;
+        any = true;
+        const double rows = large->counters.at("rows");
+        const double moreRows = std::max(1.0, rows / std::max(1.0, small->counters.at("rows")));
+        const double ratio = large->milliseconds / floor->milliseconds;
+        const double growth = large->milliseconds / small->milliseconds / moreRows;
+        char numbers[160];
+        std::snprintf(numbers, sizeof numbers, "%.0f | %.2f ms | %.2f ms | %.2f%s | %.2f", rows,
+                      large->milliseconds, floor->milliseconds, ratio,
+                      ratio > readerGoal ? " **missed**" : "", growth);
+        table += "| `" + name + "` | " + numbers + " | " + planOf(reader, manyUsers) + " |\n";
+    }
+    return any ? table : std::string();
 }

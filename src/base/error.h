@@ -10,7 +10,7 @@ inline constexpr int RuleViolation = 1973;
 
 /// What the engine and the record classes throw: a number and a text that names
 /// the thing at fault.
-class Error final : public std::exception
+class Error : public std::exception
 {
 public:
     Error(int number, QString description);

@@ -1,6 +1,7 @@
 #include "folders/clsFolders.h"
 
 #include "folders/clsFoldersPaths.h"
+#include "platform/jet/errors.h"
 #include "store/statement.h"
 
 #include <optional>
@@ -18,11 +19,15 @@ void addLine(QString &errors, const QString &what, QLatin1StringView complaint)
     errors += "\r\n"_L1 + what + complaint;
 }
 
-/// Runs statements whose failure does not end the batch.
+/// Runs statements whose failure does not end the batch. What is wrong with more than one statement, as
+/// changes of earlier ones that are lost, is told in a line of its own.
 class HeldBack final
 {
 public:
-    explicit HeldBack(StoreSession &store, Breath breath = {}) : m_store(store), m_breath(std::move(breath))
+    HeldBack(StoreSession &store, QString &errors, Breath breath = {})
+        : m_store(store)
+        , m_errors(errors)
+        , m_breath(std::move(breath))
     {
     }
 
@@ -42,26 +47,51 @@ public:
         return done ? std::optional(value) : std::nullopt;
     }
 
+    /// What the last statement failed with.
+    [[nodiscard]] const QString &failure() const { return m_failure; }
+
+    /// Ends the visit.
+    void close()
+    {
+        tellFailure([this] { m_store.close(); });
+    }
+
 private:
     template <typename Step>
-    static bool succeeds(Step &&step)
+    bool succeeds(Step &&step)
     {
         try {
             step();
             return true;
-        } catch (const Error &) {
-            return false;
+        } catch (const jet::ChangesLost &error) {
+            addLine(m_errors, error.description(), {});
+            m_failure = error.description();
+        } catch (const Error &error) {
+            m_failure = error.description();
+        }
+        return false;
+    }
+
+    template <typename Step>
+    void tellFailure(Step &&step)
+    {
+        try {
+            step();
+        } catch (const Error &error) {
+            addLine(m_errors, error.description(), {});
         }
     }
 
-    void breathe() const
+    void breathe()
     {
         if (m_breath)
-            m_breath();
+            tellFailure(m_breath);
     }
 
     StoreSession &m_store;
+    QString &m_errors;
     Breath m_breath;
+    QString m_failure;
 };
 
 /// The first of these that knows the name and server gets the permission.
@@ -110,6 +140,7 @@ bool replacePermission(HeldBack &store, const AccountStatements &account, const 
 void writePermission(HeldBack &store, const FolderPermission &item, QString &errors)
 {
     std::optional<Value> folder = folderId(store, item.path);
+    // A second look: while another program writes, the first may have failed.
     if (!folder || folder->isNull())
         folder = folderId(store, item.path);
     if (!folder || folder->isNull())
@@ -123,7 +154,7 @@ void writePermission(HeldBack &store, const FolderPermission &item, QString &err
         if (id->isNull())
             continue;
         if (!replacePermission(store, account, id->toText(), folder->toText(), item.permission))
-            addLine(errors, item.path, notAdded);
+            addLine(errors, item.path + u' ' + item.server + u'\\' + item.name + u' ' + store.failure(), {});
         return;
     }
     addLine(errors, item.server + u'\\' + item.name, unknownAccount);
@@ -153,12 +184,13 @@ void clsFolders::AddBatch(const QString &connectionString, const QStringList &pa
 {
     Q_ASSERT(paths.size() == descriptions.size());
     withStore(connectionString, [&](StoreSession &session) {
-        HeldBack store(session, breath);
+        HeldBack store(session, errors, breath);
         for (qsizetype i = 0; i < paths.size(); ++i) {
             const QString path = folderPath(paths[i]);
             if (!writeFolder(store, path, descriptions.value(i), keepExisting))
                 addLine(errors, path, notAdded);
         }
+        store.close();
     });
 }
 
@@ -169,10 +201,11 @@ void clsFolders::AddPermissionsBatch(const QString &connectionString, const QStr
     Q_ASSERT(paths.size() == names.size() && paths.size() == servers.size() &&
              paths.size() == permissions.size());
     withStore(connectionString, [&](StoreSession &session) {
-        HeldBack store(session);
+        HeldBack store(session, errors);
         for (qsizetype i = 0; i < paths.size(); ++i)
             writePermission(store,
                             {folderPath(paths[i]), names.value(i), servers.value(i), permissions.value(i)},
                             errors);
+        store.close();
     });
 }

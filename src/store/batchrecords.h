@@ -9,7 +9,8 @@
 #include <initializer_list>
 #include <vector>
 
-/// Lets the windows breathe in the middle of a batch. Whatever it runs, the batch goes on.
+/// Lets the windows breathe in the middle of a batch, where what is pending goes to the disk: an Error it
+/// raises is one of the batch.
 using Breath = std::function<void()>;
 
 /// The walk of a batch over the records it is given, from the first, with the places of the

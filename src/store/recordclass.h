@@ -24,7 +24,12 @@ protected:
     {
         try {
             StoreSession store(connectionString);
-            work(store);
+            try {
+                work(store);
+            } catch (const Error &error) {
+                closeAfter(error, store);
+                throw;
+            }
             store.close();
         } catch (const Error &error) {
             m_error.set(error);
@@ -35,7 +40,15 @@ protected:
     /// The shape of a reading method.
     void read(const QString &connectionString, jet::Recordset &result, const QString &sql)
     {
-        withStore(connectionString, [&](StoreSession &store) { store.open(sql, result); });
+        withStore(connectionString, [&](StoreSession &store) {
+            store.open(sql, result);
+            try {
+                store.close();
+            } catch (const Error &) {
+                result.close();
+                throw;
+            }
+        });
     }
 
     /// The shape of a method that runs one statement, whatever the store holds.
@@ -57,5 +70,8 @@ protected:
     }
 
 private:
+    /// What was written before a failure stays; that it could not is told along with it.
+    static void closeAfter(const Error &failure, StoreSession &store);
+
     CurrentError m_error;
 };

@@ -1,6 +1,7 @@
 #include "store/relations.h"
 
 #include "base/error.h"
+#include "platform/jet/errors.h"
 #include "store/batchrecords.h"
 #include "store/statement.h"
 #include "store/storesession.h"
@@ -21,7 +22,10 @@ Value folderId(StoreSession &store, const QString &path)
         store.execute(
             joined("INSERT INTO Tbl_Folders (FolderName) VALUES ('{path}')"_L1, {{"path"_L1, path}}));
         return store.scalar(lookup);
-    } catch (const Error &) {
+    } catch (const Error &error) {
+        // Only a text can be wrong with one folder; what is wrong with the store ends the batch.
+        if (error.number() == jet::Failure)
+            throw;
         return {};
     }
 }
@@ -31,7 +35,7 @@ Value folderId(StoreSession &store, const QString &path)
 void writeRelations(StoreSession &store, const RelationStatements &statements, int id,
                     std::span<const int> items, const QStringList &permissions, bool clearFirst)
 {
-    Q_ASSERT(permissions.isEmpty() || permissions.size() == qsizetype(items.size()));
+    Q_ASSERT(permissions.size() == qsizetype(items.size()) || !statements.insert.contains("{permission}"_L1));
     const QString object = QString::number(id);
     if (clearFirst)
         store.execute(joined(statements.clear, {{"id"_L1, object}}));

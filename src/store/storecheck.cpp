@@ -1,6 +1,7 @@
 #include "store/storecheck.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 #include "platform/jet/connection.h"
 #include "platform/jet/inspection.h"
 #include "platform/jet/recordset.h"
@@ -61,6 +62,8 @@ const Named *named(const std::vector<Named> &all, QStringView name)
 std::vector<jet::StoredTable> expectedTables()
 {
     const QTemporaryDir folder;
+    if (!folder.isValid())
+        raise(FileAccessError, "A store to compare with could not be made: "_L1 + folder.errorString());
     const QString path = folder.filePath(u"new.mdb"_s);
     createStore(path);
     jet::Connection connection;

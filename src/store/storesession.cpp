@@ -1,15 +1,18 @@
 #include "store/storesession.h"
 
-#include "base/error.h"
+#include "platform/jet/errors.h"
 
 StoreSession::StoreSession(const QString &connectionString)
 {
     m_connection.open(connectionString, QString(), QString(), -1);
     m_command.commandType = jet::CommandTypeText;
     m_command.setActiveConnection(&m_connection);
-    m_test.lockType = 1;
-    m_test.cursorLocation = 3;
-    m_test.cursorType = 0;
+}
+
+void StoreSession::close()
+{
+    if (m_connection.state() != jet::StateClosed)
+        m_connection.close();
 }
 
 void StoreSession::execute(QString sql)
@@ -22,6 +25,8 @@ void StoreSession::executeSkippingErrors(QString sql)
 {
     try {
         execute(std::move(sql));
+    } catch (const jet::ChangesLost &) {
+        throw;
     } catch (const Error &) {
     }
 }

@@ -14,11 +14,12 @@ public:
     explicit StoreSession(const QString &connectionString);
 
     /// Ends the visit and raises what writing the last changes to the disk met with. A session
+    /// closed already has nothing to tell, one
     /// that is given up without it keeps its changes, but has no one to tell of a failure.
-    void close() { m_connection.close(); }
+    void close();
 
     void execute(QString sql);
-    /// For steps whose failure is not to be seen.
+    /// For steps whose failure is not to be seen. Raises jet::ChangesLost all the same.
     void executeSkippingErrors(QString sql);
     /// Whether the statement gives any row.
     [[nodiscard]] bool exists(const QString &sql);

@@ -14,32 +14,62 @@ namespace {
 
 constexpr auto provider = "Microsoft.Jet.OLEDB.4.0"_L1;
 
-// A part without an equals sign belongs to the value before it: paths may hold semicolons.
-QString property(const QString &connectionString, QLatin1StringView name)
+QString takeQuoted(QStringView &rest)
 {
     QString value;
-    bool found = false;
-    for (const QStringView part : QStringView(connectionString).split(u';')) {
-        const qsizetype equals = part.indexOf(u'=');
-        if (equals < 0) {
-            if (found && !part.isEmpty())
-                value += u';' + part;
-            continue;
-        }
-        if (found)
+    qsizetype at = rest.indexOf(u'"') + 1;
+    for (; at < rest.size(); ++at) {
+        if (rest[at] == u'"' && rest.mid(at + 1, 1) != u"\"")
             break;
-        found = part.left(equals).trimmed().compare(name, Qt::CaseInsensitive) == 0;
-        if (found)
-            value = part.mid(equals + 1).toString();
+        value += rest[at];
+        at += rest[at] == u'"' ? 1 : 0;
     }
-    return value.trimmed();
+    rest = rest.mid(at + 1);
+    return value;
+}
+
+// Moves behind the value. A part without an equals sign belongs to the value before it: paths may hold
+// semicolons.
+QString takeValue(QStringView &rest)
+{
+    if (rest.trimmed().startsWith(u'"'))
+        return takeQuoted(rest);
+    const auto beginsPart = [&rest](qsizetype at) {
+        const QStringView part = rest.mid(at + 1);
+        const qsizetype end = part.indexOf(u';');
+        return part.left(end < 0 ? part.size() : end).contains(u'=');
+    };
+    qsizetype end = rest.indexOf(u';');
+    while (end >= 0 && !beginsPart(end))
+        end = rest.indexOf(u';', end + 1);
+    QStringView value = end < 0 ? rest : rest.left(end);
+    rest = end < 0 ? QStringView() : rest.mid(end + 1);
+    while (value.endsWith(u';'))
+        value.chop(1);
+    return value.trimmed().toString();
+}
+
+QString property(const QString &connectionString, QLatin1StringView name)
+{
+    QStringView rest(connectionString);
+    for (qsizetype equals = rest.indexOf(u'='); equals >= 0; equals = rest.indexOf(u'=')) {
+        const QStringView key = rest.left(equals);
+        rest = rest.mid(equals + 1);
+        const QString value = takeValue(rest);
+        if (key.mid(key.lastIndexOf(u';') + 1).trimmed().compare(name, Qt::CaseInsensitive) == 0)
+            return value;
+    }
+    return {};
 }
 
 } // namespace
 
 QString connectionString(const QString &path)
 {
-    return "Provider="_L1 + provider + ";Data Source="_L1 + path;
+    const bool plain = !path.contains(u'=') && !path.startsWith(u'"') && !path.endsWith(u';') &&
+                       QStringView(path).trimmed().size() == path.size();
+    const QString source = plain ? path : u'"' + QString(path).replace(u'"', "\"\""_L1) + u'"';
+    return "Provider="_L1 + provider + ";Data Source="_L1 + source;
 }
 
 void createDatabase(const QString &path)
@@ -74,7 +104,7 @@ void Connection::close()
         raise(ObjectClosed, u"Operation is not allowed when the object is closed."_s);
     const std::shared_ptr<Database> database = std::move(m_database);
     m_database.reset();
-    database->flush();
+    database->flushAtClose(database.use_count() == 1);
 }
 
 Database &Connection::database() const

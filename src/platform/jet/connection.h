@@ -25,12 +25,13 @@ public:
     Connection &operator=(const Connection &) = delete;
 
     /// Takes "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=PATH" with or without further
-    /// properties. Never creates a file. Raises ObjectOpen (3705) when open already,
-    /// ProviderMissing (3706) for another provider, Failure with a text that names the
-    /// file when it is missing, a folder, unreadable or no store.
+    /// properties; a path in quotes may hold anything, quotes doubled. Never creates a file. Raises
+    /// ObjectOpen (3705) when open already, ProviderMissing (3706) for another provider, Failure with a text
+    /// that names the file when it is missing, a folder, unreadable or no store.
     void open(const QString &connectionString, const QString &user = {}, const QString &password = {},
               int options = -1);
-    /// Commits what is pending. Raises ObjectClosed (3704) when not open.
+    /// Commits what is pending; what cannot be committed with the last connection to the file is undone and
+    /// raised as ChangesLost. Raises ObjectClosed (3704) when not open.
     void close();
     [[nodiscard]] int state() const { return m_database ? StateOpen : StateClosed; }
 
@@ -38,7 +39,7 @@ public:
     void execute(const QString &sql);
 
     /// The table list (schema 20) as a disconnected recordset with the fields
-    /// TABLE_NAME and TABLE_TYPE, which is "TABLE" or "SYSTEM TABLE", by name.
+    /// TABLE_NAME and TABLE_TYPE, which is "TABLE", by name. The recordset is a new one.
     void openSchema(int schema, Recordset &recordset);
 
     /// Raises ConnectionClosed (3709) when not open.

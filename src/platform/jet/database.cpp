@@ -280,9 +280,9 @@ void Database::write(Prepared &prepared)
         runWrite(prepared);
         if (guarded)
             runSqlite(m_handle, "RELEASE statement");
-    } catch (const Error &error) {
+    } catch (...) {
         if (groupLost())
-            raiseGroupLost(error);
+            raiseGroupLost();
         if (guarded)
             sqlite3_exec(m_handle, "ROLLBACK TO statement; RELEASE statement", nullptr, nullptr, nullptr);
         throw;
@@ -361,13 +361,19 @@ bool Database::groupLost() const
     return m_inGroup && sqlite3_get_autocommit(m_handle) != 0;
 }
 
-void Database::raiseGroupLost(const Error &cause)
+// Called where an exception is being handled: the cause.
+void Database::raiseGroupLost()
 {
     m_inGroup = false;
-    const QString changes = m_groupWrites == 0
-                                ? QString()
-                                : QStringLiteral(" The last %1 change(s) are lost.").arg(m_groupWrites);
-    raise(cause.number(), cause.description() + changes);
+    if (m_groupWrites == 0)
+        throw;
+    try {
+        throw;
+    } catch (const Error &cause) {
+        throw ChangesLost(cause.number(),
+                          cause.description() +
+                              QStringLiteral(" The last %1 change(s) are lost.").arg(m_groupWrites));
+    }
 }
 
 void Database::flush()
@@ -377,13 +383,29 @@ void Database::flush()
     try {
         stepToEnd(m_handle, m_commit.get());
         m_inGroup = false;
-    } catch (const Error &error) {
+    } catch (const Error &) {
         // A commit that has to wait for a reader can be tried again; any other is lost.
         if (!groupLost() && (sqlite3_errcode(m_handle) & 0xff) == SQLITE_BUSY)
             throw;
         if (!groupLost())
             sqlite3_exec(m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
-        raiseGroupLost(error);
+        raiseGroupLost();
+    }
+}
+
+void Database::flushAtClose(bool last)
+{
+    if (!last) {
+        flushUnlessRead();
+        return;
+    }
+    try {
+        flush();
+    } catch (const Error &) {
+        if (!m_inGroup)
+            throw;
+        sqlite3_exec(m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
+        raiseGroupLost();
     }
 }
 

@@ -50,8 +50,12 @@ public:
     /// Runs a statement and hands its rows over. Returns false for one that returns none.
     bool read(const QString &sql, RowSink &rows);
 
-    /// Ends the group of writes at hand.
+    /// Ends the group of writes at hand. Raises ChangesLost when that fails, or Failure while another
+    /// program's reading holds it up: the group stays then, to be tried again.
     void flush();
+    /// The same at the close of a connection. Held up, the group is given up with the last connection, as
+    /// nobody would try again, and stays silently with any other.
+    void flushAtClose(bool last);
 
     [[nodiscard]] Catalog &catalog() { return m_catalog; }
     [[nodiscard]] sqlite3 *handle() const { return m_handle; }
@@ -91,7 +95,7 @@ private:
     void requireFileInPlace() const;
     static int onProgress(void *database);
     [[nodiscard]] bool groupLost() const;
-    [[noreturn]] void raiseGroupLost(const Error &cause);
+    [[noreturn]] void raiseGroupLost();
 
     Handle m_owner;
     sqlite3 *m_handle;

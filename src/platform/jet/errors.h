@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/error.h"
+
 /// The error numbers of the store engine, as programs of its kind know them.
 namespace jet {
 
@@ -19,5 +21,13 @@ inline constexpr int ObjectClosed = 3704;
 inline constexpr int ObjectOpen = 3705;
 inline constexpr int ProviderMissing = 3706;
 inline constexpr int ConnectionClosed = 3709;
+
+/// A group of writes could not be brought to the disk: what statements before wrote in it is gone, too.
+/// Whoever goes on after a statement that failed must not pass this one over.
+class ChangesLost final : public Error
+{
+public:
+    using Error::Error;
+};
 
 } // namespace jet
