@@ -84,6 +84,9 @@ TEST_F(LimitsTest, DeepStatementsAreRefusedInPlainWords)
     const Statement statements[] = {
         {"parentheses", "SELECT "_L1 + repeated("("_L1, 5000) + u'1' + repeated(")"_L1, 5000), tooComplex},
         {"Not", "SELECT "_L1 + repeated("NOT "_L1, 5000) + u'1', tooComplex},
+        {"IN lists", "SELECT "_L1 + repeated("1 IN ("_L1, 5000) + u'1' + repeated(")"_L1, 5000), tooComplex},
+        {"joins", "SELECT 1 FROM Tbl_Rooms AS a"_L1 + repeated(" INNER JOIN Tbl_Rooms ON 1 = 1"_L1, 20000),
+         tooComplex},
         {"minus", "SELECT "_L1 + repeated("- "_L1, 5000) + u'1', tooComplex},
         {"plus", "SELECT "_L1 + repeated("+ "_L1, 5000) + u'1', tooComplex},
         {"a sum", "SELECT "_L1 + repeated("1 + "_L1, 5000) + u'1', tooComplex},

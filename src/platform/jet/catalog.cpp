@@ -54,6 +54,16 @@ const TableColumn *Table::column(std::string_view column) const
     return nullptr;
 }
 
+std::string_view rowIdName(const Table &table)
+{
+    for (const std::string_view name : {"rowid", "oid", "_rowid_"}) {
+        if (table.column(name) == nullptr)
+            return name;
+    }
+    raiseError(Failure, "Operation must use an updatable query. The table '" + table.name +
+                            "' has columns named RowID, OID and _RowID_.");
+}
+
 void Catalog::refresh()
 {
     const long long version = queryNumber(m_handle, "PRAGMA schema_version");
@@ -92,6 +102,17 @@ const Table *Catalog::find(std::string_view name)
     const auto counts = [](const TableColumn &column) { return column.type.type == DataType::Counter; };
     m_lastCounter.watch(table->name, std::ranges::any_of(table->columns, counts));
     return m_tables.emplace(key, std::move(table)).first->second.get();
+}
+
+bool Catalog::hasIndex(const Table &table, std::string_view index)
+{
+    const StatementHandle statement =
+        prepareSqlite(m_handle, "SELECT 1 FROM sqlite_schema WHERE type = 'index' AND tbl_name = ?1 AND "
+                                "lower(name) = ?2");
+    const std::string key = loweredWord(index);
+    sqlite3_bind_text(statement.get(), 1, table.name.data(), int(table.name.size()), SQLITE_STATIC);
+    sqlite3_bind_text(statement.get(), 2, key.data(), int(key.size()), SQLITE_STATIC);
+    return sqlite3_step(statement.get()) == SQLITE_ROW;
 }
 
 const Table &Catalog::table(std::string_view name)

@@ -29,6 +29,9 @@ struct Table
     [[nodiscard]] const TableColumn *column(std::string_view column) const;
 };
 
+/// A name of the row id of SQLite that no column of the table has taken. Raises Failure when all are taken.
+[[nodiscard]] std::string_view rowIdName(const Table &table);
+
 /// The tables of one open file. Read when first asked for, forgotten when the schema changes.
 class Catalog final
 {
@@ -37,6 +40,8 @@ public:
 
     /// Forgets what another program may have changed. Called before a statement is parsed.
     void refresh();
+    /// Whether the index is one of the table.
+    [[nodiscard]] bool hasIndex(const Table &table, std::string_view index);
     /// Raises MissingTable with the nearest known name.
     [[nodiscard]] const Table &table(std::string_view name);
     [[nodiscard]] const Table *find(std::string_view name);

@@ -16,6 +16,7 @@ struct OutputColumn
 {
     std::string name;
     ColumnType type;
+    bool stored = false; ///< a column of a table as it is
 };
 
 /// A statement in SQLite's words. Literal n of the statement is its parameter ?n+1.

@@ -109,7 +109,9 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
 
     const AggregateRow &row = *findAggregate(source.name);
     m_aggregates = Aggregates::Inside;
+    const std::size_t borrowed = scope.borrowed.size();
     const Piece operand = expression(*source.arguments[0], scope);
+    scope.borrowed.resize(borrowed); // within an aggregate a sub-query may read any column
     m_aggregates = Aggregates::Allowed;
     const std::string sql =
         std::string(row.sqlite) + '(' + (row.numbers ? asNumber(operand) : collated(operand)) + ')';

@@ -7,6 +7,10 @@
 namespace jet {
 namespace {
 
+// Sums, as a bare number would be the place of a column behind ORDER BY and GROUP BY.
+constexpr auto yes = "(0-1)";
+constexpr auto no = "(0+0)";
+
 constexpr std::array<std::string_view, 4> constantWords = {"YES", "NO", "ON", "OFF"};
 constexpr std::array<std::string_view, 3> clockWords = {"DATE", "NOW", "TIME"};
 
@@ -131,7 +135,7 @@ Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
     case ExpressionKind::Null:
         return {.sql = "NULL"};
     case ExpressionKind::Boolean:
-        return {.sql = source.number != 0 ? "(-1)" : "0", .type = {DataType::Boolean}, .exact = true};
+        return {.sql = source.number != 0 ? yes : no, .type = {DataType::Boolean}, .exact = true};
     case ExpressionKind::Column:
         return column(source, scope);
     case ExpressionKind::Identity:
@@ -227,7 +231,7 @@ Emitter::Piece Emitter::column(const Expression &source, Scope &scope)
         return {.sql = quotedName(found.source->name) + '.' + quotedName(found.column->name),
                 .type = found.column->type,
                 .column = true,
-                .exact = isWhole(found.column->type.type)};
+                .exact = isLong(found.column->type.type)};
     }
     return alias(source, scope);
 }
@@ -250,7 +254,7 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
     if (!source.bracketed) {
         for (const std::string_view word : constantWords) {
             if (sameWord(word, source.name))
-                return {.sql = word == "YES" || word == "ON" ? "(-1)" : "0",
+                return {.sql = word == "YES" || word == "ON" ? yes : no,
                         .type = {DataType::Boolean},
                         .exact = true};
         }

@@ -245,7 +245,7 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     result.sql = select.distinct ? "SELECT DISTINCT " : "SELECT ";
     for (std::size_t i = 0; i < columns.size(); ++i) {
         ColumnType type = columns[i].piece.type;
-        result.columns.push_back({columns[i].name, type});
+        result.columns.push_back({columns[i].name, type, columns[i].piece.column});
         result.sql += (i == 0 ? "" : ", ") + collated(columns[i].piece) + " AS " +
                       outputName(columns[i], i, numbered || ranked);
     }
@@ -360,7 +360,8 @@ std::string Emitter::distinctRows(const Select &select, const Scope &scope) cons
                 return found.source == &source;
             });
         if (selected && source.isTable())
-            shown += (shown.empty() ? " GROUP BY " : ", ") + quotedName(source.name) + ".rowid";
+            shown += (shown.empty() ? " GROUP BY " : ", ") + quotedName(source.name) + '.' +
+                     std::string(rowIdName(m_catalog.table(source.table)));
         else
             allShown = false;
     }

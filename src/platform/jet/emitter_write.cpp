@@ -24,6 +24,20 @@ bool isAmong(std::string_view name, const std::vector<std::string_view> &names)
     return std::ranges::any_of(names, [&](std::string_view other) { return sameWord(other, name); });
 }
 
+bool holdsQuery(const Expression &expression)
+{
+    return expression.query != nullptr ||
+           std::ranges::any_of(expression.arguments,
+                               [](const ExpressionPtr &argument) { return holdsQuery(*argument); });
+}
+
+bool holdsQuery(const Update &update)
+{
+    return (update.where && holdsQuery(*update.where)) ||
+           std::ranges::any_of(update.assignments,
+                               [](const Assignment &assignment) { return holdsQuery(*assignment.value); });
+}
+
 std::vector<std::string_view> columnNames(const Table &table)
 {
     std::vector<std::string_view> names;
@@ -101,23 +115,28 @@ EmittedStatement Emitter::emit(const Statement &statement)
 
 void Emitter::write(const Query &source, EmittedStatement &result)
 {
-    const Rows rows = query(source, nullptr);
+    const std::string_view into = source.arms.front().into;
+    const Rows rows = query(source, nullptr, !into.empty());
     result.sql = rows.sql;
-    if (source.arms.front().into.empty()) {
+    if (into.empty()) {
         result.columns = rows.columns;
         return;
     }
-    const std::string_view into = source.arms.front().into;
     requireNoTable(m_catalog, into);
     std::string columns;
-    for (const OutputColumn &column : rows.columns) {
-        const bool unknown = column.type.type == DataType::Unknown;
-        columns +=
-            (columns.empty() ? "" : ", ") +
-            columnDefinition(column.name, unknown ? ColumnType{DataType::Memo} : column.type, false, false);
+    std::string values;
+    for (std::size_t i = 0; i < rows.columns.size(); ++i) {
+        ColumnType type = rows.columns[i].type;
+        // Only a column's text is known to fit the width that it comes with.
+        if (type.type == DataType::Unknown || (type.type == DataType::Text && !rows.columns[i].stored))
+            type = {DataType::Memo};
+        const std::string value = "\"c" + std::to_string(i) + '"';
+        columns += (i == 0 ? "" : ", ") + columnDefinition(rows.columns[i].name, type, false, false);
+        values +=
+            (i == 0 ? "" : ", ") + (type.type == DataType::Boolean ? "IFNULL(" + value + ", 0)" : value);
     }
     result.before.push_back("CREATE TABLE " + quotedName(into) + " (" + columns + ')');
-    result.sql = "INSERT INTO " + quotedName(into) + ' ' + rows.sql;
+    result.sql = "INSERT INTO " + quotedName(into) + " SELECT " + values + " FROM (" + rows.sql + ')';
     result.writes = true;
     result.changesSchema = true;
 }
@@ -135,9 +154,9 @@ std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
     switch (to) {
     case DataType::Boolean:
         if (from == DataType::Boolean)
-            return piece.column || piece.exact ? sql : "IFNULL(" + sql + ", 0)";
+            return "IFNULL(" + sql + ", 0)";
         if (isNumber(from))
-            return piece.exact && !piece.column ? "(-(" + sql + " <> 0))" : "IFNULL(-(" + sql + " <> 0), 0)";
+            return "IFNULL(-(" + sql + " <> 0), 0)";
         return "IFNULL(" + through("jet_tobool") + ", 0)";
     case DataType::Byte:
         return from == DataType::Byte ? sql : through("jet_tobyte");
@@ -242,7 +261,8 @@ void Emitter::write(const Update &update, EmittedStatement &result)
     std::string assignments;
     std::string values;
     std::vector<const TableColumn *> changedColumns;
-    const bool joinedTables = scope.sources.size() > 1;
+    // A sub-query may read the rows that change.
+    const bool workedOutFirst = scope.sources.size() > 1 || holdsQuery(update);
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
         const Assignment &assignment = update.assignments[i];
         const Scope::Found found = scope.find(assignment.column->qualifier, assignment.column->name);
@@ -259,19 +279,20 @@ void Emitter::write(const Update &update, EmittedStatement &result)
         const std::string changed = coerced(expression(*assignment.value, scope), *found.column);
         const std::string name = "\"v" + std::to_string(i) + '"';
         assignments += (i == 0 ? "" : ", ") + quotedName(found.column->name) + " = " +
-                       (joinedTables ? "\"%rows\"." + name : changed);
+                       (workedOutFirst ? "\"%rows\"." + name : changed);
         values += ", " + changed + " AS " + name;
     }
     const std::string where = this->where(update.where, scope);
     result.writes = true;
-    if (!joinedTables) {
+    if (!workedOutFirst) {
         result.sql = "UPDATE " + source + " SET " + assignments + where;
         return;
     }
     // Which rows change, and to what, is worked out before the first of them changes.
+    const std::string rowId = '.' + std::string(rowIdName(m_catalog.table(target->table)));
     result.sql = "UPDATE " + quotedName(target->table) + " AS \"%target\" SET " + assignments +
-                 " FROM (SELECT " + quotedName(target->name) + ".rowid AS \"%row\"" + values + " FROM " +
-                 source + where + ") AS \"%rows\" WHERE \"%target\".rowid = \"%rows\".\"%row\"";
+                 " FROM (SELECT " + quotedName(target->name) + rowId + " AS \"%row\"" + values + " FROM " +
+                 source + where + ") AS \"%rows\" WHERE \"%target\"" + rowId + " = \"%rows\".\"%row\"";
 }
 
 std::string Emitter::where(const ExpressionPtr &condition, Scope &scope)
@@ -298,8 +319,9 @@ void Emitter::write(const Delete &statement, EmittedStatement &result)
         result.sql = "DELETE FROM " + source + where;
         return;
     }
-    result.sql = "DELETE FROM " + quotedName(target->table) + " WHERE rowid IN (SELECT " +
-                 quotedName(target->name) + ".rowid FROM " + source + where + ')';
+    const std::string rowId(rowIdName(m_catalog.table(target->table)));
+    result.sql = "DELETE FROM " + quotedName(target->table) + " WHERE " + rowId + " IN (SELECT " +
+                 quotedName(target->name) + '.' + rowId + " FROM " + source + where + ')';
 }
 
 void Emitter::write(const CreateTable &table, EmittedStatement &result)
@@ -316,7 +338,8 @@ void Emitter::write(const CreateTable &table, EmittedStatement &result)
         if (counts)
             counter = column.name;
         columns += (columns.empty() ? "" : ", ") +
-                   columnDefinition(column.name, column.type, column.notNull, counts) +
+                   columnDefinition(column.name, column.type,
+                                    column.notNull || isAmong(column.name, table.primaryKey), counts) +
                    (column.unique && !counts ? " UNIQUE" : "");
     }
     const bool onCounter = table.primaryKey.size() == 1 && sameWord(table.primaryKey[0], counter);
@@ -354,7 +377,10 @@ void Emitter::write(const DropTable &table, EmittedStatement &result)
 
 void Emitter::write(const DropIndex &index, EmittedStatement &result)
 {
-    (void)existing(m_catalog, index.table);
+    const Table &table = existing(m_catalog, index.table);
+    if (!m_catalog.hasIndex(table, index.index))
+        raiseError(Failure,
+                   "No such index '" + std::string(index.index) + "' on table '" + table.name + "'.");
     result.sql = "DROP INDEX " + quotedName(index.index);
     result.writes = true;
     result.changesSchema = true;

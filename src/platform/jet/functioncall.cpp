@@ -34,6 +34,9 @@ void run(sqlite3_context *context, int count, sqlite3_value **values)
         resultError(context, error.number, error.text);
     } catch (const std::bad_alloc &) {
         sqlite3_result_error_nomem(context);
+    } catch (...) {
+        // No exception may pass through SQLite.
+        resultError(context, Failure, "The function failed.");
     }
 }
 

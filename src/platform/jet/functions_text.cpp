@@ -260,10 +260,12 @@ void replace(Call &call)
 
 void reverse(Call &call)
 {
-    std::string result;
-    for (std::string_view text = call.text(0); !text.empty();) {
+    std::string_view text = call.text(0);
+    std::string result(text.size(), ' ');
+    for (std::size_t left = text.size(); left > 0;) {
         const std::size_t size = utf8::offset(text, 1);
-        result.insert(0, text.substr(0, size));
+        left -= size;
+        text.copy(result.data() + left, size);
         text.remove_prefix(size);
     }
     call.give(result);

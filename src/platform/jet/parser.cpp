@@ -190,12 +190,17 @@ QueryPtr Parser::query(bool allowInto)
     const std::size_t start = peek().offset;
     auto query = std::make_unique<Query>();
     selectArm(*query, allowInto);
+    bool ownOrder = false;
     while (accept("UNION")) {
         query->unionAll.push_back(accept("ALL"));
+        ownOrder = at("(");
         selectArm(*query, false);
     }
-    query->orderBy = std::move(query->arms.back().orderBy);
-    query->arms.back().orderBy.clear();
+    // Behind the last arm stands the order of all; within its parentheses its own, for its TOP.
+    if (!ownOrder && query->orderBy.empty()) {
+        query->orderBy = std::move(query->arms.back().orderBy);
+        query->arms.back().orderBy.clear();
+    }
     query->text = textFrom(start);
     return query;
 }
@@ -208,7 +213,7 @@ void Parser::selectArm(Query &query, bool allowInto)
         selectArm(query, false);
         expect(")");
         if (at("ORDER"))
-            query.arms.back().orderBy = orderBy();
+            query.orderBy = orderBy();
         return;
     }
     Select select;
@@ -338,10 +343,13 @@ std::unique_ptr<Source> Parser::joinedSource()
 {
     const DepthGuard depth(*this);
     std::unique_ptr<Source> left = singleSource();
-    for (;;) {
+    for (int joins = 0;;) {
         JoinKind kind = JoinKind::Inner;
         if (!acceptJoin(kind))
             return left;
+        constexpr int mostJoins = 64; // SQLite joins no more tables than that
+        if (++joins > mostJoins)
+            failTooComplex();
         auto join = std::make_unique<Source>();
         join->offset = left->offset;
         join->join = kind;
@@ -380,16 +388,30 @@ void Parser::alias(Source &source)
         failAt("Syntax error in " + std::string(m_clause), bare ? first : peek());
 }
 
+// Behind an opening parenthesis: a query, in parentheses of its own or not, or a join whose first table
+// may be a query.
+bool Parser::beginsQuery() const
+{
+    std::size_t ahead = 0;
+    while (at("(", ahead))
+        ++ahead;
+    if (!at("SELECT", ahead) && !at("TABLE", ahead))
+        return false;
+    if (ahead == 0)
+        return true;
+    std::size_t open = ahead;
+    for (; open > 0 && peek(ahead).kind != TokenKind::End; ++ahead)
+        open = open + (at("(", ahead) ? 1 : 0) - (at(")", ahead) ? 1 : 0);
+    return at(")", ahead) || at("UNION", ahead) || at("ORDER", ahead);
+}
+
 std::unique_ptr<Source> Parser::singleSource()
 {
     auto source = std::make_unique<Source>();
     source->offset = peek().offset;
     if (at("(")) {
         take();
-        std::size_t ahead = 0;
-        while (at("(", ahead))
-            ++ahead;
-        if (at("SELECT", ahead) || at("TABLE", ahead))
+        if (beginsQuery())
             source->query = query();
         else
             source = joinedSource();

@@ -37,6 +37,7 @@ private:
     // parser.cpp
     QueryPtr query(bool allowInto = false);
     void selectArm(Query &query, bool allowInto);
+    [[nodiscard]] bool beginsQuery() const;
     void top(Select &select);
     void items(Select &select);
     SelectItem item();

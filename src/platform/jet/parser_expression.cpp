@@ -30,7 +30,7 @@ constexpr std::array<ArithmeticLevel, 5> arithmeticLevels = {{
 
 constexpr std::array<std::string_view, 6> comparisons = {"=", "<>", "<", ">", "<=", ">="};
 
-constexpr std::string_view functionsAmongKeywords[] = {"LEFT", "RIGHT"};
+constexpr std::string_view functionsAmongKeywords[] = {"LEFT", "RIGHT", "ASC"};
 
 } // namespace
 
@@ -165,6 +165,7 @@ ExpressionPtr Parser::predicate(ExpressionPtr left, std::size_t start, bool &don
             result->query = std::move(rows);
         } else {
             result = node(ExpressionKind::InList, start, "IN", std::move(left));
+            const DepthGuard depth(*this);
             do
                 add(*result, logic(0));
             while (accept(","));

@@ -154,6 +154,7 @@ void Recordset::open()
     if (m_open)
         raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
     clearRows();
+    m_columns.resize(m_header ? m_header->size() : 0); // a statement without rows leaves none
     m_open = true;
     m_writable = true;
 }
