@@ -1,0 +1,229 @@
+#include "jet/failingvfs.h"
+#include "platform/jet/inspection.h"
+#include "records/folderstest.h"
+#include "store/clsGlobalGroups.h"
+#include "store/clsLocalGroups.h"
+#include "store/userstatements.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <iterator>
+
+#include <sqlite3.h>
+
+using failingvfs::Kind;
+
+namespace {
+
+struct Fault
+{
+    const char *name;
+    Kind kind;
+    int result;
+    bool forGood;
+};
+
+constexpr Fault faults[] = {
+    {"ReadError", Kind::Read, SQLITE_IOERR_READ, false},
+    {"WriteError", Kind::Write, SQLITE_IOERR_WRITE, false},
+    {"DiskFull", Kind::Write, SQLITE_FULL, true},
+    {"SyncError", Kind::Sync, SQLITE_IOERR_FSYNC, false},
+    {"LockError", Kind::Lock, SQLITE_IOERR_LOCK, false},
+};
+
+/// Adds to `told` what the method tells without raising it.
+using Write = void (*)(const QString &store, QString &told);
+
+struct Writer
+{
+    const char *name;
+    Write write;
+};
+
+constexpr int ids[] = {1, 2, 3};
+
+void folderRecords(jet::Recordset &records)
+{
+    makeRecords(records, {u"Name"_s, u"Permission"_s},
+                {{u"D:\\New\\"_s, u"R"_s}, {u"D:\\Data\\"_s, u"CH"_s}, {u"D:\\Newer\\"_s, u"L"_s}});
+}
+
+void addUserBatch(const QString &store, QString &told)
+{
+    QStringList names;
+    for (const UserColumn &column : fileColumns())
+        names += column.name;
+    QList<QStringList> lines;
+    for (const QString &name : {u"dora"_s, u"anna"_s, u"emil"_s}) {
+        QStringList line(names.size(), u"0"_s);
+        line[names.indexOf(u"UserName"_s)] = name;
+        line[names.indexOf(u"ServerName"_s)] = u"SRV01"_s;
+        lines += line;
+    }
+    jet::Recordset records;
+    makeRecords(records, names, lines);
+    int added = 0;
+    int updated = 0;
+    int failed = 0;
+    clsUsers().AddBatchFromFile(store, records, true, added, updated, failed, told);
+}
+
+constexpr Writer writers[] = {
+    {"OneStatement",
+     [](const QString &store, QString &) {
+         clsFolders().DeleteDefaultFolderPermissions(store, std::span(ids, 1));
+     }},
+    {"UnderARule",
+     [](const QString &store, QString &) { clsFolders().update(store, 2, u"D:\\Moved"_s, {}); }},
+    {"ForEach", [](const QString &store, QString &) { clsFolders().Delete(store, std::span(ids, 2)); }},
+    {"RelationsAnew", [](const QString &store, QString &) { clsGlobalGroups().addUsers(store, 1, ids); }},
+    {"PermissionsAnew",
+     [](const QString &store, QString &) {
+         clsUsers().addFolders(store, 1, std::span(ids, 2), {u"CH"_s, u"L"_s}, true);
+     }},
+    {"MembershipBatch",
+     [](const QString &store, QString &told) {
+         jet::Recordset records;
+         makeRecords(records, {u"UserName"_s, u"UserServer"_s, u"GroupName"_s, u"GroupServer"_s},
+                     {{u"anna"_s, u"SRV01"_s, u"Staff"_s, u"DC01"_s},
+                      {u"cleo"_s, u"SRV01"_s, u"Admins"_s, u"DC01"_s}});
+         clsGlobalGroups().AddUsersBatch(store, records, told);
+     }},
+    {"FoldersByPath",
+     [](const QString &store, QString &told) {
+         jet::Recordset records;
+         folderRecords(records);
+         clsLocalGroups().addFoldersBatch(store, u"Data"_s, records, told);
+     }},
+    {"PermittedObjects",
+     [](const QString &store, QString &told) {
+         jet::Recordset objects;
+         makeRecords(objects, {u"Name"_s, u"Server"_s, u"Permission"_s},
+                     {{u"bert"_s, u"SRV02"_s, u"CH"_s}, {u"Data"_s, u"SRV02"_s, u"R"_s}});
+         told += clsFolders().addPermittedObjects(store, u"D:\\Data\\"_s, objects);
+     }},
+    {"FolderBatch",
+     [](const QString &store, QString &told) {
+         clsFolders().AddBatch(store, {u"D:\\New"_s, u"D:\\Data"_s, u"D:\\Newer"_s}, {u"n"_s, u"d"_s, u"r"_s},
+                               false, told);
+     }},
+    {"PermissionBatch",
+     [](const QString &store, QString &told) {
+         clsFolders().AddPermissionsBatch(store, {u"D:\\Data"_s, u"D:\\Admin"_s}, {u"anna"_s, u"Data"_s},
+                                          {u"SRV01"_s, u"SRV02"_s}, {u"CH"_s, u"L"_s}, told);
+     }},
+    {"UserBatch", addUserBatch},
+};
+
+using Case = std::tuple<Fault, Writer>;
+
+class FailingStoreTest : public FolderAccountsTest, public testing::WithParamInterface<Case>
+{
+protected:
+    /// What a store says, in names: whatever id a row got, it must stand for the same things.
+    static Rows told(const QString &store)
+    {
+        Rows all;
+        for (
+            const QString &query : {
+                u"SELECT 'user', UserName, ServerName FROM Tbl_Users"_s,
+                u"SELECT 'folder', FolderName, Description FROM Tbl_Folders"_s,
+                u"SELECT 'default', Account, Permission FROM Tbl_FolderDefaultPermissions"_s,
+                u"SELECT 'member', g.Name, u.UserName FROM (Tbl_GlobalGroupsUsers AS m LEFT JOIN "
+                u"Tbl_GlobalGroups "
+                "AS g ON m.GlobalGroupID = g.ID) LEFT JOIN Tbl_Users AS u ON m.UserID = u.UserID"_s,
+                u"SELECT 'user may', u.UserName, f.FolderName, p.Permission FROM (Tbl_UserFolderPermission "
+                u"AS p "
+                "LEFT JOIN Tbl_Users AS u ON p.UserID = u.UserID) LEFT JOIN Tbl_Folders AS f ON p.FolderID = f.ID"_s,
+                u"SELECT 'group may', g.Name, f.FolderName, p.Permission FROM "
+                u"(Tbl_LocalGroupFolderPermission AS p "
+                "LEFT JOIN Tbl_LocalGroups AS g ON p.LocalGroupID = g.ID) LEFT JOIN Tbl_Folders AS f "
+                "ON p.FolderID = f.ID"_s,
+            }) {
+            jet::Recordset records;
+            StoreSession(store).open(query, records);
+            all += rowsOf(records);
+        }
+        std::ranges::sort(all);
+        return all;
+    }
+
+    static QStringList faultsOf(const QString &store)
+    {
+        jet::Connection connection;
+        connection.open(store);
+        return jet::brokenPlaces(connection);
+    }
+
+    [[nodiscard]] QString copy(const QString &name) const
+    {
+        QString made = folder.filePath(name);
+        EXPECT_TRUE(QFile::copy(path, made));
+        return made;
+    }
+};
+
+/// The rows of the first list, each as often as it stands there, that the second lacks.
+Rows lacking(const Rows &some, const Rows &others)
+{
+    Rows left;
+    std::ranges::set_difference(some, others, std::back_inserter(left));
+    return left;
+}
+
+} // namespace
+
+TEST_P(FailingStoreTest, WhatIsNotWrittenIsTold)
+{
+    const auto &[fault, writer] = GetParam();
+    run(u"INSERT INTO Tbl_FolderDefaultPermissions (Account, Permission) VALUES ('SYSTEM', 'R')"_s);
+    const Rows before = told(connection);
+    const QString done = jet::connectionString(copy(u"done.mdb"_s));
+    QString unused;
+    writer.write(done, unused);
+    const Rows after = told(done);
+    Rows either;
+    std::ranges::set_union(before, after, std::back_inserter(either));
+
+    failingvfs::Installed disk;
+    bool everFailed = false;
+    bool failed = true;
+    for (int call = 1; failed && call < 200; ++call) {
+        const QString file = copy(QString::number(call) + ".mdb"_L1);
+        const QString store = jet::connectionString(file);
+        disk.plan({fault.kind, call, fault.result, fault.forGood});
+        QString complaint;
+        try {
+            writer.write(store, complaint);
+        } catch (const Error &error) {
+            complaint += error.description();
+        }
+        failed = disk.hasFailed();
+        everFailed = everFailed || failed;
+        disk.plan({});
+
+        ASSERT_EQ(faultsOf(store), QStringList()) << "call " << call;
+        const Rows content = told(store);
+        ASSERT_EQ(lacking(content, either), Rows()) << "neither old nor asked for, at call " << call;
+        if (complaint.isEmpty()) {
+            ASSERT_EQ(content, after) << "lost without a word at call " << call;
+        }
+        QString again;
+        try {
+            writer.write(store, again);
+        } catch (const Error &error) {
+            ASSERT_EQ(content, after) << error.what() << " at call " << call;
+        }
+        ASSERT_EQ(told(store), after) << "not mended by a second try, at call " << call;
+        QFile::remove(file);
+    }
+    EXPECT_FALSE(failed);
+    EXPECT_TRUE(everFailed);
+}
+
+INSTANTIATE_TEST_SUITE_P(Disk, FailingStoreTest,
+                         testing::Combine(testing::ValuesIn(faults), testing::ValuesIn(writers)),
+                         [](const testing::TestParamInfo<Case> &info) {
+                             return std::string(std::get<0>(info.param).name) + std::get<1>(info.param).name;
+                         });

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "base/error.h"
+#include "platform/jet/connection.h"
+#include "platform/jet/recordset.h"
+#include "store/storesession.h"
+#include "support/freshstore.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <ostream>
+#include <type_traits>
+#include <variant>
+
+/// A row as text: its values with a bar between, Null as "-".
+using Rows = QStringList;
+
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+inline Rows rowsOf(jet::Recordset &records)
+{
+    Rows rows;
+    for (; !records.eof(); records.moveNext()) {
+        QStringList values;
+        for (int i = 0; i < records.fields().count(); ++i)
+            values.append(records.value(i).isNull() ? QStringLiteral("-") : records.value(i).toText());
+        rows.append(values.join(u'|'));
+    }
+    return rows;
+}
+
+/// The rows of a recordset that a step opens.
+template <typename Step>
+Rows rowsFrom(Step &&open)
+{
+    jet::Recordset records;
+    open(records);
+    EXPECT_EQ(records.state(), jet::StateOpen);
+    return rowsOf(records);
+}
+
+/// The error that a step raises; number 0 when it raises none.
+template <typename Step>
+CurrentError errorOf(Step &&step)
+{
+    CurrentError error;
+    try {
+        step();
+    } catch (const Error &raised) {
+        error.set(raised);
+    }
+    return error;
+}
+
+/// Records made in memory, as the batch writers get them: all fields text.
+inline void makeRecords(jet::Recordset &records, const QStringList &names, const QList<QStringList> &rows)
+{
+    for (const QString &name : names)
+        records.fields().append(name, jet::FieldType::VarChar, 255);
+    records.open();
+    for (const QStringList &row : rows) {
+        records.addNew();
+        for (int i = 0; i < row.size(); ++i)
+            records.fields().item(i).setValue(row[i]);
+    }
+}
+
+/// A reading method, the id it is asked for and the rows it must give.
+template <typename Records>
+struct Reading
+{
+    const char *name;
+    std::variant<void (Records::*)(const QString &, jet::Recordset &),
+                 void (Records::*)(const QString &, jet::Recordset &, int),
+                 void (Records::*)(const QString &, int, jet::Recordset &)>
+        reader;
+    int id;
+    Rows rows;
+    bool ordered = true;
+};
+
+/// A new, empty store for each test of the record classes.
+class RecordTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        makeFreshStore(path);
+    }
+
+    void run(const QString &sql) const { StoreSession(connection).execute(sql); }
+
+    [[nodiscard]] Rows rows(const QString &sql) const
+    {
+        return rowsFrom([&](jet::Recordset &records) { StoreSession(connection).open(sql, records); });
+    }
+
+    template <typename Records>
+    void expectRows(Records &records,
+                    std::type_identity_t<std::initializer_list<Reading<Records>>> readings) const
+    {
+        using OfAll = void (Records::*)(const QString &, jet::Recordset &);
+        using OfId = void (Records::*)(const QString &, jet::Recordset &, int);
+        for (Reading<Records> reading : readings) {
+            Rows given = rowsFrom([&](jet::Recordset &result) {
+                if (const auto *ofAll = std::get_if<OfAll>(&reading.reader))
+                    (records.**ofAll)(connection, result);
+                else if (const auto *ofId = std::get_if<OfId>(&reading.reader))
+                    (records.**ofId)(connection, result, reading.id);
+                else
+                    (records.*std::get<2>(reading.reader))(connection, reading.id, result);
+            });
+            if (!reading.ordered) {
+                given.sort();
+                reading.rows.sort();
+            }
+            EXPECT_EQ(given, reading.rows) << reading.name << ' ' << reading.id;
+        }
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("company.kvs"));
+    QString connection = jet::connectionString(path);
+};
