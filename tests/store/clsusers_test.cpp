@@ -1,10 +1,10 @@
 #include "platform/jet/errors.h"
-#include "storetest.h"
+#include "store/clsUsers.h"
+#include "support/recordtest.h"
 
-#include <QFile>
-
-#include <functional>
 #include <limits>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -79,16 +79,22 @@ const QString fullRow =
     "4|5|\\\\*|49|850|513|profile|H:|True|SRV01|S-1-5|Mr.|Dr.|Doe|Jörg|Admin|j@example.com|"
     "IT|5100|1|2|3|North"_s;
 
+class UsersTest : public RecordTest
+{
+protected:
+    clsUsers users;
+};
+
 } // namespace
 
-TEST_F(StoreTest, Add_WritesEveryColumn)
+TEST_F(UsersTest, Add_WritesEveryColumn)
 {
     UserRecord user = fullRecord();
     users.Add(connection, user);
     EXPECT_EQ(rows(u"SELECT * FROM Tbl_Users"_s), Rows{fullRow});
 }
 
-TEST_F(StoreTest, Update_WritesEveryColumnButTheId)
+TEST_F(UsersTest, Update_WritesEveryColumnButTheId)
 {
     UserRecord old = account(u"before"_s, u"SRV09"_s, 77);
     UserRecord other = account(u"other"_s, u"SRV01"_s, 5);
@@ -99,7 +105,7 @@ TEST_F(StoreTest, Update_WritesEveryColumnButTheId)
     EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users WHERE UserID = 5"_s), Rows{u"other"_s});
 }
 
-TEST_F(StoreTest, Add_AllocatesIdsAboveTheHighest)
+TEST_F(UsersTest, Add_AllocatesIdsAboveTheHighest)
 {
     UserRecord first = account(u"first"_s, u"SRV01"_s);
     users.Add(connection, first);
@@ -118,7 +124,7 @@ TEST_F(StoreTest, Add_AllocatesIdsAboveTheHighest)
     EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users WHERE UserName = 'none'"_s), Rows());
 }
 
-TEST_F(StoreTest, TakenNameAndServerAreRefusedWithNothingWritten)
+TEST_F(UsersTest, TakenNameAndServerAreRefusedWithNothingWritten)
 {
     UserRecord anna = account(u"Anna"_s, u"SRV01"_s);
     UserRecord elsewhere = account(u"Anna"_s, u"SRV02"_s);
@@ -138,18 +144,13 @@ TEST_F(StoreTest, TakenNameAndServerAreRefusedWithNothingWritten)
     EXPECT_EQ(error.number, RuleViolation);
     EXPECT_EQ(error.description, alreadyExists);
     EXPECT_EQ(rows(u"SELECT * FROM Tbl_Users ORDER BY UserID"_s), before);
-}
 
-TEST_F(StoreTest, Update_KeepsItsOwnNameAndServer)
-{
-    UserRecord anna = account(u"Anna"_s, u"SRV01"_s);
-    users.Add(connection, anna);
     anna.Department = u"IT"_s;
     users.update(connection, anna);
-    EXPECT_EQ(rows(u"SELECT UserName, Department FROM Tbl_Users"_s), Rows{u"Anna|IT"_s});
+    EXPECT_EQ(rows(u"SELECT UserName, Department FROM Tbl_Users WHERE UserID = 1"_s), Rows{u"Anna|IT"_s});
 }
 
-TEST_F(StoreTest, ApostropheIsRefusedByTheEngineInAddAndUpdate)
+TEST_F(UsersTest, ApostropheIsRefusedByTheEngineInAddAndUpdate)
 {
     UserRecord user = account(u"jdoe"_s, u"SRV01"_s);
     user.Comment = u"it's new"_s;
@@ -163,7 +164,7 @@ TEST_F(StoreTest, ApostropheIsRefusedByTheEngineInAddAndUpdate)
     EXPECT_EQ(rows(u"SELECT Comment FROM Tbl_Users"_s), Rows{u""_s});
 }
 
-TEST_F(StoreTest, Delete_TakesTheNamedUsersOnly)
+TEST_F(UsersTest, Delete_TakesTheNamedUsersOnly)
 {
     for (int id = 1; id <= 4; ++id) {
         UserRecord user = account(u"user%1"_s.arg(id), u"SRV01"_s, id);
@@ -175,7 +176,7 @@ TEST_F(StoreTest, Delete_TakesTheNamedUsersOnly)
     EXPECT_EQ(rows(u"SELECT COUNT(*) FROM Tbl_Users"_s), Rows{u"2"_s});
 }
 
-TEST_F(StoreTest, Import_ReplacesTheTableByTheNamedRemoteUsers)
+TEST_F(UsersTest, Import_ReplacesTheTableByTheNamedRemoteUsers)
 {
     UserRecord old = account(u"old"_s, u"SRV01"_s);
     users.Add(connection, old);
@@ -188,27 +189,4 @@ TEST_F(StoreTest, Import_ReplacesTheTableByTheNamedRemoteUsers)
     run(u"DROP TABLE Tbl_Users"_s);
     users.Import(connection);
     EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users"_s), Rows{u"7"_s});
-}
-
-TEST_F(StoreTest, MissingStoreIsToldByEveryMethodAndKept)
-{
-    const QString nowhere = jet::connectionString(folder.filePath(u"nowhere.kvs"_s));
-    UserRecord user = account(u"jdoe"_s, u"SRV01"_s);
-    jet::Recordset records;
-    const std::function<void()> calls[] = {
-        [&] { users.TestConnection(nowhere); },
-        [&] { users.getAll(nowhere, records); },
-        [&] { users.Add(nowhere, user); },
-        [&] { users.update(nowhere, user); },
-        [&] { users.Delete(nowhere, QList<int>{1}); },
-        [&] { users.addRooms(nowhere, 1, QList<int>{1}); },
-    };
-    for (const auto &call : calls) {
-        const CurrentError error = errorOf(call);
-        EXPECT_EQ(error.number, jet::Failure);
-        EXPECT_TRUE(error.description.contains(u"nowhere.kvs")) << error.description.toStdString();
-        EXPECT_EQ(users.errorDescription(), error.description);
-    }
-    EXPECT_FALSE(QFile::exists(folder.filePath(u"nowhere.kvs"_s)));
-    EXPECT_NO_THROW(users.TestConnection(connection));
 }

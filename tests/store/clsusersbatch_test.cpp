@@ -1,5 +1,8 @@
 #include "platform/jet/errors.h"
-#include "storetest.h"
+#include "store/clsUsers.h"
+#include "support/recordtest.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,7 +18,7 @@ QStringList fileLine(const QString &id, const QString &name, const QString &serv
     return {id, name, server, u"Full "_s + name, comment, {}, u"H:"_s, {}, {}, {}, u"0"_s, u"1"_s, u"0"_s};
 }
 
-class UserBatchTest : public StoreTest
+class UserBatchTest : public RecordTest
 {
 protected:
     void importLines(const QList<QStringList> &lines, bool leaveExisting = false)
@@ -56,6 +59,7 @@ protected:
         EXPECT_EQ(failed, wantFailed) << text.toStdString();
     }
 
+    clsUsers users;
     int added = 0;
     int updated = 0;
     int failed = 0;

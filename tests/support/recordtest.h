@@ -102,6 +102,14 @@ protected:
         return rowsFrom([&](jet::Recordset &records) { StoreSession(connection).open(sql, records); });
     }
 
+    /// All rows of a table, each in the order of its columns.
+    [[nodiscard]] Rows content(const char *table) const
+    {
+        Rows all = rows(QStringLiteral("SELECT * FROM ") + QLatin1StringView(table));
+        all.sort();
+        return all;
+    }
+
     template <typename Records>
     void expectRows(Records &records,
                     std::type_identity_t<std::initializer_list<Reading<Records>>> readings) const
