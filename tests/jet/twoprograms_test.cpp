@@ -134,6 +134,7 @@ TEST(TwoPrograms, LookingAtAnOpenFileKeepsItsLocks)
     }
     int status = 0;
     waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status)) << "it waited too long";
     EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 

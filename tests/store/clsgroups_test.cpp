@@ -1,6 +1,8 @@
 #include "clsgroupstest.h"
 #include "platform/jet/errors.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 using namespace company;
 
@@ -10,8 +12,7 @@ TYPED_TEST(GroupTwins, Add_HandsBackTheIdAndLeavesItWhenItFails)
 {
     int id = -7;
     const auto add = [&](const QString &name, const QString &description) {
-        return errorOf(
-                   [&] { this->groups.Add(this->connection, this->first, name, description, id); })
+        return errorOf([&] { this->groups.Add(this->connection, this->first, name, description, id); })
             .number;
     };
     EXPECT_EQ(add(u"staff"_s, {}), RuleViolation);
@@ -62,7 +63,9 @@ TYPED_TEST(GroupTwins, AddFolders_UpdatesWhatIsThereAndClearsOnRequest)
               (Rows{kept, u"1|42|Full Control"_s, u"1|43|R"_s}));
     EXPECT_EQ(add({43}, {u"L"_s}, true), Rows{u"1|43|L"_s});
     // What was done before a failure stays.
-    EXPECT_EQ(errorOf([&] { add({41, 42, 43}, {u"R"_s, u"it's"_s, u"R"_s}, true); }).number,
+    EXPECT_EQ(errorOf([&] {
+                  add({41, 42, 43}, {u"R"_s, u"it's"_s, u"R"_s}, true);
+              }).number,
               jet::SyntaxError);
     EXPECT_EQ(add({}, {}, false), Rows{u"1|41|R"_s});
     EXPECT_EQ(add({}, {}, true), Rows());

@@ -1,6 +1,8 @@
 #include "clsgroupstest.h"
 #include "platform/jet/errors.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QStringList groupFields = {u"Name"_s, u"Server"_s, u"Description"_s};
@@ -34,6 +36,15 @@ protected:
         this->groups.AddUsersBatch(this->connection, records, text, [this] { ++breaths; });
     }
 
+    /// The groups by their place in the company and the number of their server.
+    Rows described()
+    {
+        Rows all = this->content(this->names.groups);
+        for (QString &row : all)
+            row.remove(0, 1).remove(this->names.server);
+        return all;
+    }
+
     QString text;
     int breaths = 0;
 };
@@ -42,40 +53,30 @@ TYPED_TEST_SUITE(GroupTwinsBatch, GroupClasses, GroupClassNames);
 
 TYPED_TEST(GroupTwinsBatch, AddBatch_ChangesOnlyTheDescriptionOfAKnownGroup)
 {
-    this->add(u"Staff"_s, u"SRV01"_s, u"old"_s);
-    const QList<QStringList> lines = {{u"STAFF"_s, u"srv01"_s, u"new"_s},
-                                      {u"Staff"_s, u"SRV02"_s, u"other server"_s},
-                                      {u"Twice"_s, u"SRV02"_s, u"first"_s},
-                                      {u"Twice"_s, u"SRV02"_s, u"second"_s}};
+    const QList<QStringList> lines = {{u"STAFF"_s, this->first.toLower(), u"new"_s},
+                                      {u"Staff"_s, this->second, u"other server"_s},
+                                      {u"Twice"_s, this->second, u"first"_s},
+                                      {u"Twice"_s, this->second, u"it''s"_s},
+                                      {u"Bare"_s, this->second}};
+    Rows expected = {u"1|Staff|1|All"_s,          u"2|Guests|2|-"_s,    u"3|Admins|1|-"_s,
+                     u"4|Staff|2|other server"_s, u"5|Twice|2|first"_s, u"6|Bare|2|"_s};
     this->importGroups(lines, true);
-    const QString select =
-        "SELECT ID, Name, Server, Description FROM "_L1 + this->names.groups + " ORDER BY ID"_L1;
-    EXPECT_EQ(this->rows(select),
-              (Rows{u"1|Staff|SRV01|old"_s, u"2|Staff|SRV02|other server"_s, u"3|Twice|SRV02|first"_s}));
+    EXPECT_EQ(this->described(), expected);
+    expected[0] = u"1|Staff|1|new"_s;
+    expected[4] = u"5|Twice|2|it's"_s;
     this->importGroups(lines, false);
-    EXPECT_EQ(this->rows(select),
-              (Rows{u"1|Staff|SRV01|new"_s, u"2|Staff|SRV02|other server"_s, u"3|Twice|SRV02|second"_s}));
-}
-
-TYPED_TEST(GroupTwinsBatch, AddBatch_KeepsAnEscapedApostropheAndWritesNullAsEmpty)
-{
-    this->importGroups({{u"Staff"_s, u"SRV01"_s, u"it''s"_s}, {u"Admins"_s, u"SRV01"_s}}, false);
-    EXPECT_EQ(this->all(), (Rows{u"2|Admins|SRV01|"_s, u"1|Staff|SRV01|it's"_s}));
-    this->importGroups({{u"Staff"_s, u"SRV01"_s, u"''"_s}}, false);
-    EXPECT_EQ(this->all().last(), u"1|Staff|SRV01|'"_s);
+    EXPECT_EQ(this->described(), expected);
 }
 
 TYPED_TEST(GroupTwinsBatch, AddBatch_EndsAtTheFirstFailureAndKeepsTheRowsBeforeIt)
 {
     const CurrentError error = errorOf([&] {
-        this->importGroups({{u"Staff"_s, u"SRV01"_s, u"fine"_s},
-                            {u"Admins"_s, u"SRV01"_s, u"it's"_s},
-                            {u"Guests"_s, u"SRV01"_s, u"fine"_s}},
-                           false);
+        this->importGroups(
+            {{u"A"_s, u"S"_s, u"fine"_s}, {u"B"_s, u"S"_s, u"it's"_s}, {u"C"_s, u"S"_s, u"fine"_s}}, false);
     });
     EXPECT_EQ(error.number, jet::SyntaxError);
     EXPECT_EQ(this->groups.errorDescription(), error.description);
-    EXPECT_EQ(this->all(), Rows{u"1|Staff|SRV01|fine"_s});
+    EXPECT_EQ(this->described().sliced(3), Rows{u"4|A|S|fine"_s});
 }
 
 TYPED_TEST(GroupTwinsBatch, BatchesAskForTheirFieldsBeforeTheyWrite)
@@ -87,113 +88,135 @@ TYPED_TEST(GroupTwinsBatch, BatchesAskForTheirFieldsBeforeTheyWrite)
     EXPECT_EQ(this->text, QString());
 
     jet::Recordset records;
-    makeRecords(records, {u"Name"_s, u"Server"_s}, {{u"Staff"_s, u"SRV01"_s}});
+    makeRecords(records, {u"Name"_s, u"Server"_s}, {{u"New"_s, u"S"_s}});
     CurrentError error = errorOf([&] { this->groups.AddBatch(this->connection, records, false); });
     EXPECT_EQ(error.number, jet::ItemNotFound);
     EXPECT_TRUE(error.description.contains(u"'Description'")) << error.description.toStdString();
     error = errorOf([&] { this->groups.AddUsersBatch(this->connection, records, this->text); });
     EXPECT_EQ(error.number, jet::ItemNotFound);
     EXPECT_TRUE(error.description.contains(u"'UserName'")) << error.description.toStdString();
-    EXPECT_EQ(this->all(), Rows());
+    EXPECT_EQ(this->described().size(), 3);
 }
 
 TYPED_TEST(GroupTwinsBatch, AddUsersBatch_OnlyAddsAndNamesWhatIsMissing)
 {
-    this->fillStore();
-    this->groups.addUsers(this->connection, 1, QList<int>{3});
     this->text = u"before"_s;
     this->importMembers({
-        member(u"ANNA"_s, u"srv01"_s, u"staff"_s, u"SRV01"_s),
-        member(u"anna"_s, u"SRV01"_s, u"Staff"_s, u"SRV01"_s),
-        member(u"nobody"_s, u"SRV01"_s, u"Staff"_s, u"SRV01"_s),
-        member(u"anna"_s, u"SRV02"_s, u"nowhere"_s, u"SRV01"_s),
-        member(u"bert"_s, u"SRV02"_s, u"Staff"_s, u"SRV02"_s),
-        member(u"bert"_s, u"SRV02"_s, u"Admins"_s, u"SRV02"_s),
+        member(u"ANNA"_s, u"srv01"_s, u"staff"_s, this->first.toLower()),
+        member(u"anna"_s, u"SRV01"_s, u"Staff"_s, this->first),
+        member(u"nobody"_s, u"SRV01"_s, u"Staff"_s, this->first),
+        member(u"anna"_s, u"SRV02"_s, u"nowhere"_s, this->first),
+        member(u"rolf"_s, u"SRV01"_s, u"Staff"_s, this->second),
+        member(u"rolf"_s, u"SRV01"_s, u"Guests"_s, this->second),
     });
-    EXPECT_EQ(this->memberships(), (Rows{u"1|1"_s, u"1|3"_s, u"2|2"_s}));
-    EXPECT_EQ(this->text, "before"
-                          "\r\n\r\nSRV01\\Staff\tSRV01\\nobody User not found"
-                          "\r\n\r\nSRV01\\nowhere\tSRV02\\anna User not found"
-                          "\r\n\r\n\tSRV02\\Staff"_L1 +
-                              this->names.notFound);
+    EXPECT_EQ(this->memberships(), (Rows{u"1|11"_s, u"1|12"_s, u"1|13"_s, u"2|11"_s, u"2|12"_s, u"3|13"_s}));
+    EXPECT_EQ(this->text, "before\r\n\r\n"_L1 + this->first +
+                              "\\Staff\tSRV01\\nobody User not found\r\n\r\n"_L1 + this->first +
+                              "\\nowhere\tSRV02\\anna User not found\r\n\r\n\t"_L1 + this->second +
+                              "\\Staff"_L1 + this->names.notFound);
     EXPECT_EQ(this->breaths, 6);
 }
 
 TYPED_TEST(GroupTwinsBatch, AddUsersBatch_EndsAtAFailureOfTheStore)
 {
-    this->fillStore();
     const CurrentError error = errorOf([&] {
         this->importMembers({
-            member(u"anna"_s, u"SRV01"_s, u"Staff"_s, u"SRV01"_s),
-            member(u"nobody"_s, u"SRV01"_s, u"Staff"_s, u"SRV01"_s),
-            member(u"o'brien"_s, u"SRV01"_s, u"Staff"_s, u"SRV01"_s),
-            member(u"bert"_s, u"SRV02"_s, u"Staff"_s, u"SRV01"_s),
+            member(u"anna"_s, u"SRV01"_s, u"Staff"_s, this->first),
+            member(u"nobody"_s, u"SRV01"_s, u"Staff"_s, this->first),
+            member(u"o'brien"_s, u"SRV01"_s, u"Staff"_s, this->first),
+            member(u"rolf"_s, u"SRV01"_s, u"Guests"_s, this->second),
         });
     });
     EXPECT_EQ(error.number, jet::SyntaxError);
-    EXPECT_EQ(this->memberships(), Rows{u"1|1"_s});
-    EXPECT_EQ(this->text, u"\r\n\r\nSRV01\\Staff\tSRV01\\nobody User not found"_s);
+    EXPECT_EQ(this->memberships(), (Rows{u"1|11"_s, u"1|12"_s, u"1|13"_s, u"2|12"_s, u"3|13"_s}));
+    EXPECT_EQ(this->text, "\r\n\r\n"_L1 + this->first + "\\Staff\tSRV01\\nobody User not found"_L1);
 }
 
 class LocalGroupsBatchTest : public GroupTwins<clsLocalGroups>
 {
 protected:
-    void SetUp() override
+    void nest(const QList<QStringList> &lines)
     {
-        GroupTwins::SetUp();
-        fillStore();
-        run(u"INSERT INTO Tbl_GlobalGroups (Name,Server) VALUES ('Sales','DC01')"_s);
-        run(u"INSERT INTO Tbl_GlobalGroups (Name,Server) VALUES ('Support','DC01')"_s);
+        jet::Recordset records;
+        makeRecords(
+            records,
+            {u"LocalGroupName"_s, u"LocalGroupServer"_s, u"GlobalGroupName"_s, u"GlobalGroupServer"_s},
+            lines);
+        groups.AddGlobalGroupsBatch(connection, records, text, [this] { ++breaths; });
     }
+
+    void permit(const QString &group, const QList<QStringList> &lines)
+    {
+        jet::Recordset records;
+        makeRecords(records, {u"Name"_s, u"Permission"_s}, lines);
+        groups.addFoldersBatch(connection, group, records, text);
+    }
+
+    QString text = u"before,"_s;
+    int breaths = 0;
 };
 
 TEST_F(LocalGroupsBatchTest, AddGlobalGroupsBatch_OnlyAddsAndNamesWhatIsMissing)
 {
-    groups.addGlobalGroups(connection, 2, QList<int>{1});
-    jet::Recordset records;
-    makeRecords(records,
-                {u"LocalGroupName"_s, u"LocalGroupServer"_s, u"GlobalGroupName"_s, u"GlobalGroupServer"_s},
-                {{u"Staff"_s, u"SRV01"_s, u"Sales"_s, u"DC01"_s},
-                 {u"Admins"_s, u"SRV02"_s, u"sales"_s, u"dc01"_s},
-                 {u"Admins"_s, u"SRV02"_s, u"Support"_s, u"DC02"_s},
-                 {u"Admins"_s, u"SRV01"_s, u"Support"_s, u"DC01"_s},
-                 {u"Admins"_s, u"SRV02"_s, u"Support"_s, u"DC01"_s}});
-    QString text;
-    int breaths = 0;
-    groups.AddGlobalGroupsBatch(connection, records, text, [&] { ++breaths; });
-    EXPECT_EQ(rows(u"SELECT LocalGroupID, GlobalGroupID FROM Tbl_LocalGroupsGlobalGroups "
-                   "ORDER BY LocalGroupID, GlobalGroupID"_s),
-              (Rows{u"1|1"_s, u"2|1"_s, u"2|2"_s}));
-    EXPECT_EQ(text, u"\r\n\r\nSRV02\\Admins\tDC02\\Support Global Group not found"
-                    "\r\n\r\n\tSRV01\\Admins Local Group not found"_s);
-    EXPECT_EQ(breaths, 5);
+    nest({{u"Staff"_s, u"SRV01"_s, u"Staff"_s, u"DC01"_s},
+          {u"Staff"_s, u"SRV01"_s, u"guests"_s, u"dc02"_s},
+          {u"Staff"_s, u"SRV01"_s, u"Guests"_s, u"DC01"_s},
+          {u"Staff"_s, u"SRV02"_s, u"Guests"_s, u"DC02"_s},
+          {u"Staff"_s, u"SRV02"_s, u"Guests"_s, u"DC01"_s},
+          {u"Guests"_s, u"SRV02"_s, u"Admins"_s, u"DC01"_s}});
+    EXPECT_EQ(content("Tbl_LocalGroupsGlobalGroups"),
+              (Rows{u"31|21"_s, u"31|22"_s, u"32|21"_s, u"32|22"_s, u"32|23"_s, u"33|23"_s}));
+    EXPECT_EQ(text, u"before,\r\n\r\nSRV01\\Staff\tDC01\\Guests Global Group not found"
+                    "\r\n\r\n\tSRV02\\Staff Local Group not found"
+                    "\r\n\r\nSRV02\\Staff\tDC01\\Guests Global Group not found"_s);
+    EXPECT_EQ(breaths, 6);
+}
+
+TEST_F(LocalGroupsBatchTest, AddGlobalGroupsBatch_EndsAtAFailureOfTheStore)
+{
+    EXPECT_EQ(errorOf([&] {
+                  nest({{u"Staff"_s, u"SRV01"_s, u"Guests"_s, u"DC02"_s},
+                        {u"Staff"_s, u"SRV'01"_s, u"Staff"_s, u"DC01"_s},
+                        {u"Staff"_s, u"SRV01"_s, u"Admins"_s, u"DC01"_s}});
+              }).number,
+              jet::SyntaxError);
+    EXPECT_EQ(content("Tbl_LocalGroupsGlobalGroups").first(2), (Rows{u"31|21"_s, u"31|22"_s}));
+    EXPECT_EQ(text, u"before,"_s);
+    EXPECT_EQ(breaths, 1);
 }
 
 TEST_F(LocalGroupsBatchTest, AddFoldersBatch_AddsMissingFoldersAndNamesTheImpossible)
 {
-    groups.addFolders(connection, 1, QList<int>{1, 2}, {u"L"_s, u"L"_s}, true);
-    jet::Recordset records;
-    makeRecords(records, {u"Name"_s, u"Permission"_s},
-                {{u"d:\\admin\\"_s, u"R"_s},
-                 {u"D:\\It's\\"_s, u"R"_s},
-                 {u"D:\\New"_s, u"CH"_s},
-                 {u"D:\\Don't\\"_s, u"R"_s},
-                 {u"D:\\New"_s, u"R"_s}});
-    QString failed = u"before,"_s;
-    groups.addFoldersBatch(connection, u"STAFF"_s, records, failed);
-    EXPECT_EQ(failed, u"before,D:\\It's\\,D:\\Don't\\,"_s);
-    EXPECT_EQ(foldersOf(1), (Rows{u"2|D:\\Admin\\|-|R"_s, u"1|D:\\Data\\|Data|L"_s, u"3|D:\\New|-|R"_s}));
-    EXPECT_EQ(permissions().size(), 3);
-}
+    permit(u"STAFF"_s, {{u"d:\\data\\"_s, u"CH"_s},
+                        {u"D:\\It's\\"_s, u"R"_s},
+                        {u"D:\\New"_s, u"CH"_s},
+                        {u"D:\\Don't\\"_s, u"R"_s},
+                        {u"D:\\New"_s, u"R"_s}});
+    EXPECT_EQ(text, u"before,D:\\It's\\,D:\\Don't\\,"_s);
+    EXPECT_EQ(permissions(), (Rows{u"1|41|CH"_s, u"1|42|CH"_s, u"1|45|R"_s, u"2|43|L"_s, u"3|43|R"_s}));
+    EXPECT_EQ(rows(u"SELECT ID, FolderName FROM Tbl_Folders WHERE ID > 44"_s), Rows{u"45|D:\\New"_s});
 
-TEST_F(LocalGroupsBatchTest, AddFoldersBatch_RefusesAnUnknownGroupBeforeItAddsAFolder)
-{
-    jet::Recordset records;
-    makeRecords(records, {u"Name"_s, u"Permission"_s}, {{u"D:\\New\\"_s, u"R"_s}});
-    QString failed;
-    const CurrentError error =
-        errorOf([&] { groups.addFoldersBatch(connection, u"nobody"_s, records, failed); });
+    const CurrentError error = errorOf([&] { permit(u"nobody"_s, {{u"D:\\Newer\\"_s, u"R"_s}}); });
     EXPECT_EQ(error.number, RuleViolation);
     EXPECT_EQ(error.description, u"The specified Local Group does not exist in your Database"_s);
-    EXPECT_EQ(rows(u"SELECT COUNT(*) FROM Tbl_Folders"_s), Rows{u"2"_s});
+    EXPECT_EQ(content("Tbl_Folders").size(), 5) << "the group is looked for before a folder is added";
+}
+
+TEST_F(LocalGroupsBatchTest, AddFoldersBatch_KeepsTheFoldersWhenAPermissionIsRefused)
+{
+    EXPECT_EQ(errorOf([&] {
+                  permit(u"Staff"_s, {{u"D:\\New\\"_s, u"R"_s}, {u"D:\\Newer\\"_s, u"it's"_s}});
+              }).number,
+              jet::SyntaxError);
+    EXPECT_EQ(rows(u"SELECT FolderName FROM Tbl_Folders WHERE ID > 44 ORDER BY ID"_s),
+              (Rows{u"D:\\New\\"_s, u"D:\\Newer\\"_s}));
+    EXPECT_EQ(permissions().filter(u"1|45"_s), Rows{u"1|45|R"_s});
+}
+
+TEST_F(LocalGroupsBatchTest, AddFoldersBatch_TakesOneOfTheGroupsOfAName)
+{
+    run(u"UPDATE Tbl_LocalGroups SET Name = 'Guests' WHERE ID = 33"_s);
+    permit(u"Guests"_s, {{u"D:\\Data\\"_s, u"Full Control"_s}});
+    EXPECT_EQ(permissions().filter(u"|41|Full Control"_s).size(), 1);
+    EXPECT_EQ(permissions().size(), 5);
 }

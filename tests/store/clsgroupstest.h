@@ -69,7 +69,7 @@ private:
     {
         Rows all = content(table);
         for (QString &row : all)
-            row.removeFirst();
+            row.remove(0, 1);
         return all;
     }
 };

@@ -52,9 +52,8 @@ TEST_F(UserRelationsTest, UsersAreFoundByPartsOfTheirNamesAndByAccount)
     EXPECT_EQ(found(u"ÄRM"_s, {}), (Rows{anna, bert})) << "a Null is as good as any";
     EXPECT_EQ(found(u"r"_s, u"o"_s), (Rows{rolf}));
     const auto account = [&](const QString &name, const QString &server) {
-        return rowsFrom([&](auto &records) {
-                   users.getByUserNameAndServer(connection, records, name, server);
-               })
+        return rowsFrom(
+                   [&](auto &records) { users.getByUserNameAndServer(connection, records, name, server); })
             .join(u'\n')
             .left(8);
     };

@@ -114,14 +114,6 @@ TEST_P(StoreCheckTest, TellsEachDifferenceAndChangesNothing)
 INSTANTIATE_TEST_SUITE_P(Changes, StoreCheckTest, testing::ValuesIn(changes),
                          [](const auto &info) { return std::string(info.param.name); });
 
-TEST(StoreCheck, FindsASampleStoreInOrder)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("sample.mdb"_L1);
-    createSampleStore(path, 200);
-    EXPECT_EQ(checkStore(path).join(u'\n').toStdString(), "");
-}
-
 TEST(StoreCheck, KnowsEveryRelationshipOfTheSchema)
 {
     const QTemporaryDir folder;

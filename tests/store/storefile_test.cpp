@@ -1,11 +1,74 @@
 #include "platform/jet/errors.h"
-#include "store/sampledata.h"
-#include "storetest.h"
+#include "platform/jet/inspection.h"
+#include "support/recordtest.h"
 
 #include <QDir>
-#include <QFile>
 
-TEST_F(StoreTest, NewStoreHasAllTablesAndNoRows)
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A new store, by way of its definition.
+class StoreFileTest : public RecordTest
+{
+protected:
+    [[nodiscard]] std::vector<jet::StoredTable> tables() const
+    {
+        jet::Connection opened;
+        opened.open(connection);
+        return jet::storedTables(opened);
+    }
+
+    /// Its columns as the schema declares them.
+    [[nodiscard]] QStringList columnsOf(const QString &table) const
+    {
+        QStringList columns;
+        for (const jet::StoredTable &stored : tables()) {
+            if (stored.name != table)
+                continue;
+            for (const jet::StoredPart &column : stored.columns)
+                columns += column.name + u' ' + column.definition;
+        }
+        return columns;
+    }
+
+    /// Whether an index begins with the columns.
+    static bool hasIndex(const jet::StoredTable &table, const QString &columns)
+    {
+        return std::ranges::any_of(table.indexes, [&](const jet::StoredPart &index) {
+            return (index.definition.chopped(1) + ", "_L1).startsWith(u'(' + columns + ", "_L1);
+        });
+    }
+};
+
+/// By what a row of a table is looked for; null for a table that is read as a whole.
+struct NaturalKey
+{
+    const char *table;
+    const char *columns;
+};
+
+constexpr NaturalKey naturalKeys[] = {
+    {"Tbl_CustomQuery", "Name"},
+    {"Tbl_FolderDefaultPermissions", "Account"},
+    {"Tbl_Folders", "FolderName"},
+    {"Tbl_GlobalGroups", "Name, Server"},
+    {"Tbl_HW", "SerialNumber, HWTypeID"},
+    {"Tbl_HWType", "Type, Manufacturer, Model, TypeNumber"},
+    {"Tbl_LocalGroups", "Name, Server"},
+    {"Tbl_Remote_Users", nullptr},
+    {"Tbl_ReportConfig", "ReportName"},
+    {"Tbl_Rooms", "RoomNumber"},
+    {"Tbl_SW", "Type, Manufacturer, Name, Version"},
+    {"Tbl_Users", "UserName, ServerName"},
+    {"ZTBL_IMPORT_HW_SHEET1", nullptr},
+};
+
+} // namespace
+
+TEST_F(StoreFileTest, NewStoreHasAllTablesAndNoRows)
 {
     const QStringList tables =
         u"Tbl_CustomQuery Tbl_FolderDefaultPermissions Tbl_Folders "
@@ -18,22 +81,41 @@ TEST_F(StoreTest, NewStoreHasAllTablesAndNoRows)
         EXPECT_EQ(rows("SELECT COUNT(*) FROM "_L1 + table), Rows{u"0"_s}) << table.toStdString();
 }
 
-TEST_F(StoreTest, UsersAndRemoteUsersHaveTheSameColumns)
+TEST_F(StoreFileTest, WhatIsLookedForHasAnIndex)
 {
-    const auto columns = [&](const QString &table) {
-        jet::Recordset records;
-        StoreSession(connection).open("SELECT * FROM "_L1 + table, records);
-        QStringList names;
-        for (int i = 0; i < records.fields().count(); ++i)
-            names.append(records.fields().item(i).name() + u' ' +
-                         QString::number(int(records.fields().item(i).type())));
-        return names;
-    };
-    EXPECT_EQ(columns(u"Tbl_Users"_s).size(), 47);
-    EXPECT_EQ(columns(u"Tbl_Users"_s), columns(u"Tbl_Remote_Users"_s));
+    QStringList relationships;
+    QStringList others;
+    for (const jet::StoredTable &table : tables()) {
+        QStringList ids;
+        for (const jet::StoredPart &column : table.columns) {
+            if (column.name.endsWith("ID"_L1) && column.definition == "LONG NOT NULL"_L1)
+                ids += column.name;
+        }
+        if (ids.size() < 2) {
+            const auto key = std::ranges::find(naturalKeys, table.name, &NaturalKey::table);
+            ASSERT_NE(key, std::end(naturalKeys)) << table.name.toStdString();
+            EXPECT_TRUE(!key->columns || hasIndex(table, QString::fromLatin1(key->columns))) << key->table;
+            others += table.name;
+            continue;
+        }
+        for (const QString &id : ids)
+            EXPECT_TRUE(hasIndex(table, id)) << table.name.toStdString() << ' ' << id.toStdString();
+        relationships += table.name;
+    }
+    EXPECT_EQ(relationships.size(), 10);
+    EXPECT_EQ(others.size(), std::ssize(naturalKeys));
 }
 
-TEST_F(StoreTest, CreateStoreNeverOverwrites)
+TEST_F(StoreFileTest, ColumnsAreAsDeclared)
+{
+    EXPECT_EQ(columnsOf(u"Tbl_Users"_s).size(), 47);
+    EXPECT_EQ(columnsOf(u"Tbl_Users"_s), columnsOf(u"Tbl_Remote_Users"_s));
+    EXPECT_EQ(columnsOf(u"ZTBL_IMPORT_HW_SHEET1"_s).join(u", "_s),
+              u"Serial Number TEXT, Asset TEXT, Bemerkung TEXT, Purchase Date DATETIME, Beschreibung TEXT, "
+              "Standort TEXT, User TEXT, HWTypeID LONG, ImportStatus TEXT, HardwareStatus TEXT"_s);
+}
+
+TEST_F(StoreFileTest, CreateStoreNeverOverwrites)
 {
     run(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('12')"_s);
     const CurrentError error = errorOf([&] { createStore(path); });
@@ -74,57 +156,4 @@ TEST(StoreFile, PathsThatCannotBeAreRefusedByName)
         EXPECT_EQ(error.number, jet::Failure) << c.name;
         EXPECT_TRUE(error.description.contains(c.named)) << c.name << ": " << error.description.toStdString();
     }
-}
-
-namespace {
-
-Rows allUsers(const QString &path, const QString &condition = {})
-{
-    jet::Recordset records;
-    StoreSession(jet::connectionString(path))
-        .open("SELECT * FROM Tbl_Users"_L1 + condition + " ORDER BY UserID"_L1, records);
-    return rowsOf(records);
-}
-
-} // namespace
-
-TEST(SampleStore, IsTheSameEveryTimeAndGrowsAtItsEnd)
-{
-    const QTemporaryDir folder;
-    const QString small = folder.filePath(u"small.kvs"_s);
-    const QString again = folder.filePath(u"again.kvs"_s);
-    const QString large = folder.filePath(u"large.kvs"_s);
-    createSampleStore(small, 300);
-    createSampleStore(again, 300);
-    createSampleStore(large, 500);
-    const Rows users = allUsers(small);
-    ASSERT_EQ(users.size(), 300);
-    EXPECT_EQ(users, allUsers(again));
-    EXPECT_EQ(users, allUsers(large).first(300));
-}
-
-TEST(SampleStore, HoldsAWholeCompany)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"sample.kvs"_s);
-    createSampleStore(path, 2000);
-    const auto values = [&](const QString &sql) {
-        jet::Recordset records;
-        StoreSession(jet::connectionString(path)).open(sql, records);
-        return rowsOf(records);
-    };
-    EXPECT_GT(values(u"SELECT DISTINCT ServerName FROM Tbl_Users"_s).size(), 3);
-    EXPECT_EQ(values(u"SELECT UserName, ServerName FROM Tbl_Users GROUP BY UserName, ServerName "
-                     "HAVING Count(*) > 1"_s),
-              Rows());
-    EXPECT_EQ(values(u"SELECT UserID FROM Tbl_Users GROUP BY UserID HAVING Count(*) > 1"_s), Rows());
-    for (const QString &name : {u"O'Brien"_s, u"Müller"_s, u"Lefèvre"_s, u"Žižka"_s}) {
-        QString quoted = name;
-        quoted.replace(u'\'', "''"_L1);
-        EXPECT_FALSE(values("SELECT UserID FROM Tbl_Users WHERE LastName = '"_L1 + quoted + u'\'').isEmpty())
-            << name.toStdString();
-    }
-    EXPECT_EQ(values(u"SELECT UserID FROM Tbl_Users WHERE EmailAddress = '' OR Department = '' OR "
-                     "FirstName = '' OR HomeDir = '' OR UserName LIKE '%[!a-z0-9]%'"_s),
-              Rows());
 }

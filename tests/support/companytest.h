@@ -100,8 +100,8 @@ private:
         StoreSession session(jet::connectionString(model));
         for (const company::Table &table : company::tables) {
             for (const char *row : table.rows)
-                session.execute(
-                    QStringLiteral("INSERT INTO %1 VALUES (%2)").arg(QString::fromUtf8(table.columns), QString::fromUtf8(row)));
+                session.execute(QStringLiteral("INSERT INTO %1 VALUES (%2)")
+                                    .arg(QString::fromUtf8(table.columns), QString::fromUtf8(row)));
         }
         session.close();
     }
