@@ -79,20 +79,27 @@ const Table *Catalog::find(std::string_view name)
     if (const auto known = m_tables.find(key); known != m_tables.end())
         return known->second.get();
 
-    const StatementHandle statement =
-        prepareSqlite(m_handle, "SELECT t.name, c.name, c.type, c.pk, c.\"notnull\" FROM sqlite_schema AS t, "
-                                "pragma_table_info(t.name) AS c "
-                                "WHERE t.type = 'table' AND lower(t.name) = ?1 AND t.name NOT LIKE "
-                                "'sqlite!_%' ESCAPE '!' ORDER BY c.cid");
-    sqlite3_bind_text(statement.get(), 1, key.data(), static_cast<int>(key.size()), SQLITE_STATIC);
+    const StatementHandle named = prepareSqlite(
+        m_handle, "SELECT name FROM sqlite_schema WHERE type = 'table' AND lower(name) = ?1 AND "
+                  "name NOT LIKE 'sqlite!_%' ESCAPE '!'");
+    sqlite3_bind_text(named.get(), 1, key.data(), static_cast<int>(key.size()), SQLITE_STATIC);
+    int result = sqlite3_step(named.get());
+    if (result == SQLITE_DONE)
+        return nullptr;
+    if (result != SQLITE_ROW)
+        raiseSqlite(m_handle, result);
     auto table = std::make_unique<Table>();
-    int result = SQLITE_ROW;
-    while ((result = sqlite3_step(statement.get())) == SQLITE_ROW) {
-        table->name = textOf(statement.get(), 0);
+    table->name = textOf(named.get(), 0);
+    // The pragma itself: as a table of a SELECT it takes as long as all the rest of a small reading.
+    const StatementHandle columns =
+        prepareSqlite(m_handle, "PRAGMA table_info(" + quotedName(table->name) + ')');
+    enum { Name = 1, Type = 2, NotNull = 3, PrimaryKey = 5 };
+    while ((result = sqlite3_step(columns.get())) == SQLITE_ROW) {
         TableColumn column;
-        column.name = textOf(statement.get(), 1);
-        column.type = declaredType(textOf(statement.get(), 2), sqlite3_column_int(statement.get(), 3) != 0);
-        column.notNull = sqlite3_column_int(statement.get(), 4) != 0;
+        column.name = textOf(columns.get(), Name);
+        column.type =
+            declaredType(textOf(columns.get(), Type), sqlite3_column_int(columns.get(), PrimaryKey) != 0);
+        column.notNull = sqlite3_column_int(columns.get(), NotNull) != 0;
         table->columns.push_back(std::move(column));
     }
     if (result != SQLITE_DONE)

@@ -133,7 +133,8 @@ Database::~Database()
     try {
         flush();
         // The emptied journal goes too: a store at rest is one file.
-        sqlite3_exec(m_handle, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
+        if (m_written)
+            sqlite3_exec(m_handle, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
     } catch (...) {
         // Whoever closes by hand has heard of it; a destructor has no one to tell.
     }
@@ -320,6 +321,7 @@ void Database::beginGroup()
     requireFileInPlace();
     stepToEnd(m_handle, m_begin.get());
     m_inGroup = true;
+    m_written = true;
     m_groupWrites = 0;
     m_writesSinceTry = 0;
     m_groupStart = std::chrono::steady_clock::now();

@@ -111,6 +111,7 @@ private:
     StatementHandle m_commit;
     bool m_asking = false; // in the middle of a statement, events may run
     bool m_inGroup = false;
+    bool m_written = false; ///< whether there ever was a group
     int m_groupWrites = 0;
     int m_writesSinceTry = 0; // to commit them
     std::chrono::steady_clock::time_point m_groupStart;
