@@ -38,7 +38,8 @@ protected:
     static bool hasIndex(const jet::StoredTable &table, const QString &columns)
     {
         return std::ranges::any_of(table.indexes, [&](const jet::StoredPart &index) {
-            return (index.definition.chopped(1) + ", "_L1).startsWith(u'(' + columns + ", "_L1);
+            const QString indexed = index.definition.chopped(1) + ", "_L1;
+            return indexed.startsWith(QString(u'(' + columns + ", "_L1));
         });
     }
 };
@@ -92,7 +93,9 @@ TEST_F(StoreFileTest, WhatIsLookedForHasAnIndex)
                 ids += column.name;
         }
         if (ids.size() < 2) {
-            const auto key = std::ranges::find(naturalKeys, table.name, &NaturalKey::table);
+            const auto key = std::ranges::find(naturalKeys, table.name, [](const NaturalKey &known) {
+                return QString::fromLatin1(known.table);
+            });
             ASSERT_NE(key, std::end(naturalKeys)) << table.name.toStdString();
             EXPECT_TRUE(!key->columns || hasIndex(table, QString::fromLatin1(key->columns))) << key->table;
             others += table.name;
