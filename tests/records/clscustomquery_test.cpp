@@ -1,18 +1,18 @@
 #include "base/text.h"
 #include "platform/jet/errors.h"
 #include "queries/clsCustomQuery.h"
-#include "store/storetest.h"
+#include "support/recordtest.h"
 
-#include <QFile>
+using namespace Qt::StringLiterals;
 
 namespace {
 
-class CustomQueryTest : public StoreTest
+class CustomQueryTest : public RecordTest
 {
 protected:
     void SetUp() override
     {
-        StoreTest::SetUp();
+        RecordTest::SetUp();
         run(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('101')"_s);
         run(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('102')"_s);
     }
@@ -27,9 +27,8 @@ TEST_F(CustomQueryTest, ASavedStatementComesBackAsTyped)
     const QString typed = u"SELECT * FROM Tbl_Users WHERE [LastName] LIKE 'O''B%'"_s;
     queries.Add(connection, u"Irish"_s, u"All of them"_s, escapeQuotes(typed));
     queries.Add(connection, u"Empty"_s, {}, {});
-    jet::Recordset all;
-    queries.getAll(connection, all);
-    EXPECT_EQ(rowsOf(all), (Rows{u"2|Empty||"_s, u"1|Irish|All of them|"_s + typed}));
+    expectRows(queries,
+               {{"getAll", &clsCustomQuery::getAll, 0, {u"2|Empty||"_s, u"1|Irish|All of them|"_s + typed}}});
 
     jet::Recordset result;
     queries.Execute(connection, result, typed);
@@ -55,6 +54,9 @@ TEST_F(CustomQueryTest, AnyOtherStatementRunsAndGivesNoRows)
         {"update", u"UPDATE Tbl_Rooms SET RoomNumber = '103' WHERE ID = 2"_s, {u"101"_s, u"103"_s}},
         {"insert", u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('104')"_s, {u"101"_s, u"103"_s, u"104"_s}},
         {"delete", u"DELETE * FROM Tbl_Rooms WHERE ID = 1"_s, {u"103"_s, u"104"_s}},
+        {"select into",
+         u"SELECT RoomNumber INTO Tbl_Copy FROM Tbl_Rooms WHERE ID > 2"_s,
+         {u"103"_s, u"104"_s}},
         {"a select behind a blank", u" SELECT * FROM Tbl_Rooms"_s, {u"103"_s, u"104"_s}},
     };
     for (const auto &c : cases) {
@@ -63,6 +65,7 @@ TEST_F(CustomQueryTest, AnyOtherStatementRunsAndGivesNoRows)
         EXPECT_EQ(result.state(), jet::StateClosed) << c.name;
         EXPECT_EQ(rows(u"SELECT RoomNumber FROM Tbl_Rooms ORDER BY ID"_s), c.rooms) << c.name;
     }
+    EXPECT_EQ(content("Tbl_Copy"), Rows{u"104"_s});
 }
 
 TEST_F(CustomQueryTest, ARefusedStatementRaisesTheStoresError)

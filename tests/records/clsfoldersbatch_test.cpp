@@ -1,36 +1,13 @@
-#include "folderstest.h"
+#include "folders/clsFolders.h"
 #include "platform/jet/errors.h"
+#include "support/companytest.h"
 
-TEST_F(FoldersTest, AddBatch_GoesOnAfterAFailureAndNamesIt)
-{
-    folders.Add(connection, u"C:\\Known"_s, u"old"_s);
-    const QStringList paths = {u"c:\\known"_s, u"C:\\It's"_s, u"C:\\New"_s, u"C:\\Other"_s};
-    QString errors = u"before"_s;
-    int breaths = 0;
-    folders.AddBatch(connection, paths, {u"kept"_s, {}, u"new"_s, u"don't"_s}, true, errors,
-                     [&] { ++breaths; });
-    EXPECT_EQ(errors, u"before"
-                      "\r\nC:\\It's\\ could not be added to DB"
-                      "\r\nC:\\Other\\ could not be added to DB"_s);
-    EXPECT_EQ(allFolders(), (Rows{u"1|C:\\Known\\|old"_s, u"2|C:\\New\\|new"_s}));
-    EXPECT_EQ(breaths, 6) << "four lookups and two inserts";
+using namespace Qt::StringLiterals;
+using namespace company;
 
-    errors.clear();
-    folders.AddBatch(connection, {u"c:\\known"_s, u"C:\\New\\"_s}, {u"changed"_s, u"don't"_s}, false, errors);
-    EXPECT_EQ(errors, u"\r\nC:\\New\\ could not be added to DB"_s);
-    EXPECT_EQ(allFolders(), (Rows{u"1|C:\\Known\\|changed"_s, u"2|C:\\New\\|new"_s}));
-}
+namespace {
 
-TEST_F(FoldersTest, AddBatch_OfAPathTwiceUpdatesTheFirst)
-{
-    QString errors;
-    folders.AddBatch(connection, {u"C:\\Data"_s, u"C:\\DATA\\"_s}, {u"first"_s, u"second"_s}, false, errors);
-    folders.AddBatch(connection, {}, {}, false, errors);
-    EXPECT_EQ(errors, QString());
-    EXPECT_EQ(allFolders(), Rows{u"1|C:\\Data\\|second"_s});
-}
-
-class FolderPermissionsBatchTest : public FolderAccountsTest
+class FoldersBatchTest : public CompanyTest
 {
 protected:
     struct Line
@@ -40,6 +17,22 @@ protected:
         QString server;
         QString permission;
     };
+
+    /// Without the company's own folders.
+    Rows added() const { return content("Tbl_Folders").sliced(4); }
+
+    /// Kind of account, account, folder and permission of each row.
+    Rows permissions() const
+    {
+        Rows all;
+        for (const auto &[kind, table] : {std::pair{"user ", "Tbl_UserFolderPermission"},
+                                          {"local ", "Tbl_LocalGroupFolderPermission"},
+                                          {"global ", "Tbl_GlobalGroupFolderPermission"}}) {
+            for (const QString &row : content(table))
+                all += QLatin1StringView(kind) + row;
+        }
+        return all;
+    }
 
     void give(const QList<Line> &lines)
     {
@@ -64,29 +57,75 @@ protected:
         return folders.addPermittedObjects(connection, path, objects);
     }
 
+    /// The rows of other folders than the one.
+    static Rows without(const Rows &rows, int folder)
+    {
+        Rows others;
+        for (const QString &row : rows) {
+            if (!row.contains(u'|' + QString::number(folder) + u'|'))
+                others += row;
+        }
+        return others;
+    }
+
+    clsFolders folders;
     QString errors;
 };
 
-TEST_F(FolderPermissionsBatchTest, AnAccountKeepsOneRowAFolder)
+} // namespace
+
+TEST_F(FoldersBatchTest, AddBatch_GoesOnAfterAFailureAndNamesIt)
 {
-    give({{u"D:\\Data"_s, u"ANNA"_s, u"srv01"_s, u"L"_s},
-          {u"d:\\data\\"_s, u"anna"_s, u"SRV01"_s, u"CH"_s},
-          {u"D:\\Admin"_s, u"anna"_s, u"SRV01"_s, u"R"_s},
-          {u"D:\\Data"_s, u"Printers"_s, u"SRV01"_s, u"Full Control"_s},
-          {u"D:\\Data"_s, u"bert"_s, u"SRV02"_s, u"R"_s}});
+    const QStringList paths = {u"d:\\data"_s, u"C:\\It's"_s, u"C:\\New"_s, u"C:\\Other"_s};
+    errors = u"before"_s;
+    int breaths = 0;
+    folders.AddBatch(connection, paths, {u"kept"_s, {}, u"new"_s, u"don't"_s}, true, errors,
+                     [&] { ++breaths; });
+    EXPECT_EQ(errors, u"before"
+                      "\r\nC:\\It's\\ could not be added to DB"
+                      "\r\nC:\\Other\\ could not be added to DB"_s);
+    EXPECT_EQ(added(), Rows{u"45|C:\\New\\|new"_s});
+    EXPECT_EQ(content("Tbl_Folders").first(), data);
+    EXPECT_EQ(breaths, 6) << "four lookups and two inserts";
+
+    errors.clear();
+    folders.AddBatch(connection, {u"d:\\data"_s, u"C:\\New\\"_s}, {u"changed"_s, u"don't"_s}, false, errors);
+    EXPECT_EQ(errors, u"\r\nC:\\New\\ could not be added to DB"_s);
+    EXPECT_EQ(content("Tbl_Folders").first(2), (Rows{u"41|D:\\Data\\|changed"_s, common}));
+    EXPECT_EQ(added(), Rows{u"45|C:\\New\\|new"_s});
+}
+
+TEST_F(FoldersBatchTest, AddBatch_OfAPathTwiceUpdatesTheFirst)
+{
+    folders.AddBatch(connection, {u"C:\\Data"_s, u"C:\\DATA\\"_s}, {u"first"_s, u"second"_s}, false, errors);
+    folders.AddBatch(connection, {}, {}, false, errors);
     EXPECT_EQ(errors, QString());
-    EXPECT_EQ(permissions(), (Rows{u"user 1|1|CH"_s, u"user 1|2|R"_s, u"user 2|1|R"_s,
-                                   u"local 1|1|Full Control"_s, u"global 1|1|L"_s}));
+    EXPECT_EQ(added(), Rows{u"45|C:\\Data\\|second"_s});
 }
 
-TEST_F(FolderPermissionsBatchTest, ALocalGroupGoesBeforeAUserOfItsName)
+TEST_F(FoldersBatchTest, AnAccountKeepsOneRowAFolder)
 {
-    run(u"INSERT INTO Tbl_Users (UserID,UserName,ServerName) VALUES (4,'Printers','SRV01')"_s);
-    give({{u"D:\\Admin"_s, u"Printers"_s, u"SRV01"_s, u"R"_s}});
-    EXPECT_EQ(permissions(), (Rows{u"user 1|1|R"_s, u"local 1|1|CH"_s, u"local 1|2|R"_s, u"global 1|1|L"_s}));
+    const Rows before = permissions();
+    give({{u"D:\\Common"_s, u"BERT"_s, u"srv02"_s, u"L"_s},
+          {u"d:\\common\\"_s, u"bert"_s, u"SRV02"_s, u"R"_s},
+          {u"D:\\Data"_s, u"anna"_s, u"SRV01"_s, u"R"_s},
+          {u"D:\\Admin"_s, u"Admins"_s, u"SRV01"_s, u"Full Control"_s}});
+    EXPECT_EQ(errors, QString());
+    Rows after = before;
+    after.replace(after.indexOf(u"user 12|42|CH"_s), u"user 12|42|R"_s);
+    after.replace(after.indexOf(u"local 33|43|R"_s), u"local 33|43|Full Control"_s);
+    after.insert(3, u"user 13|41|R"_s);
+    EXPECT_EQ(permissions(), after);
 }
 
-TEST_F(FolderPermissionsBatchTest, WhatCannotBeGivenIsNamedAndTheRestGoesOn)
+TEST_F(FoldersBatchTest, ALocalGroupGoesBeforeAUserOfItsName)
+{
+    run(u"INSERT INTO Tbl_Users (UserID,UserName,ServerName) VALUES (14,'Staff','SRV01')"_s);
+    give({{u"C:\\Tools"_s, u"Staff"_s, u"SRV01"_s, u"R"_s}});
+    EXPECT_EQ(permissions().filter(u"|44|"_s), (Rows{u"user 11|44|R"_s, u"local 31|44|R"_s}));
+}
+
+TEST_F(FoldersBatchTest, WhatCannotBeGivenIsNamedAndTheRestGoesOn)
 {
     const Rows before = permissions();
     errors = u"before"_s;
@@ -95,7 +134,7 @@ TEST_F(FolderPermissionsBatchTest, WhatCannotBeGivenIsNamedAndTheRestGoesOn)
           {u"D:\\Data"_s, u"anna"_s, u"SRV02"_s, u"R"_s},
           {u"D:\\Data"_s, u"Staff"_s, u"DC01"_s, u"R"_s},
           {u"D:\\Data"_s, u"O'Brien"_s, u"SRV01"_s, u"R"_s},
-          {u"D:\\Admin"_s, u"cleo"_s, u"SRV01"_s, u"it's"_s}});
+          {u"D:\\Admin"_s, u"anna"_s, u"SRV01"_s, u"it's"_s}});
     EXPECT_EQ(
         errors,
         u"before"
@@ -104,42 +143,43 @@ TEST_F(FolderPermissionsBatchTest, WhatCannotBeGivenIsNamedAndTheRestGoesOn)
         "\r\nSRV02\\anna is not a Local Group and not a User in DB"
         "\r\nDC01\\Staff is not a Local Group and not a User in DB"
         "\r\nSRV01\\O'Brien is not a Local Group and not a User in DB"
-        "\r\nD:\\Admin\\ SRV01\\cleo Syntax error in string in query expression '')'. Near '')' at 84."_s);
+        "\r\nD:\\Admin\\ SRV01\\anna Syntax error in string in query expression '')'. Near '')' at 86."_s);
     EXPECT_EQ(permissions(), before);
     give(
-        {{u"D:\\Nowhere"_s, u"anna"_s, u"SRV01"_s, u"R"_s}, {u"D:\\Admin"_s, u"cleo"_s, u"SRV01"_s, u"R"_s}});
-    EXPECT_EQ(permissions().value(1), u"user 3|2|R"_s);
+        {{u"D:\\Nowhere"_s, u"anna"_s, u"SRV01"_s, u"R"_s}, {u"D:\\Admin"_s, u"anna"_s, u"SRV01"_s, u"R"_s}});
+    EXPECT_EQ(permissions().filter(u"user 13"_s), (Rows{u"user 13|42|R"_s, u"user 13|43|R"_s}));
 }
 
-TEST_F(FolderPermissionsBatchTest, PermittedObjectsReplaceAllPermissionsOfTheFolder)
+TEST_F(FoldersBatchTest, PermittedObjectsReplaceAllPermissionsOfTheFolder)
 {
-    folders.addUsers(connection, 2, QList<int>{3}, {u"L"_s}, false);
+    const Rows others = without(permissions(), 43);
     folders.AddDefaultFolderPermission(connection, u"DC01\\Operators"_s, u"CH"_s);
-    EXPECT_EQ(permit(u"d:\\data\\"_s, {{u"bert"_s, u"SRV02"_s, u"CH"_s},
-                                       {u"Data"_s, u"SRV02"_s, u"R"_s},
-                                       {u"nobody"_s, u"SRV01"_s, u"R"_s},
-                                       {u"Admins"_s, u"DC01"_s, u"Full Control"_s},
-                                       {u"operators"_s, u"dc01"_s, u"R"_s},
-                                       {u"cleo"_s, u"SRV01"_s, u"L"_s},
-                                       {u"Staff"_s, u"SRV01"_s, u"R"_s}}),
-              u"SRV01\\nobody,SRV01\\Staff,"_s);
-    EXPECT_EQ(permissions(), (Rows{u"user 2|1|CH"_s, u"user 3|1|L"_s, u"user 3|2|L"_s, u"local 2|1|R"_s,
-                                   u"global 2|1|Full Control"_s}));
-    EXPECT_EQ(permit(u"D:\\Data\\"_s, {}), QString());
-    EXPECT_EQ(permissions(), Rows{u"user 3|2|L"_s});
+    EXPECT_EQ(permit(u"d:\\admin\\"_s, {{u"bert"_s, u"SRV02"_s, u"CH"_s},
+                                        {u"Staff"_s, u"SRV01"_s, u"R"_s},
+                                        {u"nobody"_s, u"SRV01"_s, u"R"_s},
+                                        {u"Staff"_s, u"DC01"_s, u"Full Control"_s},
+                                        {u"operators"_s, u"dc01"_s, u"R"_s},
+                                        {u"anna"_s, u"SRV01"_s, u"L"_s},
+                                        {u"Admins"_s, u"SRV02"_s, u"R"_s}}),
+              u"SRV01\\nobody,SRV02\\Admins,"_s);
+    EXPECT_EQ(permissions().filter(u"|43|"_s), (Rows{u"user 12|43|CH"_s, u"user 13|43|L"_s,
+                                                     u"local 31|43|R"_s, u"global 21|43|Full Control"_s}));
+    EXPECT_EQ(without(permissions(), 43), others);
+    EXPECT_EQ(permit(u"D:\\Admin\\"_s, {}), QString());
+    EXPECT_EQ(permissions(), others);
 }
 
-TEST_F(FolderPermissionsBatchTest, PermittedObjects_TheFirstKindOfAccountThatMatchesWins)
+TEST_F(FoldersBatchTest, PermittedObjects_TheFirstKindOfAccountThatMatchesWins)
 {
-    for (const char *table : {"Tbl_LocalGroups", "Tbl_GlobalGroups"})
-        run("INSERT INTO "_L1 + QLatin1StringView(table) + " (Name,Server) VALUES ('anna','SRV01')"_L1);
-    run(u"INSERT INTO Tbl_GlobalGroups (Name,Server) VALUES ('Data','SRV02')"_s);
-    EXPECT_EQ(permit(u"D:\\Data\\"_s, {{u"anna"_s, u"SRV01"_s, u"L"_s}, {u"Data"_s, u"SRV02"_s, u"L"_s}}),
+    run(u"UPDATE Tbl_GlobalGroups SET Name = 'anna', Server = 'SRV01' WHERE ID = 21"_s);
+    run(u"UPDATE Tbl_LocalGroups SET Name = 'anna' WHERE ID = 31"_s);
+    run(u"UPDATE Tbl_GlobalGroups SET Name = 'Guests', Server = 'SRV02' WHERE ID = 22"_s);
+    EXPECT_EQ(permit(u"D:\\Data\\"_s, {{u"anna"_s, u"SRV01"_s, u"L"_s}, {u"Guests"_s, u"SRV02"_s, u"L"_s}}),
               QString());
-    EXPECT_EQ(permissions(), (Rows{u"user 1|1|L"_s, u"local 2|1|L"_s}));
+    EXPECT_EQ(permissions().filter(u"|41|"_s), (Rows{u"user 13|41|L"_s, u"local 32|41|L"_s}));
 }
 
-TEST_F(FolderPermissionsBatchTest, PermittedObjects_KeepTheOldRowsWhenAnAccountCannotBeLookedUp)
+TEST_F(FoldersBatchTest, PermittedObjects_KeepTheOldRowsWhenAnAccountCannotBeLookedUp)
 {
     const Rows before = permissions();
     CurrentError error = errorOf([&] {
@@ -153,4 +193,16 @@ TEST_F(FolderPermissionsBatchTest, PermittedObjects_KeepTheOldRowsWhenAnAccountC
     EXPECT_EQ(error.description, u"The specified Folder does not exist in your Database"_s);
     EXPECT_EQ(folders.errorNumber(), RuleViolation);
     EXPECT_EQ(permissions(), before);
+}
+
+TEST_F(FoldersBatchTest, PermittedObjects_AreWrittenUsersFirstAndGlobalGroupsLast)
+{
+    EXPECT_EQ(errorOf([&] {
+                  permit(u"D:\\Data\\"_s, {{u"Guests"_s, u"DC02"_s, u"R"_s},
+                                           {u"Admins"_s, u"SRV01"_s, u"it's"_s},
+                                           {u"anna"_s, u"SRV01"_s, u"R"_s}});
+              }).number,
+              jet::SyntaxError);
+    EXPECT_EQ(permissions().filter(u"|41|"_s), (Rows{u"user 13|41|R"_s, u"global 21|41|CH"_s}))
+        << "the users are replaced, the local groups cleared and the global ones untouched";
 }

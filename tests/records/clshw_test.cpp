@@ -1,5 +1,10 @@
-#include "assetstest.h"
+#include "assets/clsHW.h"
+#include "assets/clsRooms.h"
 #include "platform/jet/errors.h"
+#include "support/companytest.h"
+
+using namespace Qt::StringLiterals;
+using namespace company;
 
 namespace {
 
@@ -35,14 +40,22 @@ QString itemRow(int id, const QString &serialNumber, int type = 1)
                .arg(serialNumber);
 }
 
-using HWRecordTest = StoreTest;
-using HWTest = AssetsTest;
+class HWRecordTest : public RecordTest
+{
+protected:
+    clsHW hardware;
+};
+
+class HWTest : public CompanyTest
+{
+protected:
+    clsHW hardware;
+};
 
 } // namespace
 
 TEST_F(HWRecordTest, AddAndUpdateWriteEveryColumn)
 {
-    clsHW hardware;
     hardware.Add(connection, {.SerialNumber = u"before"_s, .PurchaseDate = u"1/1/2000"_s, .Network = 1});
     hardware.Add(connection, item(u"SN-1"_s));
     EXPECT_EQ(rows(allItems), (Rows{u"1|0|before||||||1/1/2000|||False||True||"_s, itemRow(2, u"SN-1"_s)}));
@@ -52,7 +65,6 @@ TEST_F(HWRecordTest, AddAndUpdateWriteEveryColumn)
 
 TEST_F(HWRecordTest, ASerialNumberIsTakenWithinItsType)
 {
-    clsHW hardware;
     hardware.Add(connection, item(u"SN-1"_s));
     hardware.Add(connection, item(u"SN-1"_s, 2));
     const Rows before = {itemRow(1, u"SN-1"_s), itemRow(2, u"SN-1"_s, 2)};
@@ -69,11 +81,12 @@ TEST_F(HWRecordTest, ASerialNumberIsTakenWithinItsType)
 
     hardware.update(connection, 2, item(u"SN-1"_s, 2));
     EXPECT_EQ(rows(allItems), before);
+    hardware.update(connection, 2, item(u"SN-3"_s));
+    EXPECT_EQ(rows(allItems), (Rows{before[0], itemRow(2, u"SN-3"_s)})) << "only the number differs";
 }
 
 TEST_F(HWRecordTest, WhatTheStoreCannotReadIsRefusedWithNothingWritten)
 {
-    clsHW hardware;
     hardware.Add(connection, item(u"SN-1"_s));
     const struct
     {
@@ -105,84 +118,51 @@ TEST_F(HWRecordTest, WhatTheStoreCannotReadIsRefusedWithNothingWritten)
     EXPECT_EQ(rows(allItems), Rows{itemRow(1, u"SN-1"_s)});
 }
 
-TEST_F(HWRecordTest, DistinctTextsOfferWhatIsInUse)
+TEST_F(HWTest, ReadersGiveTheirRows)
 {
-    clsHW hardware;
-    for (const auto &[serial, text] :
-         {std::pair{u"1"_s, u"Zorn"_s}, {u"2"_s, u"acme"_s}, {u"3"_s, u"ACME"_s}})
-        hardware.Add(connection, {.SerialNumber = serial,
-                                  .Supplier = text,
-                                  .PurchaseDate = u"1/1/2000"_s,
-                                  .Usage = u"u "_s + text,
-                                  .Status = u"s "_s + text});
-    run(u"INSERT INTO Tbl_HW (HWTypeID,SerialNumber) VALUES (1,'4')"_s);
+    // clang-format off
+    expectRows(hardware, {
+        {"getAll", &clsHW::getAll, 0, {hw66, hw65, hw64, hw63, hw62, hw61}},
+        {"getUnAssigned", &clsHW::getUnAssigned, 0, {hw66, hw65}},
+        {"getOfType", &clsHW::getOfType, 51,
+         {u"62|PC Maker M1 7|S8|-|P2|-|10.2"_s, u"61|PC Maker M1 7|S9|W1|P1|Office|10.1"_s}},
+        {"getRoom", &clsHW::getRoom, 64, {room102, room7}},
+        {"getNotRoom", &clsHW::getNotRoom, 62, {room101, room102}},
+        {"getUser", &clsHW::getUser, 63, {bert, rolf}},
+        {"getNotUser", &clsHW::getNotUser, 61, {anna, bert}},
+        {"getSW", &clsHW::getSW, 61, {writer1, writer2}},
+        {"getNotSW", &clsHW::getNotSW, 61, {driver, zed, calc}},
+        {"getNotSW", &clsHW::getNotSW, 62, {driver, zed, writer1, writer2}},
+        {"GetByID", &clsHW::GetByID, 62, {u"62|51|S8|A2|-|P2|WS2|-|-|-|-|False|-|False|10.2|-|PC Maker M1 7"_s}},
+        {"getUser of none", &clsHW::getUser, 66, {}},
+    });
+    // clang-format on
+    hardware.addSW(connection, 66, QList<int>{71, 72, 73, 74, 75});
+    expectRows(hardware, {{"getSW of all", &clsHW::getSW, 66, {driver, zed, calc, writer1, writer2}}});
+}
+
+TEST_F(HWTest, DistinctTextsOfferWhatIsInUse)
+{
+    run(u"UPDATE Tbl_HW SET Supplier = 'of ' & Usage, Status = Usage & ' ok'"_s);
     const auto texts = [&](auto reader) {
-        jet::Recordset result;
-        (hardware.*reader)(connection, result);
-        Rows found = rowsOf(result);
+        Rows found = rowsFrom([&](auto &result) { (hardware.*reader)(connection, result); });
         for (QString &row : found)
             row = row.toLower();
         return found;
     };
-    EXPECT_EQ(texts(&clsHW::getSuppliers), (Rows{u"0|-"_s, u"0|acme"_s, u"0|zorn"_s}));
-    EXPECT_EQ(texts(&clsHW::getUsage), (Rows{u"0|-"_s, u"0|u acme"_s, u"0|u zorn"_s}));
-    EXPECT_EQ(texts(&clsHW::getStatus), (Rows{u"0|-"_s, u"0|s acme"_s, u"0|s zorn"_s}));
-}
-
-TEST_F(HWTest, ReadersGiveTheirRows)
-{
-    const QString anna = u"1|Ärmel|Anna|anna|SRV01"_s;
-    const QString bert = u"2|-|-|bert|SRV02"_s;
-    const struct
-    {
-        const char *name;
-        Reader<clsHW> reader;
-        int id;
-        Rows rows;
-    } cases[] = {
-        {"getOfType",
-         &clsHW::getOfType,
-         1,
-         {u"1|PC Maker M1 7|S1|W1|-|Office|-"_s, u"2|PC Maker M1 7|S2|-|-|-|10.0.0.2"_s}},
-        {"getRoom", &clsHW::getRoom, 1, {u"1|101|Front"_s}},
-        {"getRoom of none", &clsHW::getRoom, 2, {}},
-        {"getNotRoom", &clsHW::getNotRoom, 1, {u"2|102|-"_s, u"3|B 7|-"_s}},
-        {"getNotRoom of none", &clsHW::getNotRoom, 2, {u"1|101|Front"_s, u"2|102|-"_s, u"3|B 7|-"_s}},
-        {"getUser", &clsHW::getUser, 2, {anna}},
-        {"getUser of none", &clsHW::getUser, 1, {}},
-        {"getNotUser", &clsHW::getNotUser, 2, {bert}},
-        {"getNotUser of none", &clsHW::getNotUser, 1, {bert, anna}},
-        {"getSW", &clsHW::getSW, 1, {u"1|Office|Maker|Writer|1.0"_s}},
-        {"getNotSW", &clsHW::getNotSW, 1, {u"2|Driver|Bolt|Screen|-"_s}},
-        {"getNotSW of none",
-         &clsHW::getNotSW,
-         3,
-         {u"2|Driver|Bolt|Screen|-"_s, u"1|Office|Maker|Writer|1.0"_s}},
-        {"GetByID",
-         &clsHW::GetByID,
-         2,
-         {u"2|1|S2|-|-|-|WS02|-|-|-|-|False|-|False|10.0.0.2|-|PC Maker M1 7"_s}},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(read(hardware, c.reader, c.id), c.rows) << c.name;
-
-    const QString free4 = u"4|Monitor Bolt M2 |A4|CP4|-|-"_s;
-    const QString free3 = u"3|Monitor Bolt M2 |S3|-|Lab|-"_s;
-    EXPECT_EQ(read(hardware, &clsHW::getAll),
-              (Rows{free4, free3, u"1|PC Maker M1 7|S1|-|Office|-"_s, u"2|PC Maker M1 7|S2|-|-|10.0.0.2"_s}));
-    Rows unassigned = read(hardware, &clsHW::getUnAssigned);
-    unassigned.sort();
-    EXPECT_EQ(unassigned, (Rows{free3, free4}));
+    EXPECT_EQ(texts(&clsHW::getUsage), (Rows{u"0|-"_s, u"0|lab"_s, u"0|office"_s}));
+    EXPECT_EQ(texts(&clsHW::getSuppliers), (Rows{u"0|of "_s, u"0|of lab"_s, u"0|of office"_s}));
+    EXPECT_EQ(texts(&clsHW::getStatus), (Rows{u"0| ok"_s, u"0|lab ok"_s, u"0|office ok"_s}));
 }
 
 TEST_F(HWTest, GetAssignedRoom_GivesTheRoomOrNothing)
 {
     QString number = u"before"_s;
     int room = 77;
-    hardware.getAssignedRoom(connection, 1, number, room);
-    EXPECT_EQ(number, u"101"_s);
-    EXPECT_EQ(room, 1);
-    hardware.getAssignedRoom(connection, 2, number, room);
+    hardware.getAssignedRoom(connection, 62, number, room);
+    EXPECT_EQ(number, u"B 7"_s);
+    EXPECT_EQ(room, 81);
+    hardware.getAssignedRoom(connection, 61, number, room);
     EXPECT_EQ(number, QString());
     EXPECT_EQ(room, 0);
 }
@@ -192,73 +172,83 @@ TEST_F(HWTest, Find_TakesANullForAnyText)
     const struct
     {
         const char *name;
-        int type;
         QStringList texts; // serial number, workstation, address, asset, company property
         QStringList ids;
+        QStringList idsOfType;
     } cases[] = {
-        {"nothing asked", 0, {{}, {}, {}, {}, {}}, {u"4"_s, u"1"_s, u"2"_s, u"3"_s}},
-        {"part of a serial number", 0, {u"s"_s, {}, {}, {}, {}}, {u"1"_s, u"2"_s, u"3"_s}},
-        {"another workstation", 0, {{}, u"WS9"_s, {}, {}, {}}, {u"4"_s, u"1"_s, u"3"_s}},
-        {"another address", 0, {{}, {}, u"10.9"_s, {}, {}}, {u"4"_s, u"1"_s, u"3"_s}},
-        {"another asset", 0, {{}, {}, {}, u"9"_s, {}}, {u"1"_s, u"2"_s, u"3"_s}},
-        {"another company property", 0, {{}, {}, {}, {}, u"9"_s}, {u"1"_s, u"2"_s, u"3"_s}},
-        {"all five", 0, {u"a"_s, u"x"_s, u"x"_s, u"AS"_s, u"p4"_s}, {u"4"_s}},
-        {"a type and a text", 2, {u"s"_s, {}, {}, {}, {}}, {u"3"_s}},
-        {"a type without items", 9, {{}, {}, {}, {}, {}}, {}},
+        // clang-format off
+        {"nothing asked",             {{}, {}, {}, {}, {}}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"62"_s, u"61"_s}, {u"61"_s, u"62"_s}},
+        {"part of a serial number",   {u"s9"_s, {}, {}, {}, {}}, {u"66"_s, u"61"_s}, {u"61"_s}},
+        {"part of a workstation",     {{}, u"s1"_s, {}, {}, {}}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"61"_s}, {u"61"_s}},
+        {"part of an address",        {{}, {}, u"0.1"_s, {}, {}}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"61"_s}, {u"61"_s}},
+        {"an asset",                  {{}, {}, {}, u"a1"_s, {}}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"61"_s}, {u"61"_s}},
+        {"a company property",        {{}, {}, {}, {}, u"p1"_s}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"61"_s}, {u"61"_s}},
+        {"all five",                  {u"s"_s, u"ws2"_s, u"10.2"_s, u"a2"_s, u"p2"_s}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"62"_s}, {u"62"_s}},
+        // clang-format on
+    };
+    const auto found = [&](int type, const QStringList &texts) {
+        QStringList ids = rowsFrom([&](auto &result) {
+            hardware.Find(connection, result, type, texts[0], texts[1], texts[2], texts[3], texts[4]);
+            EXPECT_EQ(result.fields().count(), 6);
+        });
+        for (QString &row : ids)
+            row = row.section(u'|', 0, 0);
+        return ids;
     };
     for (const auto &c : cases) {
-        jet::Recordset result;
-        hardware.Find(connection, result, c.type, c.texts[0], c.texts[1], c.texts[2], c.texts[3], c.texts[4]);
-        EXPECT_EQ(result.fields().count(), 6) << c.name;
-        QStringList ids;
-        for (; !result.eof(); result.moveNext())
-            ids += result.value(0).toText();
-        EXPECT_EQ(ids, c.ids) << c.name;
+        EXPECT_EQ(found(0, c.texts), c.ids) << c.name;
+        QStringList ofType = found(51, c.texts);
+        ofType.sort();
+        EXPECT_EQ(ofType, c.idsOfType) << c.name;
     }
+    EXPECT_EQ(found(99, cases[0].texts), QStringList());
 }
 
 TEST_F(HWTest, AnItemStandsInARoomOrWithAUser)
 {
-    hardware.addRooms(connection, 2, QList<int>{3}, false);
-    EXPECT_EQ(roomHW(), (Rows{u"1|1"_s, u"2|3"_s}));
-    EXPECT_EQ(userHW(), Rows());
-    EXPECT_EQ(swHW(), (Rows{u"1|1"_s, u"1|2"_s}));
+    const Rows software = content("Tbl_SWHW");
+    hardware.addRooms(connection, 61, QList<int>{83, 82}, false);
+    EXPECT_EQ(content("Tbl_RoomHW"), (Rows{u"81|62"_s, u"81|64"_s, u"82|61"_s, u"82|64"_s, u"83|61"_s}));
+    EXPECT_EQ(content("Tbl_UserHW"), (Rows{u"11|63"_s, u"12|63"_s}));
+    EXPECT_EQ(content("Tbl_SWHW"), software);
 
-    hardware.addUsers(connection, 2, QList<int>{2});
-    EXPECT_EQ(roomHW(), Rows{u"1|1"_s});
-    EXPECT_EQ(userHW(), Rows{u"2|2"_s});
+    hardware.addUsers(connection, 61, QList<int>{13, 12});
+    EXPECT_EQ(content("Tbl_RoomHW"), (Rows{u"81|62"_s, u"81|64"_s, u"82|64"_s}));
+    EXPECT_EQ(content("Tbl_UserHW"), (Rows{u"11|63"_s, u"12|61"_s, u"12|63"_s, u"13|61"_s}));
 
-    hardware.addUsers(connection, 2, QList<int>{1});
-    EXPECT_EQ(userHW(), Rows{u"2|1"_s});
+    hardware.addUsers(connection, 61, QList<int>{11});
+    EXPECT_EQ(content("Tbl_UserHW"), (Rows{u"11|61"_s, u"11|63"_s, u"12|63"_s}));
 }
 
 TEST_F(HWTest, AnEmptyListClearsItsOwnSideAlone)
 {
-    hardware.addRooms(connection, 2, QList<int>(), false);
-    EXPECT_EQ(userHW(), Rows{u"2|1"_s});
-    hardware.addUsers(connection, 1, QList<int>());
-    EXPECT_EQ(roomHW(), Rows{u"1|1"_s});
-    hardware.addRooms(connection, 1, QList<int>(), true);
-    EXPECT_EQ(roomHW(), Rows());
-    EXPECT_EQ(swHW(), Rows{u"1|2"_s});
-    hardware.addUsers(connection, 2, QList<int>());
-    EXPECT_EQ(userHW(), Rows());
-    hardware.addSW(connection, 2, QList<int>());
-    EXPECT_EQ(swHW(), Rows());
+    const Rows users = content("Tbl_UserHW");
+    hardware.addRooms(connection, 61, QList<int>(), false);
+    EXPECT_EQ(content("Tbl_UserHW"), users);
+    EXPECT_EQ(content("Tbl_SWHW").size(), 4);
+    hardware.addUsers(connection, 62, QList<int>());
+    EXPECT_EQ(content("Tbl_RoomHW").size(), 3);
+    hardware.addRooms(connection, 62, QList<int>(), true);
+    EXPECT_EQ(content("Tbl_RoomHW"), (Rows{u"81|64"_s, u"82|64"_s}));
+    EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"71|61"_s, u"72|61"_s, u"72|63"_s}));
+    hardware.addUsers(connection, 63, QList<int>());
+    EXPECT_EQ(content("Tbl_UserHW"), Rows{u"11|61"_s});
 }
 
 TEST_F(HWTest, AddSW_GivesTheItemItsOnlySoftware)
 {
-    hardware.addSW(connection, 1, QList<int>{2, 1});
-    hardware.addSW(connection, 2, QList<int>{2});
-    EXPECT_EQ(swHW(), (Rows{u"1|1"_s, u"2|1"_s, u"2|2"_s}));
+    hardware.addSW(connection, 61, QList<int>{75, 71});
+    EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"71|61"_s, u"72|63"_s, u"73|62"_s, u"75|61"_s}));
+    hardware.addSW(connection, 61, QList<int>());
+    EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"72|63"_s, u"73|62"_s}));
 }
 
 TEST_F(HWTest, Delete_LeavesTheRelationshipsBehind)
 {
-    hardware.Delete(connection, 1);
-    EXPECT_EQ(rows(u"SELECT ID FROM Tbl_HW ORDER BY ID"_s), (Rows{u"2"_s, u"3"_s, u"4"_s}));
-    EXPECT_EQ(roomHW(), Rows{u"1|1"_s});
-    EXPECT_EQ(swHW(), (Rows{u"1|1"_s, u"1|2"_s}));
-    EXPECT_EQ(read(rooms, &clsRooms::getHW, 1), Rows());
+    const Rows behind = content("Tbl_RoomHW") + content("Tbl_SWHW");
+    hardware.Delete(connection, 62);
+    EXPECT_EQ(content("Tbl_HW").size(), 5);
+    EXPECT_EQ(content("Tbl_RoomHW") + content("Tbl_SWHW"), behind);
+    clsRooms rooms;
+    expectRows(rooms, {{"getHW", &clsRooms::getHW, 81, {hw64}}});
 }

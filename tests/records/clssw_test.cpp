@@ -1,72 +1,101 @@
-#include "assetstest.h"
+#include "assets/clsHW.h"
+#include "assets/clsHWType.h"
+#include "assets/clsSW.h"
+#include "support/companytest.h"
 
-using SWTest = AssetsTest;
-using HWTypeTest = AssetsTest;
+using namespace Qt::StringLiterals;
+using namespace company;
 
-TEST_F(SWTest, ReadersGiveTheirRows)
+namespace {
+
+class ProductsTest : public CompanyTest
 {
-    EXPECT_EQ(read(software, &clsSW::getAll),
-              (Rows{u"2|Driver|Bolt|Screen|-|-"_s, u"1|Office|Maker|Writer|1.0|-"_s}));
-    EXPECT_EQ(read(software, &clsSW::getDisplayNames),
-              (Rows{u"2|Driver Bolt Screen "_s, u"1|Office Maker Writer 1.0"_s}));
-    EXPECT_EQ(read(software, &clsSW::getHW, 1),
-              (Rows{u"1|PC Maker M1 7|S1|-|Office|-"_s, u"2|PC Maker M1 7|S2|-|-|10.0.0.2"_s}));
-    EXPECT_EQ(read(software, &clsSW::getHW, 2), Rows());
-    EXPECT_EQ(read(software, &clsSW::getNotHW, 1).size(), 2);
-    EXPECT_EQ(read(software, &clsSW::getNotHW, 2).size(), 4);
+protected:
+    /// The distinct texts, whose case is that of any of the rows.
+    template <typename Records>
+    Rows texts(Records &records, void (Records::*reader)(const QString &, jet::Recordset &))
+    {
+        Rows found = rowsFrom([&](auto &result) { (records.*reader)(connection, result); });
+        for (QString &row : found)
+            row = row.toLower();
+        return found;
+    }
 
-    software.Add(connection, u"OFFICE"_s, u"Bolt"_s, u"Calc"_s, u"2"_s, u"sheets"_s);
-    EXPECT_EQ(read(software, &clsSW::getTypes).size(), 2);
-    EXPECT_EQ(read(software, &clsSW::getManufacturers), (Rows{u"0|Bolt"_s, u"0|Maker"_s}));
+    clsSW software;
+    clsHWType types;
+    clsHW hardware;
+};
+
+} // namespace
+
+TEST_F(ProductsTest, ReadersOfSoftwareGiveTheirRows)
+{
+    // clang-format off
+    expectRows(software, {
+        {"getAll", &clsSW::getAll, 0, {driver + u"|-", zed + u"|-", calc + u"|-", writer1 + u"|-", writer2 + u"|-"}},
+        {"getDisplayNames", &clsSW::getDisplayNames, 0,
+         {u"75|Driver Zeta Zed "_s, u"74|Office  Zed 9"_s, u"73|OFFICE Maker Calc 9"_s, u"72|Office MAKER Writer 1"_s,
+          u"71|Office Maker Writer 2"_s}},
+        {"getHW", &clsSW::getHW, 72, {hw63, hw61}},
+        {"getNotHW", &clsSW::getNotHW, 72, {hw66, hw65, hw64, hw62}},
+        {"getUsers", &clsSW::getUsers, 72, {bert, rolf, rolf}},
+        {"getUsers of none", &clsSW::getUsers, 75, {}},
+    });
+    // clang-format on
+    EXPECT_EQ(texts(software, &clsSW::getTypes), (Rows{u"0|driver"_s, u"0|office"_s}));
+    EXPECT_EQ(texts(software, &clsSW::getManufacturers), (Rows{u"0|-"_s, u"0|maker"_s, u"0|zeta"_s}));
 }
 
-TEST_F(SWTest, GetUsers_ListsAUserOnceForEachItem)
+TEST_F(ProductsTest, UsersOfSoftwareAreOrderedByAllTheirNames)
 {
-    run(u"INSERT INTO Tbl_UserHW (UserID,HWID) VALUES (1,3)"_s);
-    software.addHW(connection, 2, QList<int>{2, 3});
-    const QString anna = u"1|Ärmel|Anna|anna|SRV01"_s;
-    EXPECT_EQ(read(software, &clsSW::getUsers, 2), (Rows{anna, anna}));
-    EXPECT_EQ(read(software, &clsSW::getUsers, 1), Rows{anna});
+    run(u"UPDATE Tbl_Users SET LastName = 'Same', FirstName = 'Same' WHERE UserID < 13"_s);
+    run(u"UPDATE Tbl_Users SET LastName = 'same', FirstName = 'Early' WHERE UserID = 13"_s);
+    run(u"INSERT INTO Tbl_UserHW (UserID,HWID) VALUES (13,63)"_s);
+    expectRows(software, {{"getUsers",
+                           &clsSW::getUsers,
+                           72,
+                           {u"13|same|Early|anna|SRV01"_s, u"12|Same|Same|bert|SRV02"_s,
+                            u"11|Same|Same|rolf|SRV01"_s, u"11|Same|Same|rolf|SRV01"_s}}});
 }
 
-TEST_F(SWTest, AddHW_MakesTheItemsTheOnlyOnes)
+TEST_F(ProductsTest, AddHW_MakesTheItemsTheOnlyOnes)
 {
-    software.addHW(connection, 2, QList<int>{1});
-    software.addHW(connection, 1, QList<int>{3, 1});
-    EXPECT_EQ(swHW(), (Rows{u"1|1"_s, u"1|3"_s, u"2|1"_s}));
-    software.addHW(connection, 1, QList<int>());
-    EXPECT_EQ(swHW(), Rows{u"2|1"_s});
+    software.addHW(connection, 72, QList<int>{66, 61});
+    EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"71|61"_s, u"72|61"_s, u"72|66"_s, u"73|62"_s}));
+    software.addHW(connection, 72, QList<int>());
+    EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"71|61"_s, u"73|62"_s}));
 }
 
-TEST_F(SWTest, Delete_LeavesTheRelationshipsBehind)
+TEST_F(ProductsTest, Delete_HidesWhatHangsOnAProduct)
 {
-    software.Delete(connection, 1);
-    EXPECT_EQ(swHW(), (Rows{u"1|1"_s, u"1|2"_s}));
-    EXPECT_EQ(read(hardware, &clsHW::getSW, 1), Rows());
+    software.Delete(connection, 72);
+    EXPECT_EQ(content("Tbl_SWHW").size(), 4);
+    expectRows(hardware, {{"getSW", &clsHW::getSW, 61, {writer2}}});
+    types.Delete(connection, 51);
+    EXPECT_EQ(content("Tbl_HW").size(), 6);
+    expectRows(hardware, {{"getAll", &clsHW::getAll, 0, {hw66, hw65, hw64, hw63}}});
 }
 
-TEST_F(HWTypeTest, ReadersGiveTheirRows)
+TEST_F(ProductsTest, ReadersOfTypesGiveTheirRows)
 {
-    EXPECT_EQ(read(types, &clsHWType::getAll), (Rows{u"2|Monitor|Bolt|M2|-|-"_s, u"1|PC|Maker|M1|7|-"_s}));
-    run(u"INSERT INTO Tbl_HWType (Type,Model) VALUES ('pc','M3')"_s);
-    EXPECT_EQ(read(types, &clsHWType::getDisplayList),
-              (Rows{u"2|Monitor Bolt M2 "_s, u"3|pc  M3 "_s, u"1|PC Maker M1 7"_s}));
-    EXPECT_EQ(read(types, &clsHWType::getTypes).size(), 2);
-    EXPECT_EQ(read(types, &clsHWType::getManufacturers), (Rows{u"0|-"_s, u"0|Bolt"_s, u"0|Maker"_s}));
+    const Rows all = {u"55|Monitor|Zeta|M9|-|-"_s, u"54|PC|-|M9|9|-"_s, u"53|pc|Maker|L9|9|-"_s,
+                      u"52|PC|MAKER|M1|5|-"_s, u"51|PC|Maker|M1|7|-"_s};
+    // clang-format off
+    expectRows(types, {
+        {"getAll", &clsHWType::getAll, 0, all},
+        {"getDisplayList", &clsHWType::getDisplayList, 0,
+         {u"55|Monitor Zeta M9 "_s, u"54|PC  M9 9"_s, u"53|pc Maker L9 9"_s, u"52|PC MAKER M1 5"_s,
+          u"51|PC Maker M1 7"_s}},
+    });
+    // clang-format on
+    EXPECT_EQ(texts(types, &clsHWType::getTypes), (Rows{u"0|monitor"_s, u"0|pc"_s}));
+    EXPECT_EQ(texts(types, &clsHWType::getManufacturers), (Rows{u"0|-"_s, u"0|maker"_s, u"0|zeta"_s}));
 
     const auto found = [&](const QString &type, const QString &manufacturer, const QString &model) {
-        jet::Recordset result;
-        types.Find(connection, result, type, manufacturer, model);
-        return rowsOf(result);
+        return rowsFrom([&](auto &result) { types.Find(connection, result, type, manufacturer, model); });
     };
-    EXPECT_EQ(found(u"P"_s, u"make"_s, u"1"_s), Rows{u"1|PC|Maker|M1|7|-"_s});
-    EXPECT_EQ(found(u"P"_s, {}, u"2"_s), Rows());
-    EXPECT_EQ(found({}, {}, {}).size(), 2) << "a Null is never found";
-}
-
-TEST_F(HWTypeTest, Delete_HidesTheHardwareOfTheType)
-{
-    types.Delete(connection, 1);
-    EXPECT_EQ(rows(u"SELECT ID FROM Tbl_HW"_s).size(), 4);
-    EXPECT_EQ(read(hardware, &clsHW::getAll).size(), 2);
+    EXPECT_EQ(found({}, {}, {}), (Rows{all[0], all[2], all[3], all[4]})) << "a Null is never found";
+    EXPECT_EQ(found(u"P"_s, {}, {}), all.last(3));
+    EXPECT_EQ(found({}, u"et"_s, {}), all.first(1));
+    EXPECT_EQ(found({}, {}, u"m1"_s), all.last(2));
 }

@@ -1,17 +1,18 @@
+#include "folders/clsFolders.h"
 #include "jet/failingvfs.h"
 #include "platform/jet/inspection.h"
-#include "records/folderstest.h"
 #include "store/clsGlobalGroups.h"
 #include "store/clsLocalGroups.h"
+#include "store/clsUsers.h"
 #include "store/userstatements.h"
-
-#include <QFile>
+#include "support/companytest.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
 using failingvfs::Kind;
 
 namespace {
@@ -41,7 +42,9 @@ struct Writer
     Write write;
 };
 
-constexpr int ids[] = {1, 2, 3};
+constexpr int userIds[] = {13, 12, 11};
+constexpr int folderIds[] = {42, 43};
+constexpr int defaultIds[] = {1};
 
 void folderRecords(jet::Recordset &records)
 {
@@ -71,36 +74,35 @@ void addUserBatch(const QString &store, QString &told)
 
 constexpr Writer writers[] = {
     {"OneStatement",
-     [](const QString &store, QString &) {
-         clsFolders().DeleteDefaultFolderPermissions(store, std::span(ids, 1));
-     }},
+     [](const QString &store, QString &) { clsFolders().DeleteDefaultFolderPermissions(store, defaultIds); }},
     {"UnderARule",
-     [](const QString &store, QString &) { clsFolders().update(store, 2, u"D:\\Moved"_s, {}); }},
-    {"ForEach", [](const QString &store, QString &) { clsFolders().Delete(store, std::span(ids, 2)); }},
-    {"RelationsAnew", [](const QString &store, QString &) { clsGlobalGroups().addUsers(store, 1, ids); }},
+     [](const QString &store, QString &) { clsFolders().update(store, 42, u"D:\\Moved"_s, {}); }},
+    {"ForEach", [](const QString &store, QString &) { clsFolders().Delete(store, folderIds); }},
+    {"RelationsAnew",
+     [](const QString &store, QString &) { clsGlobalGroups().addUsers(store, 21, userIds); }},
     {"PermissionsAnew",
      [](const QString &store, QString &) {
-         clsUsers().addFolders(store, 1, std::span(ids, 2), {u"CH"_s, u"L"_s}, true);
+         clsUsers().addFolders(store, 12, folderIds, {u"CH"_s, u"L"_s}, true);
      }},
     {"MembershipBatch",
      [](const QString &store, QString &told) {
          jet::Recordset records;
          makeRecords(records, {u"UserName"_s, u"UserServer"_s, u"GroupName"_s, u"GroupServer"_s},
                      {{u"anna"_s, u"SRV01"_s, u"Staff"_s, u"DC01"_s},
-                      {u"cleo"_s, u"SRV01"_s, u"Admins"_s, u"DC01"_s}});
+                      {u"rolf"_s, u"SRV01"_s, u"Admins"_s, u"DC01"_s}});
          clsGlobalGroups().AddUsersBatch(store, records, told);
      }},
     {"FoldersByPath",
      [](const QString &store, QString &told) {
          jet::Recordset records;
          folderRecords(records);
-         clsLocalGroups().addFoldersBatch(store, u"Data"_s, records, told);
+         clsLocalGroups().addFoldersBatch(store, u"Guests"_s, records, told);
      }},
     {"PermittedObjects",
      [](const QString &store, QString &told) {
          jet::Recordset objects;
          makeRecords(objects, {u"Name"_s, u"Server"_s, u"Permission"_s},
-                     {{u"bert"_s, u"SRV02"_s, u"CH"_s}, {u"Data"_s, u"SRV02"_s, u"R"_s}});
+                     {{u"bert"_s, u"SRV02"_s, u"CH"_s}, {u"Guests"_s, u"SRV02"_s, u"R"_s}});
          told += clsFolders().addPermittedObjects(store, u"D:\\Data\\"_s, objects);
      }},
     {"FolderBatch",
@@ -110,7 +112,7 @@ constexpr Writer writers[] = {
      }},
     {"PermissionBatch",
      [](const QString &store, QString &told) {
-         clsFolders().AddPermissionsBatch(store, {u"D:\\Data"_s, u"D:\\Admin"_s}, {u"anna"_s, u"Data"_s},
+         clsFolders().AddPermissionsBatch(store, {u"D:\\Data"_s, u"D:\\Admin"_s}, {u"anna"_s, u"Guests"_s},
                                           {u"SRV01"_s, u"SRV02"_s}, {u"CH"_s, u"L"_s}, told);
      }},
     {"UserBatch", addUserBatch},
@@ -118,7 +120,7 @@ constexpr Writer writers[] = {
 
 using Case = std::tuple<Fault, Writer>;
 
-class FailingStoreTest : public FolderAccountsTest, public testing::WithParamInterface<Case>
+class FailingStoreTest : public CompanyTest, public testing::WithParamInterface<Case>
 {
 protected:
     /// What a store says, in names: whatever id a row got, it must stand for the same things.
