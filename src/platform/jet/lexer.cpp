@@ -130,9 +130,9 @@ Token Lexer::name()
 // like these an operand begins; a column of such a name is bracketed.
 bool Lexer::operandBefore() const
 {
-    static constexpr std::array<std::string_view, 21> words = {
-        "select", "and",  "or",  "not", "like", "in",  "where",  "between",  "by",  "band", "bor",
-        "bxor",   "bnot", "mod", "xor", "eqv",  "imp", "having", "distinct", "all", "top"};
+    static constexpr std::array<std::string_view, 20> words = {
+        "select", "and",  "or",   "not", "like", "in",  "where", "between", "by",       "band",
+        "bor",    "bxor", "bnot", "mod", "xor",  "eqv", "imp",   "having",  "distinct", "all"};
     switch (m_lastKind) {
     case TokenKind::End:
         return false;

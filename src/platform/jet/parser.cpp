@@ -194,6 +194,7 @@ QueryPtr Parser::query(bool allowInto)
     while (accept("UNION")) {
         query->unionAll.push_back(accept("ALL"));
         ownOrder = at("(");
+        query->orderBy.clear(); // one in the middle orders nothing
         selectArm(*query, false);
     }
     // Behind the last arm stands the order of all; within its parentheses its own, for its TOP.
