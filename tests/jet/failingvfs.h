@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sqlite3.h>
+
 /// A file system that fails on demand, beneath every SQLite handle opened while it is installed.
 /// It does what the real one does until its n-th call of a kind, which fails once or for good.
 namespace failingvfs {
@@ -13,6 +15,24 @@ struct Plan
     int call = 0; ///< 0: none fails
     int result = 0;
     bool forGood = false; ///< all calls behind fail, too, as on a disk that is full
+};
+
+/// What happens to disks.
+struct Fault
+{
+    const char *name;
+    Kind kind;
+    int result;
+    bool forGood;
+};
+
+inline constexpr Fault faults[] = {
+    {"ReadError", Kind::Read, SQLITE_IOERR_READ, false},
+    {"WriteError", Kind::Write, SQLITE_IOERR_WRITE, false},
+    {"DiskFull", Kind::Write, SQLITE_FULL, true},
+    {"SyncError", Kind::Sync, SQLITE_IOERR_FSYNC, false},
+    {"Locked", Kind::Lock, SQLITE_BUSY, false},
+    {"LockError", Kind::Lock, SQLITE_IOERR_LOCK, false},
 };
 
 /// Becomes the default file system of the process on construction, the real one again at the end.

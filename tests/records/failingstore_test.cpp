@@ -13,25 +13,10 @@
 #include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
-using failingvfs::Kind;
+using failingvfs::Fault;
+using failingvfs::faults;
 
 namespace {
-
-struct Fault
-{
-    const char *name;
-    Kind kind;
-    int result;
-    bool forGood;
-};
-
-constexpr Fault faults[] = {
-    {"ReadError", Kind::Read, SQLITE_IOERR_READ, false},
-    {"WriteError", Kind::Write, SQLITE_IOERR_WRITE, false},
-    {"DiskFull", Kind::Write, SQLITE_FULL, true},
-    {"SyncError", Kind::Sync, SQLITE_IOERR_FSYNC, false},
-    {"LockError", Kind::Lock, SQLITE_IOERR_LOCK, false},
-};
 
 /// Adds to `told` what the method tells without raising it.
 using Write = void (*)(const QString &store, QString &told);
