@@ -2,7 +2,7 @@
 
 #include "base/error.h"
 #include "base/errornumbers.h"
-#include "store/sampledata.h"
+#include "sample/sampledata.h"
 #include "store/storefile.h"
 
 #include <QFile>

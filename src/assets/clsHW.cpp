@@ -72,6 +72,21 @@ QString insertHW(const HWRecord &item)
     return filled(insert, item);
 }
 
+void writeHWRooms(StoreSession &store, int id, std::span<const int> rooms)
+{
+    writeRelations(store, roomsOfItem, id, rooms, {}, false);
+}
+
+void writeHWUsers(StoreSession &store, int id, std::span<const int> users)
+{
+    writeRelations(store, usersOfItem, id, users, {}, false);
+}
+
+void writeHWSoftware(StoreSession &store, int id, std::span<const int> software)
+{
+    writeRelations(store, softwareOfItem, id, software, {}, false);
+}
+
 void clsHW::Add(const QString &connectionString, const HWRecord &item)
 {
     writeUnlessFound(connectionString, filled(taken, item), alreadyExists, insertHW(item));
@@ -85,7 +100,7 @@ void clsHW::addRooms(const QString &connectionString, int id, std::span<const in
             store.execute(withId(usersOfItem.clear, id));
         if (deleteSW)
             store.execute(withId("DELETE * FROM Tbl_SWHW WHERE HWID ={id}"_L1, id));
-        writeRelations(store, roomsOfItem, id, rooms, {}, false);
+        writeHWRooms(store, id, rooms);
     });
 }
 
@@ -95,14 +110,16 @@ void clsHW::addUsers(const QString &connectionString, int id, std::span<const in
         store.execute(withId(usersOfItem.clear, id));
         if (!users.empty())
             store.execute(withId(roomsOfItem.clear, id));
-        writeRelations(store, usersOfItem, id, users, {}, false);
+        writeHWUsers(store, id, users);
     });
 }
 
 void clsHW::addSW(const QString &connectionString, int id, std::span<const int> software)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeRelations(store, softwareOfItem, id, software, {}, true); });
+    withStore(connectionString, [&](StoreSession &store) {
+        store.execute(withId(softwareOfItem.clear, id));
+        writeHWSoftware(store, id, software);
+    });
 }
 
 void clsHW::update(const QString &connectionString, int id, const HWRecord &item)

@@ -31,6 +31,13 @@ struct HWRecord
 /// The statement that inserts the item. Nothing is escaped.
 [[nodiscard]] QString insertHW(const HWRecord &item);
 
+class StoreSession;
+
+// What they relate to the item is added to what it has.
+void writeHWRooms(StoreSession &store, int id, std::span<const int> rooms);
+void writeHWUsers(StoreSession &store, int id, std::span<const int> users);
+void writeHWSoftware(StoreSession &store, int id, std::span<const int> software);
+
 /// All that reads and writes Tbl_HW and the hardware's side of Tbl_RoomHW, Tbl_UserHW and
 /// Tbl_SWHW. An item is known by its type and serial number; it stands in one room or with one
 /// user, never both.

@@ -11,29 +11,28 @@ constexpr auto alreadyExists =
 
 // clang-format off
 constexpr auto taken =
-    "SELECT ID FROM Tbl_HWType WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Model]='{model}' AND [TypeNumber]='{number}'"_L1;
+    "SELECT ID FROM Tbl_HWType WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Model]='{name}' AND [TypeNumber]='{version}'"_L1;
 constexpr auto insert =
-    "INSERT INTO Tbl_HWType ([Type],[Manufacturer],[Model],[TypeNumber],[Description]) VALUES ('{type}','{manufacturer}','{model}','{number}','{description}')"_L1;
+    "INSERT INTO Tbl_HWType ([Type],[Manufacturer],[Model],[TypeNumber],[Description]) VALUES ('{type}','{manufacturer}','{name}','{version}','{description}')"_L1;
 
 constexpr auto takenByOther =
-    "SELECT ID FROM Tbl_HWType WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Model]='{model}' AND [TypeNumber] ='{number}' AND ID <> {id}"_L1;
+    "SELECT ID FROM Tbl_HWType WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Model]='{name}' AND [TypeNumber] ='{version}' AND ID <> {id}"_L1;
 constexpr auto change =
-    "UPDATE Tbl_HWType SET [Type]='{type}',[Manufacturer]='{manufacturer}',[Model]='{model}',[TypeNumber]='{number}',[Description]='{description}' WHERE ID = {id}"_L1;
+    "UPDATE Tbl_HWType SET [Type]='{type}',[Manufacturer]='{manufacturer}',[Model]='{name}',[TypeNumber]='{version}',[Description]='{description}' WHERE ID = {id}"_L1;
 // clang-format on
 
 } // namespace
 
+QString insertHWType(const CatalogueRow &device)
+{
+    return joined(insert, device);
+}
+
 void clsHWType::Add(const QString &connectionString, const QString &type, const QString &manufacturer,
                     const QString &model, const QString &typeNumber, const QString &description)
 {
-    const auto fill = [&](QLatin1StringView text) {
-        return joined(text, {{"type"_L1, type},
-                             {"manufacturer"_L1, manufacturer},
-                             {"model"_L1, model},
-                             {"number"_L1, typeNumber},
-                             {"description"_L1, description}});
-    };
-    writeUnlessFound(connectionString, fill(taken), alreadyExists, fill(insert));
+    const CatalogueRow device = {type, manufacturer, model, typeNumber, description};
+    writeUnlessFound(connectionString, joined(taken, device), alreadyExists, insertHWType(device));
 }
 
 void clsHWType::getAll(const QString &connectionString, jet::Recordset &result)
@@ -75,16 +74,9 @@ void clsHWType::update(const QString &connectionString, int id, const QString &t
                        const QString &manufacturer, const QString &model, const QString &typeNumber,
                        const QString &description)
 {
-    const QString idText = QString::number(id);
-    const auto fill = [&](QLatin1StringView text) {
-        return joined(text, {{"type"_L1, type},
-                             {"manufacturer"_L1, manufacturer},
-                             {"model"_L1, model},
-                             {"number"_L1, typeNumber},
-                             {"description"_L1, description},
-                             {"id"_L1, idText}});
-    };
-    writeUnlessFound(connectionString, fill(takenByOther), alreadyExists, fill(change));
+    const CatalogueRow device = {type, manufacturer, model, typeNumber, description};
+    writeUnlessFound(connectionString, joined(takenByOther, device, id), alreadyExists,
+                     joined(change, device, id));
 }
 
 void clsHWType::Delete(const QString &connectionString, int id)

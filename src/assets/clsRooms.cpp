@@ -17,6 +17,17 @@ constexpr RelationStatements usersOfRoom = {
 
 } // namespace
 
+QString insertRoom(const QString &number, const QString &description)
+{
+    return joined("INSERT INTO Tbl_Rooms (RoomNumber,Description) VALUES ('{number}','{description}')"_L1,
+                  {{"number"_L1, number}, {"description"_L1, description}});
+}
+
+void writeRoomUsers(StoreSession &store, int room, std::span<const int> users, bool clearFirst)
+{
+    writeRelations(store, usersOfRoom, room, users, {}, clearFirst);
+}
+
 void clsRooms::Find(const QString &connectionString, jet::Recordset &result, const QString &number)
 {
     read(connectionString, result,
@@ -80,8 +91,7 @@ void clsRooms::getNotUsers(const QString &connectionString, jet::Recordset &resu
 
 void clsRooms::addUsers(const QString &connectionString, int id, std::span<const int> users)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeRelations(store, usersOfRoom, id, users, {}, true); });
+    withStore(connectionString, [&](StoreSession &store) { writeRoomUsers(store, id, users, true); });
 }
 
 void clsRooms::addHW(const QString &connectionString, int id, std::span<const int> items, bool deleteSW)
@@ -133,7 +143,5 @@ void clsRooms::Add(const QString &connectionString, const QString &number, const
     writeUnlessFound(
         connectionString,
         joined("SELECT * FROM Tbl_Rooms WHERE [RoomNumber] ='{number}'"_L1, {{"number"_L1, number}}),
-        alreadyExists,
-        joined("INSERT INTO Tbl_Rooms (RoomNumber,Description) VALUES ('{number}','{description}')"_L1,
-               {{"number"_L1, number}, {"description"_L1, description}}));
+        alreadyExists, insertRoom(number, description));
 }

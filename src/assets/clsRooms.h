@@ -7,6 +7,15 @@
 
 #include <span>
 
+class StoreSession;
+
+/// The statement that inserts the room. Nothing is escaped.
+[[nodiscard]] QString insertRoom(const QString &number, const QString &description);
+
+/// Relates the users to the room, after all others have been taken away if so told. A repeated
+/// id counts once.
+void writeRoomUsers(StoreSession &store, int room, std::span<const int> users, bool clearFirst);
+
 /// All that reads and writes Tbl_Rooms and the room's side of Tbl_RoomUsers and Tbl_RoomHW. A
 /// room is known by its number.
 ///

@@ -29,6 +29,11 @@ constexpr RelationStatements hardware = {
 
 } // namespace
 
+QString insertSW(const CatalogueRow &product)
+{
+    return joined(insert, product);
+}
+
 void clsSW::getManufacturers(const QString &connectionString, jet::Recordset &result)
 {
     read(connectionString, result,
@@ -38,14 +43,8 @@ void clsSW::getManufacturers(const QString &connectionString, jet::Recordset &re
 void clsSW::Add(const QString &connectionString, const QString &type, const QString &manufacturer,
                 const QString &name, const QString &version, const QString &description)
 {
-    const auto fill = [&](QLatin1StringView text) {
-        return joined(text, {{"type"_L1, type},
-                             {"manufacturer"_L1, manufacturer},
-                             {"name"_L1, name},
-                             {"version"_L1, version},
-                             {"description"_L1, description}});
-    };
-    writeUnlessFound(connectionString, fill(taken), alreadyExists, fill(insert));
+    const CatalogueRow product = {type, manufacturer, name, version, description};
+    writeUnlessFound(connectionString, joined(taken, product), alreadyExists, insertSW(product));
 }
 
 void clsSW::getAll(const QString &connectionString, jet::Recordset &result)
@@ -103,16 +102,9 @@ void clsSW::getNotHW(const QString &connectionString, jet::Recordset &result, in
 void clsSW::update(const QString &connectionString, int id, const QString &type, const QString &manufacturer,
                    const QString &name, const QString &version, const QString &description)
 {
-    const QString idText = QString::number(id);
-    const auto fill = [&](QLatin1StringView text) {
-        return joined(text, {{"type"_L1, type},
-                             {"manufacturer"_L1, manufacturer},
-                             {"name"_L1, name},
-                             {"version"_L1, version},
-                             {"description"_L1, description},
-                             {"id"_L1, idText}});
-    };
-    writeUnlessFound(connectionString, fill(takenByOther), alreadyExists, fill(change));
+    const CatalogueRow product = {type, manufacturer, name, version, description};
+    writeUnlessFound(connectionString, joined(takenByOther, product, id), alreadyExists,
+                     joined(change, product, id));
 }
 
 void clsSW::Delete(const QString &connectionString, int id)

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "assets/clsCatalogue.h"
 #include "platform/jet/recordset.h"
 #include "store/recordclass.h"
 
 #include <QString>
 
 #include <span>
+
+/// The statement that inserts the software. Nothing is escaped.
+[[nodiscard]] QString insertSW(const CatalogueRow &product);
 
 /// All that reads and writes Tbl_SW, the catalogue of software, and the software's side of
 /// Tbl_SWHW. A product is known by its type, manufacturer, name and version; the description is

@@ -13,14 +13,25 @@ constexpr auto defaultPermissionExists = "The specified Default Permission alrea
 
 } // namespace
 
+QString insertFolder(const QString &path, const QString &description)
+{
+    return joined("INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('{path}','{description}')"_L1,
+                  {{"path"_L1, path}, {"description"_L1, description}});
+}
+
+QString insertDefaultFolderPermission(const QString &account, const QString &permission)
+{
+    return joined("INSERT INTO Tbl_FolderDefaultPermissions ([Account],[Permission]) "
+                  "VALUES ('{account}','{permission}')"_L1,
+                  {{"account"_L1, account}, {"permission"_L1, permission}});
+}
+
 void clsFolders::Add(const QString &connectionString, const QString &path, const QString &description)
 {
     const QString name = folderPath(path);
-    writeUnlessFound(
-        connectionString,
-        joined("SELECT * FROM Tbl_Folders WHERE FolderName ='{path}'"_L1, {{"path"_L1, name}}), folderExists,
-        joined("INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('{path}','{description}')"_L1,
-               {{"path"_L1, name}, {"description"_L1, description}}));
+    writeUnlessFound(connectionString,
+                     joined("SELECT * FROM Tbl_Folders WHERE FolderName ='{path}'"_L1, {{"path"_L1, name}}),
+                     folderExists, insertFolder(name, description));
 }
 
 void clsFolders::update(const QString &connectionString, int id, const QString &path,
@@ -63,10 +74,7 @@ void clsFolders::AddDefaultFolderPermission(const QString &connectionString, con
     writeUnlessFound(connectionString,
                      joined("SELECT * FROM Tbl_FolderDefaultPermissions WHERE Account ='{account}'"_L1,
                             {{"account"_L1, account}}),
-                     defaultPermissionExists,
-                     joined("INSERT INTO Tbl_FolderDefaultPermissions ([Account],[Permission]) "
-                            "VALUES ('{account}','{permission}')"_L1,
-                            {{"account"_L1, account}, {"permission"_L1, permission}}));
+                     defaultPermissionExists, insertDefaultFolderPermission(account, permission));
 }
 
 void clsFolders::updateDefaultFolderPermission(const QString &connectionString, int id,

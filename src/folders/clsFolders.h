@@ -9,6 +9,11 @@
 
 #include <span>
 
+/// The statements that insert a folder, of the path as it stands, and a default permission.
+/// Nothing is escaped.
+[[nodiscard]] QString insertFolder(const QString &path, const QString &description);
+[[nodiscard]] QString insertDefaultFolderPermission(const QString &account, const QString &permission);
+
 /// All that reads and writes Tbl_Folders, Tbl_FolderDefaultPermissions and the folder's side
 /// of the three permission tables. A folder is known by its full path, which ends in a
 /// backslash: it is added to paths that lack it, unless told otherwise.

@@ -168,9 +168,7 @@ bool writeFolder(HeldBack &store, const QString &path, const QString &descriptio
     if (!known)
         return false; // an insert could be the second of its path
     if (known->isNull())
-        return store.execute(
-            joined("INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('{path}','{description}')"_L1,
-                   {{"path"_L1, path}, {"description"_L1, description}}));
+        return store.execute(insertFolder(path, description));
     return keepExisting ||
            store.execute(joined("UPDATE Tbl_Folders SET Description ='{description}' WHERE ID ={id}"_L1,
                                 {{"description"_L1, description}, {"id"_L1, known->toText()}}));

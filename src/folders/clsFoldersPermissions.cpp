@@ -42,13 +42,7 @@ constexpr AccountKind accountKinds[] = {
 };
 // clang-format on
 
-struct PermittedAccounts
-{
-    QList<int> ids;
-    QStringList permissions;
-};
-
-using PermittedByKind = std::array<PermittedAccounts, std::size(accountKinds)>;
+using PermittedByKind = std::array<Permissions, std::size(accountKinds)>;
 
 /// Returns whether the account is known to the store.
 bool takeAccount(StoreSession &store, const QString &name, const QString &server, const QString &permission,
@@ -59,8 +53,7 @@ bool takeAccount(StoreSession &store, const QString &name, const QString &server
             store.scalar(joined(accountKinds[kind].lookup, {{"name"_L1, name}, {"server"_L1, server}}));
         if (id.isNull())
             continue;
-        permitted[kind].ids.append(int(id.toInteger()));
-        permitted[kind].permissions.append(permission);
+        permitted[kind].add(int(id.toInteger()), permission);
         return true;
     }
     return store.exists(

@@ -10,15 +10,19 @@ constexpr auto alreadyExists = "A Custom Query with the same Name already exists
 
 } // namespace
 
+QString insertCustomQuery(const QString &name, const QString &description, const QString &statement)
+{
+    return joined("INSERT INTO Tbl_CustomQuery ([Name],[Description],[SQLString]) "
+                  "VALUES ('{name}','{description}','{statement}')"_L1,
+                  {{"name"_L1, name}, {"description"_L1, description}, {"statement"_L1, statement}});
+}
+
 void clsCustomQuery::Add(const QString &connectionString, const QString &name, const QString &description,
                          const QString &statement)
 {
-    writeUnlessFound(
-        connectionString,
-        joined("SELECT ID FROM Tbl_CustomQuery WHERE [Name]='{name}'"_L1, {{"name"_L1, name}}), alreadyExists,
-        joined("INSERT INTO Tbl_CustomQuery ([Name],[Description],[SQLString]) "
-               "VALUES ('{name}','{description}','{statement}')"_L1,
-               {{"name"_L1, name}, {"description"_L1, description}, {"statement"_L1, statement}}));
+    writeUnlessFound(connectionString,
+                     joined("SELECT ID FROM Tbl_CustomQuery WHERE [Name]='{name}'"_L1, {{"name"_L1, name}}),
+                     alreadyExists, insertCustomQuery(name, description, statement));
 }
 
 void clsCustomQuery::getAll(const QString &connectionString, jet::Recordset &result)

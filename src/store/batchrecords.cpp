@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-BatchRecords::BatchRecords(jet::Recordset &records, std::initializer_list<QLatin1StringView> fields)
+BatchRecords::BatchRecords(jet::Recordset &records, std::span<const QLatin1StringView> fields)
     : m_records(records)
 {
     if (records.recordCount() == 0)

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <span>
 #include <vector>
 
 /// Lets the windows breathe in the middle of a batch, where what is pending goes to the disk: an Error it
@@ -23,7 +24,11 @@ class BatchRecords final
 public:
     /// Raises jet::ItemNotFound for a field that the records do not have; records without a
     /// single row need none.
-    BatchRecords(jet::Recordset &records, std::initializer_list<QLatin1StringView> fields);
+    BatchRecords(jet::Recordset &records, std::span<const QLatin1StringView> fields);
+    BatchRecords(jet::Recordset &records, std::initializer_list<QLatin1StringView> fields)
+        : BatchRecords(records, std::span(fields.begin(), fields.size()))
+    {
+    }
 
     [[nodiscard]] bool next();
     /// The value of a field, by its place in the list given; Null is the empty text.

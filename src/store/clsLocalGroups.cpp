@@ -18,6 +18,12 @@ constexpr RelationStatements globalGroups = {
 
 } // namespace
 
+void writeGlobalGroupMembers(StoreSession &store, int group, std::span<const int> globalGroupIds,
+                             bool clearFirst)
+{
+    writeRelations(store, globalGroups, group, globalGroupIds, {}, clearFirst);
+}
+
 void clsLocalGroups::AddUsersBatch(const QString &connectionString, jet::Recordset &records,
                                    QString &errorText, const Breath &breath)
 {
@@ -131,9 +137,8 @@ void clsLocalGroups::Add(const QString &connectionString, const QString &server,
 void clsLocalGroups::addGlobalGroups(const QString &connectionString, int id,
                                      std::span<const int> globalGroupIds)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        writeRelations(store, globalGroups, id, globalGroupIds, {}, true);
-    });
+    withStore(connectionString,
+              [&](StoreSession &store) { writeGlobalGroupMembers(store, id, globalGroupIds, true); });
 }
 
 void clsLocalGroups::AddGlobalGroupsBatch(const QString &connectionString, jet::Recordset &records,
@@ -166,8 +171,8 @@ void clsLocalGroups::addFoldersBatch(const QString &connectionString, const QStr
             joined("SELECT ID from Tbl_LocalGroups WHERE [Name]='{name}'"_L1, {{"name"_L1, groupName}}));
         if (group.isNull())
             raise(RuleViolation, unknownGroup);
-        const FolderPermissions taken = takeFolderPermissions(store, records, failed);
-        writeGroupFolders(store, GroupKind::Local, int(group.toInteger()), taken.folders, taken.permissions,
+        const Permissions taken = takeFolderPermissions(store, records, failed);
+        writeGroupFolders(store, GroupKind::Local, int(group.toInteger()), taken.ids, taken.permissions,
                           false);
     });
 }

@@ -9,6 +9,11 @@
 
 #include <span>
 
+/// Makes the global groups members of the group, after all others have been taken out if so
+/// told; one given twice is in twice.
+void writeGlobalGroupMembers(StoreSession &store, int group, std::span<const int> globalGroupIds,
+                             bool clearFirst);
+
 /// All that reads and writes Tbl_LocalGroups and the local group's side of the relationship
 /// tables: the twin of clsGlobalGroups, with global groups as a second kind of member.
 ///

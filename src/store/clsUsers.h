@@ -15,20 +15,26 @@
 /// it raises, as a yield does that cannot write what is pending, is counted and told.
 using BatchProgress = std::function<bool(int done)>;
 
+/// Gives the user one permission a folder, in the same order, after all others have been taken
+/// away if so told. One that the user has on a folder is overwritten.
+void writeUserFolders(StoreSession &store, int user, std::span<const int> folders,
+                      const QStringList &permissions, bool clearFirst);
+
 /// All that reads and writes Tbl_Users and the user's side of the relationship tables.
 /// A user is known by UserID in the store and by name and server everywhere else; only
 /// the latter survives a new import.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Every method
-/// raises the store's error, except the two batch writers.
+/// raises the store's error, except the two batch writers, which tell it.
 class clsUsers final : public RecordClass
 {
 public:
     /// Writes the records, whose fields are named as the columns, by name and server: a new
     /// account is inserted, a known one is updated (its contact columns stay as they are) or,
     /// with leaveExisting, passed over without being counted. A UserID of 0 asks for the next
-    /// free one. Never stops and never raises for a record: what fails is counted and gets a
-    /// line of the error text. Counters and text are added to.
+    /// free one. Never stops and never raises for a record, nor for a store that does not open:
+    /// what fails is counted and gets a line of the error text. Counters and text are added to.
+    /// Raises jet::ItemNotFound, before anything is written, for records that lack a field.
     void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting, int &newCount,
                   int &updatedCount, int &errorCount, QString &errorText, const BatchProgress &progress = {});
     /// The same for records that hold the fields of a line of an import file. Nothing is escaped.

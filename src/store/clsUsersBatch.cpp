@@ -1,9 +1,11 @@
 #include "store/clsUsers.h"
 
-#include "platform/jet/errors.h"
+#include "store/batchrecords.h"
 #include "store/statement.h"
 #include "store/userstatements.h"
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <vector>
 
@@ -44,34 +46,36 @@ void moveUserRelationships(StoreSession &store, const QString &oldId, const QStr
         store.executeSkippingErrors(joined(statement, {{"new"_L1, newId}, {"old"_L1, oldId}}));
 }
 
-/// Writes one record after the other over one session. The places of the fields in the
-/// records are looked up once.
+std::vector<QLatin1StringView> namesOf(std::span<const UserColumn> columns)
+{
+    std::vector<QLatin1StringView> names;
+    std::ranges::transform(columns, std::back_inserter(names), &UserColumn::name);
+    return names;
+}
+
+/// Writes one record after the other over one session.
 class UserBatch final
 {
 public:
     UserBatch(jet::Recordset &records, const BatchKind &kind, bool leaveExisting, BatchOutcome outcome)
-        : m_records(records)
+        : m_records(records, namesOf(kind.updated))
         , m_kind(kind)
         , m_leaveExisting(leaveExisting)
         , m_outcome(outcome)
         , m_values(kind.updated.size())
+        , m_name(placeOf("UserName"_L1))
+        , m_server(placeOf("ServerName"_L1))
     {
-        for (std::size_t i = 0; i < kind.updated.size(); ++i) {
-            const QString name = kind.updated[i].name;
-            m_fields.push_back(records.fields().indexOf(name));
-            if (m_fields.back() < 0)
-                raise(jet::ItemNotFound, "The records of the batch have no field '"_L1 + name + "'."_L1);
-            if (name == "UserName"_L1)
-                m_name = i;
-            else if (name == "ServerName"_L1)
-                m_server = i;
-        }
     }
 
-    void takeRecord()
+    /// Whether there was one more.
+    bool takeRecord()
     {
-        for (std::size_t i = 0; i < m_fields.size(); ++i)
-            m_values[i] = m_records.value(m_fields[i]).toText();
+        if (!m_records.next())
+            return false;
+        for (std::size_t i = 0; i < m_values.size(); ++i)
+            m_values[i] = m_records.text(i);
+        return true;
     }
 
     void refuseRecord(const Error &error) { m_outcome.fail(account(), u' ' + error.description()); }
@@ -93,6 +97,12 @@ public:
     }
 
 private:
+    [[nodiscard]] std::size_t placeOf(QLatin1StringView column) const
+    {
+        return std::size_t(std::ranges::find(m_kind.updated, column, &UserColumn::name) -
+                           m_kind.updated.begin());
+    }
+
     [[nodiscard]] QString account() const { return m_values[m_server] + u'\\' + m_values[m_name]; }
 
     void insert(StoreSession &store)
@@ -116,15 +126,14 @@ private:
         moveUserRelationships(store, oldId, m_values.front());
     }
 
-    jet::Recordset &m_records;
+    BatchRecords m_records;
     BatchKind m_kind;
     bool m_leaveExisting;
     BatchOutcome m_outcome;
-    std::vector<int> m_fields;
     std::vector<QString> m_values;
     jet::Recordset m_found; // the memory of its fields is used again
-    std::size_t m_name = 0;
-    std::size_t m_server = 0;
+    std::size_t m_name;
+    std::size_t m_server;
 };
 
 /// A store that does not open fails every record: the batch still runs to its end.
@@ -140,11 +149,7 @@ void runBatch(const QString &connectionString, jet::Recordset &records, const Ba
         refused = error;
     }
 
-    const int count = records.recordCount();
-    if (count > 0)
-        records.moveFirst();
-    for (int done = 1; done <= count; ++done) {
-        batch.takeRecord();
+    for (int done = 1; batch.takeRecord(); ++done) {
         try {
             if (refused)
                 throw *refused;
@@ -159,7 +164,6 @@ void runBatch(const QString &connectionString, jet::Recordset &records, const Ba
             // It lets the windows breathe, where what is pending goes to the disk.
             outcome.fail(QString(), error.description());
         }
-        records.moveNext();
     }
     try {
         if (store)

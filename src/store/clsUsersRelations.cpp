@@ -30,12 +30,17 @@ constexpr RelationStatements rooms = {
 
 } // namespace
 
+void writeUserFolders(StoreSession &store, int user, std::span<const int> folderIds,
+                      const QStringList &permissions, bool clearFirst)
+{
+    writeRelations(store, folders, user, folderIds, permissions, clearFirst);
+}
+
 void clsUsers::addFolders(const QString &connectionString, int id, std::span<const int> folderIds,
                           const QStringList &permissions, bool clearFirst)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        writeRelations(store, folders, id, folderIds, permissions, clearFirst);
-    });
+    withStore(connectionString,
+              [&](StoreSession &store) { writeUserFolders(store, id, folderIds, permissions, clearFirst); });
 }
 
 void clsUsers::addFoldersBatch(const QString &connectionString, const QString &userName,
@@ -46,8 +51,8 @@ void clsUsers::addFoldersBatch(const QString &connectionString, const QString &u
             joined("SELECT UserID FROM Tbl_Users WHERE [UserName]='{name}'"_L1, {{"name"_L1, userName}}));
         if (user.isNull())
             raise(RuleViolation, unknownUser);
-        const FolderPermissions taken = takeFolderPermissions(store, records, failed);
-        writeRelations(store, folders, int(user.toInteger()), taken.folders, taken.permissions, false);
+        const Permissions taken = takeFolderPermissions(store, records, failed);
+        writeUserFolders(store, int(user.toInteger()), taken.ids, taken.permissions, false);
     });
 }
 

@@ -9,16 +9,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct TwinText
+template <typename T>
+struct Twin
 {
-    QLatin1StringView global;
-    QLatin1StringView local;
+    T global;
+    T local;
 
-    constexpr QLatin1StringView operator[](GroupKind kind) const
-    {
-        return kind == GroupKind::Global ? global : local;
-    }
+    constexpr const T &operator[](GroupKind kind) const { return kind == GroupKind::Global ? global : local; }
 };
+
+using TwinText = Twin<QLatin1StringView>;
 
 constexpr TwinText alreadyExists = {
     "Cannot add/edit Global Group. The Global Group already exists in the Database"_L1,
@@ -61,28 +61,32 @@ constexpr TwinText batchUpdate = {
     "UPDATE Tbl_LocalGroups SET Description = '{description}' WHERE ID = {id}"_L1,
 };
 
-constexpr RelationStatements globalGroupUsers = {
-    "DELETE FROM Tbl_GlobalGroupsUsers WHERE GlobalGroupID={id}"_L1,
-    "SELECT * FROM Tbl_GlobalGroupsUsers WHERE GlobalGroupID ={id} AND  UserID ={item}"_L1,
-    "INSERT INTO Tbl_GlobalgroupsUsers (GlobalGroupID,UserID) VALUES ({id},{item})"_L1,
-};
-constexpr RelationStatements localGroupUsers = {
-    "DELETE FROM Tbl_LocalGroupsUsers WHERE LocalGroupID={id}"_L1,
-    "SELECT * FROM Tbl_LocalGroupsUsers WHERE LocalGroupID ={id} AND  UserID ={item}"_L1,
-    "INSERT INTO Tbl_LocalgroupsUsers (LocalGroupID,UserID) VALUES ({id},{item})"_L1,
+constexpr Twin<RelationStatements> groupUsers = {
+    {
+        "DELETE FROM Tbl_GlobalGroupsUsers WHERE GlobalGroupID={id}"_L1,
+        "SELECT * FROM Tbl_GlobalGroupsUsers WHERE GlobalGroupID ={id} AND  UserID ={item}"_L1,
+        "INSERT INTO Tbl_GlobalgroupsUsers (GlobalGroupID,UserID) VALUES ({id},{item})"_L1,
+    },
+    {
+        "DELETE FROM Tbl_LocalGroupsUsers WHERE LocalGroupID={id}"_L1,
+        "SELECT * FROM Tbl_LocalGroupsUsers WHERE LocalGroupID ={id} AND  UserID ={item}"_L1,
+        "INSERT INTO Tbl_LocalgroupsUsers (LocalGroupID,UserID) VALUES ({id},{item})"_L1,
+    },
 };
 
-constexpr RelationStatements globalGroupFolders = {
-    "DELETE FROM Tbl_GlobalGroupFolderPermission WHERE GlobalGroupID={id}"_L1,
-    "SELECT Permission FROM Tbl_GlobalGroupFolderPermission WHERE GlobalGroupID = {id} AND FolderID ={item}"_L1,
-    "INSERT INTO Tbl_GlobalGroupFolderPermission(GlobalGroupID,FolderID,Permission) VALUES ({id},{item},'{permission}')"_L1,
-    "UPDATE Tbl_GlobalGroupFolderPermission SET Permission ='{permission}' WHERE FolderID ={item} AND GlobalGroupID ={id}"_L1,
-};
-constexpr RelationStatements localGroupFolders = {
-    "DELETE FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID={id}"_L1,
-    "SELECT Permission FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID = {id} AND FolderID ={item}"_L1,
-    "INSERT INTO Tbl_LocalGroupFolderPermission(LocalGroupID,FolderID,Permission) VALUES ({id},{item},'{permission}')"_L1,
-    "UPDATE Tbl_LocalGroupFolderPermission SET Permission ='{permission}' WHERE FolderID ={item} AND LocalGroupID ={id}"_L1,
+constexpr Twin<RelationStatements> groupFolders = {
+    {
+        "DELETE FROM Tbl_GlobalGroupFolderPermission WHERE GlobalGroupID={id}"_L1,
+        "SELECT Permission FROM Tbl_GlobalGroupFolderPermission WHERE GlobalGroupID = {id} AND FolderID ={item}"_L1,
+        "INSERT INTO Tbl_GlobalGroupFolderPermission(GlobalGroupID,FolderID,Permission) VALUES ({id},{item},'{permission}')"_L1,
+        "UPDATE Tbl_GlobalGroupFolderPermission SET Permission ='{permission}' WHERE FolderID ={item} AND GlobalGroupID ={id}"_L1,
+    },
+    {
+        "DELETE FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID={id}"_L1,
+        "SELECT Permission FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID = {id} AND FolderID ={item}"_L1,
+        "INSERT INTO Tbl_LocalGroupFolderPermission(LocalGroupID,FolderID,Permission) VALUES ({id},{item},'{permission}')"_L1,
+        "UPDATE Tbl_LocalGroupFolderPermission SET Permission ='{permission}' WHERE FolderID ={item} AND LocalGroupID ={id}"_L1,
+    },
 };
 
 /// A batch of memberships by name: the fields of its records, its statements and what it says
@@ -101,21 +105,23 @@ struct MembershipBatch
     QLatin1StringView groupNotFound;
 };
 
-constexpr MembershipBatch usersOfGlobalGroups = {
-    "UserName"_L1, "UserServer"_L1, "GroupName"_L1, "GroupServer"_L1,
-    "SELECT UserID FROM Tbl_Users WHERE [UserName]='{name}' AND [ServerName]='{server}'"_L1,
-    "SELECT ID From Tbl_GlobalGroups WHERE [Name]='{name}' AND [Server]='{server}'"_L1,
-    "SELECT * FROM Tbl_GlobalGroupsUsers WHERE UserID ={member} AND GlobalGroupID={group}"_L1,
-    "INSERT INTO TBL_GlobalGroupsUsers (GlobalGroupID,UserID) VALUES ({group},{member})"_L1,
-    " User not found"_L1, " Global Group not found"_L1,
-};
-constexpr MembershipBatch usersOfLocalGroups = {
-    "UserName"_L1, "UserServer"_L1, "GroupName"_L1, "GroupServer"_L1,
-    "SELECT UserID FROM Tbl_Users WHERE [UserName]='{name}' AND [ServerName]='{server}'"_L1,
-    "SELECT ID From Tbl_LocalGroups WHERE [Name]='{name}' AND [Server]='{server}'"_L1,
-    "SELECT * FROM Tbl_LocalGroupsUsers WHERE UserID ={member} AND LocalGroupID={group}"_L1,
-    "INSERT INTO TBL_LocalGroupsUsers (LocalGroupID,UserID) VALUES ({group},{member})"_L1,
-    " User not found"_L1, " Local Group not found"_L1,
+constexpr Twin<MembershipBatch> usersOfGroups = {
+    {
+        "UserName"_L1, "UserServer"_L1, "GroupName"_L1, "GroupServer"_L1,
+        "SELECT UserID FROM Tbl_Users WHERE [UserName]='{name}' AND [ServerName]='{server}'"_L1,
+        "SELECT ID From Tbl_GlobalGroups WHERE [Name]='{name}' AND [Server]='{server}'"_L1,
+        "SELECT * FROM Tbl_GlobalGroupsUsers WHERE UserID ={member} AND GlobalGroupID={group}"_L1,
+        "INSERT INTO TBL_GlobalGroupsUsers (GlobalGroupID,UserID) VALUES ({group},{member})"_L1,
+        " User not found"_L1, " Global Group not found"_L1,
+    },
+    {
+        "UserName"_L1, "UserServer"_L1, "GroupName"_L1, "GroupServer"_L1,
+        "SELECT UserID FROM Tbl_Users WHERE [UserName]='{name}' AND [ServerName]='{server}'"_L1,
+        "SELECT ID From Tbl_LocalGroups WHERE [Name]='{name}' AND [Server]='{server}'"_L1,
+        "SELECT * FROM Tbl_LocalGroupsUsers WHERE UserID ={member} AND LocalGroupID={group}"_L1,
+        "INSERT INTO TBL_LocalGroupsUsers (LocalGroupID,UserID) VALUES ({group},{member})"_L1,
+        " User not found"_L1, " Local Group not found"_L1,
+    },
 };
 constexpr MembershipBatch globalGroupsOfLocalGroups = {
     "GlobalGroupName"_L1, "GlobalGroupServer"_L1, "LocalGroupName"_L1, "LocalGroupServer"_L1,
@@ -221,22 +227,19 @@ void addGroups(StoreSession &store, GroupKind kind, jet::Recordset &records, boo
 
 void writeGroupUsers(StoreSession &store, GroupKind kind, int id, std::span<const int> users)
 {
-    writeRelations(store, kind == GroupKind::Global ? globalGroupUsers : localGroupUsers, id, users, {},
-                   true);
+    writeRelations(store, groupUsers[kind], id, users, {}, true);
 }
 
 void writeGroupFolders(StoreSession &store, GroupKind kind, int id, std::span<const int> folders,
                        const QStringList &permissions, bool clearFirst)
 {
-    writeRelations(store, kind == GroupKind::Global ? globalGroupFolders : localGroupFolders, id, folders,
-                   permissions, clearFirst);
+    writeRelations(store, groupFolders[kind], id, folders, permissions, clearFirst);
 }
 
 void addGroupUsers(StoreSession &store, GroupKind kind, jet::Recordset &records, QString &errorText,
                    const Breath &breath)
 {
-    addMemberships(store, kind == GroupKind::Global ? usersOfGlobalGroups : usersOfLocalGroups, records,
-                   errorText, breath);
+    addMemberships(store, usersOfGroups[kind], records, errorText, breath);
 }
 
 void addLocalGroupGlobalGroups(StoreSession &store, jet::Recordset &records, QString &errorText,

@@ -61,10 +61,10 @@ void executeForEach(StoreSession &store, std::span<const int> ids,
     }
 }
 
-FolderPermissions takeFolderPermissions(StoreSession &store, jet::Recordset &records, QString &failed)
+Permissions takeFolderPermissions(StoreSession &store, jet::Recordset &records, QString &failed)
 {
     enum { Name, Permission };
-    FolderPermissions taken;
+    Permissions taken;
     for (BatchRecords batch(records, {"Name"_L1, "Permission"_L1}); batch.next();) {
         const QString path = batch.text(Name);
         const Value folder = folderId(store, path);
@@ -72,8 +72,7 @@ FolderPermissions takeFolderPermissions(StoreSession &store, jet::Recordset &rec
             failed += path + u',';
             continue;
         }
-        taken.folders.append(int(folder.toInteger()));
-        taken.permissions.append(batch.text(Permission));
+        taken.add(int(folder.toInteger()), batch.text(Permission));
     }
     return taken;
 }

@@ -32,14 +32,20 @@ void writeRelations(StoreSession &store, const RelationStatements &statements, i
 void executeForEach(StoreSession &store, std::span<const int> ids,
                     std::initializer_list<QLatin1StringView> statements);
 
-/// Folders by id, and a permission for each.
-struct FolderPermissions
+/// Folders or accounts by id, and a permission for each.
+struct Permissions
 {
-    QList<int> folders;
+    QList<int> ids;
     QStringList permissions;
+
+    void add(int id, const QString &permission)
+    {
+        ids.append(id);
+        permissions.append(permission);
+    }
 };
 
 /// Takes the records, fields Name (path of a folder) and Permission. A folder not known yet is
 /// added; one that cannot be is named, with a comma, in the failed text and left out.
-[[nodiscard]] FolderPermissions takeFolderPermissions(StoreSession &store, jet::Recordset &records,
-                                                      QString &failed);
+[[nodiscard]] Permissions takeFolderPermissions(StoreSession &store, jet::Recordset &records,
+                                                QString &failed);

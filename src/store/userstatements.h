@@ -32,7 +32,7 @@ struct UserColumn
 
 enum class Escaping { None, Batch };
 
-/// The texts of the two statements that write a row; one value a column. The update ends
+/// The texts of the two statements that write a row, with at least one value a column. The update ends
 /// before its WHERE.
 [[nodiscard]] QString insertUser(std::span<const UserColumn> columns, std::span<const QString> values,
                                  Escaping escaping = Escaping::None);

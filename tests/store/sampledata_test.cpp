@@ -1,4 +1,4 @@
-#include "store/sampledata.h"
+#include "sample/sampledata.h"
 
 #include "queries/clsCustomQuery.h"
 #include "store/storecheck.h"

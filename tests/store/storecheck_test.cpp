@@ -5,7 +5,7 @@
 #include "platform/jet/errors.h"
 #include "platform/jet/inspection.h"
 #include "platform/jet/sqlitesetup.h"
-#include "store/sampledata.h"
+#include "sample/sampledata.h"
 #include "support/freshstore.h"
 
 #include <QDir>

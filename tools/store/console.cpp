@@ -5,7 +5,7 @@
 #include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
-#include "store/sampledata.h"
+#include "sample/sampledata.h"
 #include "store/storecheck.h"
 #include "store/storefile.h"
 

@@ -5,7 +5,7 @@
 #include "platform/settings/settings.h"
 #include "session/identity.h"
 #include "session/modRegistry.h"
-#include "store/sampledata.h"
+#include "sample/sampledata.h"
 
 #include <QApplication>
 #include <QDir>

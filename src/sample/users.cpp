@@ -1,4 +1,4 @@
-#include "store/samplecompany.h"
+#include "sample/company.h"
 
 #include "base/oledate.h"
 #include "base/text.h"

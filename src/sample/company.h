@@ -16,7 +16,7 @@ class StoreSession;
 /// They write over one session, as a method of a record class would have to commit each row.
 namespace sample {
 
-using namespace Qt::StringLiterals;
+using Qt::Literals::StringLiterals::operator""_L1;
 
 struct Site
 {
@@ -53,12 +53,31 @@ inline constexpr Department departments[] = {
     {u"Sales", "7100"_L1, {u"Account Manager", u"Sales Assistant", u"Sales Director"}},
 };
 
+inline constexpr int siteCount = int(std::size(sites));
+
+/// How many shares it takes for all of the users.
+constexpr int ceilingOf(int users, int share)
+{
+    return (users + share - 1) / share;
+}
+
+/// What is drawn for.
+enum class Draw : quint32 {
+    User = 0,
+    Membership = 1,
+    LocalGroup = 2,
+    SharedFolder = 3,
+    Room = 11,
+    Seat = 12,
+    Item = 13
+};
+
 /// The draws of one object, a function of its number and its kind.
 class Draws final
 {
 public:
-    explicit Draws(int number, quint32 kind = 0)
-        : m_state(quint32(number) * 0x9e3779b9u + 0x7f4a7c15u + kind * 0x85ebca6bu)
+    explicit Draws(int number, Draw kind = Draw::User)
+        : m_state(quint32(number) * 0x9e3779b9u + 0x7f4a7c15u + quint32(kind) * 0x85ebca6bu)
     {
     }
 

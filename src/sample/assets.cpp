@@ -1,10 +1,11 @@
-#include "store/samplecompany.h"
+#include "sample/company.h"
 
 #include "assets/clsHW.h"
+#include "assets/clsHWType.h"
+#include "assets/clsRooms.h"
+#include "assets/clsSW.h"
 #include "base/oledate.h"
 #include "base/text.h"
-#include "store/relations.h"
-#include "store/statement.h"
 #include "store/storesession.h"
 
 using namespace Qt::StringLiterals;
@@ -13,10 +14,7 @@ namespace sample {
 
 namespace {
 
-constexpr int siteCount = int(std::size(sites));
 constexpr int usersPerRoom = 3;
-
-enum Kind : quint32 { Room = 11, Seat, Item };
 
 enum class Use { Personal, Common, Server };
 
@@ -84,39 +82,14 @@ constexpr QLatin1StringView suppliers[] = {"Berger & Sons"_L1, "Cable and Case L
                                            "O'Hara Systems"_L1};
 constexpr QLatin1StringView usages[] = {"Office"_L1, "Office"_L1, "Field work"_L1, "Training"_L1};
 
-constexpr RelationStatements usersOfRoom = {
-    {}, {}, "INSERT INTO Tbl_RoomUsers (RoomID,UserID) VALUES ({id},{item})"_L1};
-constexpr RelationStatements roomsOfItem = {
-    {}, {}, "INSERT INTO Tbl_RoomHW (HWID,RoomID) VALUES ({id},{item})"_L1};
-constexpr RelationStatements usersOfItem = {
-    {}, {}, "INSERT INTO Tbl_UserHW (HWID,UserID) VALUES ({id},{item})"_L1};
-constexpr RelationStatements softwareOfItem = {
-    {}, {}, "INSERT INTO Tbl_SWHW (HWID,SWID) VALUES ({id},{item})"_L1};
-
-void relate(StoreSession &store, const RelationStatements &statements, int id, const QList<int> &items)
-{
-    writeRelations(store, statements, id, items, {}, false);
-}
-
 void fillCatalogues(StoreSession &store)
 {
     for (const Device &device : devices)
-        store.execute(
-            joined("INSERT INTO Tbl_HWType ([Type],[Manufacturer],[Model],[TypeNumber],[Description]) "
-                   "VALUES ('{type}','{manufacturer}','{model}','{number}','{description}')"_L1,
-                   {{"type"_L1, QString(device.type)},
-                    {"manufacturer"_L1, QString(device.manufacturer)},
-                    {"model"_L1, QString(device.model)},
-                    {"number"_L1, QString(device.typeNumber)},
-                    {"description"_L1, QString(device.description)}}));
+        store.execute(insertHWType(
+            {device.type, device.manufacturer, device.model, device.typeNumber, device.description}));
     for (const Product &product : products)
-        store.execute(joined("INSERT INTO Tbl_SW ([Type],[Manufacturer],[Name],[Version],[Description]) "
-                             "VALUES ('{type}','{manufacturer}','{name}','{version}','{description}')"_L1,
-                             {{"type"_L1, QString(product.type)},
-                              {"manufacturer"_L1, QString(product.manufacturer)},
-                              {"name"_L1, QString(product.name)},
-                              {"version"_L1, QString(product.version)},
-                              {"description"_L1, escapeQuotes(product.description)}}));
+        store.execute(insertSW({product.type, product.manufacturer, product.name, product.version,
+                                escapeQuotes(product.description)}));
 }
 
 /// Rooms stand on the sites in turn; one on a site, unless there are fewer rooms than sites.
@@ -129,22 +102,20 @@ int roomOn(int site, int count, Draws &draw)
 int fillRooms(StoreSession &store, const QList<User> &users)
 {
     constexpr int doorsPerFloor = 40;
-    const int count = (int(users.size()) + usersPerRoom - 1) / usersPerRoom;
+    const int count = ceilingOf(int(users.size()), usersPerRoom);
     QList<QList<int>> seats(count + 1);
     for (int i = 0; i < users.size(); ++i) {
-        Draws draw(i, Seat);
+        Draws draw(i, Draw::Seat);
         seats[roomOn(users[i].site, count, draw)].append(users[i].id);
     }
     for (int i = 0; i < count; ++i) {
-        Draws draw(i, Room);
+        Draws draw(i, Draw::Room);
         const int door = i / siteCount;
         const QString number = u"%1 %2.%3"_s.arg(QString(sites[i % siteCount].server.first(3)))
                                    .arg(door / doorsPerFloor)
                                    .arg(door % doorsPerFloor + 1, 2, 10, QChar(u'0'));
-        store.execute(
-            joined("INSERT INTO Tbl_Rooms (RoomNumber,Description) VALUES ('{number}','{description}')"_L1,
-                   {{"number"_L1, number}, {"description"_L1, escapeQuotes(draw.from(roomKinds))}}));
-        relate(store, usersOfRoom, i + 1, seats[i + 1]);
+        store.execute(insertRoom(number, escapeQuotes(draw.from(roomKinds))));
+        writeRoomUsers(store, i + 1, seats[i + 1], false);
     }
     return count;
 }
@@ -185,7 +156,7 @@ HWRecord hardwareItem(int number, int device, int site, Draws &draw)
     return item;
 }
 
-/// One or several of the products, no one twice.
+/// Two to five of the products, no one twice.
 QList<int> drawProducts(Draws &draw)
 {
     constexpr int stride = 5; // without a common divisor with the number of products
@@ -202,7 +173,7 @@ void fillHardware(StoreSession &store, const QList<User> &users, int rooms)
 {
     const int count = int(users.size());
     for (int i = 0; i < count; ++i) {
-        Draws draw(i, Item);
+        Draws draw(i, Draw::Item);
         const User &user = users[draw.oneIn(3) ? draw.below(count) : i];
         const int device = drawDevice(draw);
         HWRecord item = hardwareItem(i, device, user.site, draw);
@@ -212,13 +183,13 @@ void fillHardware(StoreSession &store, const QList<User> &users, int rooms)
 
         const int id = i + 1;
         if (devices[device].computer)
-            relate(store, softwareOfItem, id, drawProducts(draw));
+            writeHWSoftware(store, id, drawProducts(draw));
         if (inStock)
             continue;
         if (devices[device].use == Use::Personal)
-            relate(store, usersOfItem, id, {user.id});
+            writeHWUsers(store, id, {{user.id}});
         else
-            relate(store, roomsOfItem, id, {roomOn(user.site, rooms, draw)});
+            writeHWRooms(store, id, {{roomOn(user.site, rooms, draw)}});
     }
 }
 

@@ -1,8 +1,8 @@
-#include "store/sampledata.h"
+#include "sample/sampledata.h"
 
 #include "base/text.h"
-#include "store/samplecompany.h"
-#include "store/statement.h"
+#include "queries/clsCustomQuery.h"
+#include "sample/company.h"
 #include "store/storefile.h"
 #include "store/storesession.h"
 
@@ -39,11 +39,8 @@ constexpr Query queries[] = {
 void fillQueries(StoreSession &store)
 {
     for (const Query &query : queries)
-        store.execute(joined("INSERT INTO Tbl_CustomQuery ([Name],[Description],[SQLString]) "
-                             "VALUES ('{name}','{description}','{statement}')"_L1,
-                             {{"name"_L1, QString(query.name)},
-                              {"description"_L1, escapeQuotes(query.description)},
-                              {"statement"_L1, escapeQuotes(query.statement)}}));
+        store.execute(
+            insertCustomQuery(query.name, escapeQuotes(query.description), escapeQuotes(query.statement)));
 }
 
 } // namespace sample

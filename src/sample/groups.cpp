@@ -1,8 +1,10 @@
-#include "store/samplecompany.h"
+#include "sample/company.h"
 
+#include "folders/clsFolders.h"
+#include "store/clsLocalGroups.h"
+#include "store/clsUsers.h"
 #include "store/groups.h"
 #include "store/relations.h"
-#include "store/statement.h"
 #include "store/storesession.h"
 
 #include <map>
@@ -13,7 +15,6 @@ namespace sample {
 
 namespace {
 
-constexpr int siteCount = int(std::size(sites));
 constexpr int departmentCount = int(std::size(departments));
 constexpr int placeCount = siteCount * departmentCount;
 
@@ -21,8 +22,6 @@ constexpr int usersPerGlobalGroup = 20;
 constexpr int usersPerLocalGroup = 40;
 constexpr int usersPerHome = 4;
 constexpr int usersPerSharedFolder = 4;
-
-enum Kind : quint32 { Membership = 1, LocalGroup, SharedFolder };
 
 /// Objects that every department of every site has one of, then a second, a third ...
 struct Place
@@ -43,11 +42,6 @@ struct Place
     [[nodiscard]] QString server() const { return sites[site].server; }
     [[nodiscard]] QString departmentName() const { return departments[department].name.toString(); }
 };
-
-int ceilingOf(int users, int share)
-{
-    return (users + share - 1) / share;
-}
 
 /// The place of one of the objects of a site's department.
 Place anyOf(int site, int department, int count, Draws &draw)
@@ -72,7 +66,7 @@ int fillGlobalGroups(StoreSession &store, const QList<User> &users)
     QList<QList<int>> members(count);
     for (int i = 0; i < users.size(); ++i) {
         const User &user = users[i];
-        Draws draw(i, Membership);
+        Draws draw(i, Draw::Membership);
         const int own = anyOf(user.site, user.department, count, draw).index(count);
         const int other = anyOf(user.site, draw.below(departmentCount), count, draw).index(count);
         members[own].append(user.id);
@@ -89,9 +83,6 @@ int fillGlobalGroups(StoreSession &store, const QList<User> &users)
     }
     return count;
 }
-
-constexpr RelationStatements globalGroupsOfLocalGroup = {
-    {}, {}, "INSERT INTO Tbl_LocalGroupsGlobalGroups(LocalGroupID,GlobalGroupID) VALUES ({id},{item})"_L1};
 
 struct LocalGroupKind
 {
@@ -114,12 +105,12 @@ int fillLocalGroups(StoreSession &store, const QList<User> &users, int globalGro
         int id = 0;
         addGroup(store, GroupKind::Local, place.server(), numbered(name, place.number / localGroupKindCount),
                  "Permission "_L1 + kind.permission + " on the folders of "_L1 + place.departmentName(), id);
-        Draws draw(i, LocalGroup);
+        Draws draw(i, Draw::LocalGroup);
         QList<int> memberGroups;
         for (int member = 0; member < globalGroupsEach; ++member)
             addUnlessThere(memberGroups,
                            1 + anyOf(place.site, place.department, globalGroups, draw).index(globalGroups));
-        writeRelations(store, globalGroupsOfLocalGroup, id, memberGroups, {}, false);
+        writeGlobalGroupMembers(store, id, memberGroups, false);
         QList<int> members;
         for (int member = 0; member < usersEach; ++member)
             addUnlessThere(members, users[draw.below(int(users.size()))].id);
@@ -128,25 +119,7 @@ int fillLocalGroups(StoreSession &store, const QList<User> &users, int globalGro
     return count;
 }
 
-struct Permissions
-{
-    QList<int> folders;
-    QStringList permissions;
-
-    void add(int folder, const QString &permission)
-    {
-        folders.append(folder);
-        permissions.append(permission);
-    }
-};
-
 using PermissionsById = std::map<int, Permissions>;
-
-constexpr RelationStatements foldersOfUser = {
-    {},
-    {},
-    "INSERT INTO Tbl_UserFolderPermission(UserID,FolderID,Permission) "
-    "VALUES ({id},{item},'{permission}')"_L1};
 
 constexpr QLatin1StringView topics[] = {"Budget"_L1,   "Contracts"_L1, "Minutes"_L1,
                                         "Projects"_L1, "Reports"_L1,   "Templates"_L1};
@@ -170,24 +143,20 @@ public:
         for (int i = 0; i < m_users.size(); i += usersPerHome)
             m_ofUsers[m_users[i].id].add(addFolder(m_users[i].home, {}), u"Full Control"_s);
         for (const auto &[user, given] : m_ofUsers)
-            writeRelations(m_store, foldersOfUser, user, given.folders, given.permissions, false);
+            writeUserFolders(m_store, user, given.ids, given.permissions, false);
         for (const auto &[group, given] : m_ofLocalGroups)
-            writeGroupFolders(m_store, GroupKind::Local, group, given.folders, given.permissions, false);
+            writeGroupFolders(m_store, GroupKind::Local, group, given.ids, given.permissions, false);
         for (const auto &[group, given] : m_ofGlobalGroups)
-            writeGroupFolders(m_store, GroupKind::Global, group, given.folders, given.permissions, false);
+            writeGroupFolders(m_store, GroupKind::Global, group, given.ids, given.permissions, false);
         for (const QString &account :
              {u"Administrators"_s, u"SYSTEM"_s, QString(sites[0].server + "\\Domain Admins"_L1)})
-            m_store.execute(joined("INSERT INTO Tbl_FolderDefaultPermissions ([Account],[Permission]) "
-                                   "VALUES ('{account}','Full Control')"_L1,
-                                   {{"account"_L1, account}}));
+            m_store.execute(insertDefaultFolderPermission(account, u"Full Control"_s));
     }
 
 private:
     int addFolder(const QString &path, const QString &description)
     {
-        m_store.execute(
-            joined("INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('{path}\\','{description}')"_L1,
-                   {{"path"_L1, path}, {"description"_L1, description}}));
+        m_store.execute(insertFolder(path + u'\\', description));
         return ++m_lastId;
     }
 
@@ -204,7 +173,7 @@ private:
         }
         const int folder = addFolder(path, description);
 
-        Draws draw(index, SharedFolder);
+        Draws draw(index, Draw::SharedFolder);
         const int pair = draw.below(ceilingOf(m_localGroups, placeCount * localGroupKindCount));
         for (int kind = 0; kind < localGroupKindCount; ++kind) {
             const Place group = {place.site, place.department, pair * localGroupKindCount + kind};
