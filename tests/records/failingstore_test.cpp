@@ -37,14 +37,19 @@ void folderRecords(jet::Recordset &records)
                 {{u"D:\\New\\"_s, u"R"_s}, {u"D:\\Data\\"_s, u"CH"_s}, {u"D:\\Newer\\"_s, u"L"_s}});
 }
 
-void addUserBatch(const QString &store, QString &told)
+using UserBatch = void (clsUsers::*)(const QString &, jet::Recordset &, bool, int &, int &, int &, QString &,
+                                     const BatchProgress &);
+
+/// A new user, a known one who gets another id, and one more new.
+void addUserBatch(UserBatch batch, std::span<const UserColumn> columns, const QString &store, QString &told)
 {
     QStringList names;
-    for (const UserColumn &column : fileColumns())
+    for (const UserColumn &column : columns)
         names += column.name;
     QList<QStringList> lines;
-    for (const QString &name : {u"dora"_s, u"anna"_s, u"emil"_s}) {
+    for (const auto &[id, name] : {std::pair(u"0"_s, u"dora"_s), {u"90"_s, u"anna"_s}, {u"0"_s, u"emil"_s}}) {
         QStringList line(names.size(), u"0"_s);
+        line[names.indexOf(u"UserID"_s)] = id;
         line[names.indexOf(u"UserName"_s)] = name;
         line[names.indexOf(u"ServerName"_s)] = u"SRV01"_s;
         lines += line;
@@ -54,7 +59,7 @@ void addUserBatch(const QString &store, QString &told)
     int added = 0;
     int updated = 0;
     int failed = 0;
-    clsUsers().AddBatchFromFile(store, records, true, added, updated, failed, told);
+    (clsUsers().*batch)(store, records, false, added, updated, failed, told, {});
 }
 
 constexpr Writer writers[] = {
@@ -100,7 +105,12 @@ constexpr Writer writers[] = {
          clsFolders().AddPermissionsBatch(store, {u"D:\\Data"_s, u"D:\\Admin"_s}, {u"anna"_s, u"Guests"_s},
                                           {u"SRV01"_s, u"SRV02"_s}, {u"CH"_s, u"L"_s}, told);
      }},
-    {"UserBatch", addUserBatch},
+    {"UserBatch", [](const QString &store,
+                     QString &told) { addUserBatch(&clsUsers::AddBatch, liveUpdateColumns(), store, told); }},
+    {"UserFileBatch",
+     [](const QString &store, QString &told) {
+         addUserBatch(&clsUsers::AddBatchFromFile, fileColumns(), store, told);
+     }},
 };
 
 using Case = std::tuple<Fault, Writer>;
@@ -112,22 +122,30 @@ protected:
     static Rows told(const QString &store)
     {
         Rows all;
-        for (
-            const QString &query : {
-                u"SELECT 'user', UserName, ServerName FROM Tbl_Users"_s,
-                u"SELECT 'folder', FolderName, Description FROM Tbl_Folders"_s,
-                u"SELECT 'default', Account, Permission FROM Tbl_FolderDefaultPermissions"_s,
-                u"SELECT 'member', g.Name, u.UserName FROM (Tbl_GlobalGroupsUsers AS m LEFT JOIN "
-                u"Tbl_GlobalGroups "
-                "AS g ON m.GlobalGroupID = g.ID) LEFT JOIN Tbl_Users AS u ON m.UserID = u.UserID"_s,
-                u"SELECT 'user may', u.UserName, f.FolderName, p.Permission FROM (Tbl_UserFolderPermission "
-                u"AS p "
-                "LEFT JOIN Tbl_Users AS u ON p.UserID = u.UserID) LEFT JOIN Tbl_Folders AS f ON p.FolderID = f.ID"_s,
-                u"SELECT 'group may', g.Name, f.FolderName, p.Permission FROM "
-                u"(Tbl_LocalGroupFolderPermission AS p "
-                "LEFT JOIN Tbl_LocalGroups AS g ON p.LocalGroupID = g.ID) LEFT JOIN Tbl_Folders AS f "
-                "ON p.FolderID = f.ID"_s,
-            }) {
+        for (const QString &query : {
+                 u"SELECT 'user', UserName, ServerName FROM Tbl_Users"_s,
+                 u"SELECT 'folder', FolderName, Description FROM Tbl_Folders"_s,
+                 u"SELECT 'default', Account, Permission FROM Tbl_FolderDefaultPermissions"_s,
+                 u"SELECT 'in global', g.Name, u.UserName FROM (Tbl_GlobalGroupsUsers AS m "
+                 "LEFT JOIN Tbl_GlobalGroups AS g ON m.GlobalGroupID = g.ID) "
+                 "LEFT JOIN Tbl_Users AS u ON m.UserID = u.UserID"_s,
+                 u"SELECT 'in local', g.Name, m.UserID FROM Tbl_LocalGroupsUsers AS m "
+                 "LEFT JOIN Tbl_LocalGroups AS g ON m.LocalGroupID = g.ID"_s,
+                 u"SELECT 'in room', m.RoomID, u.UserName FROM Tbl_RoomUsers AS m "
+                 "LEFT JOIN Tbl_Users AS u ON m.UserID = u.UserID"_s,
+                 u"SELECT 'user may', u.UserName, f.FolderName, p.Permission FROM (Tbl_UserFolderPermission "
+                 u"AS p "
+                 "LEFT JOIN Tbl_Users AS u ON p.UserID = u.UserID) "
+                 "LEFT JOIN Tbl_Folders AS f ON p.FolderID = f.ID"_s,
+                 u"SELECT 'local may', g.Name, f.FolderName, p.Permission FROM "
+                 u"(Tbl_LocalGroupFolderPermission AS p "
+                 "LEFT JOIN Tbl_LocalGroups AS g ON p.LocalGroupID = g.ID) "
+                 "LEFT JOIN Tbl_Folders AS f ON p.FolderID = f.ID"_s,
+                 u"SELECT 'global may', g.Name, f.FolderName, p.Permission FROM "
+                 u"(Tbl_GlobalGroupFolderPermission AS p "
+                 "LEFT JOIN Tbl_GlobalGroups AS g ON p.GlobalGroupID = g.ID) "
+                 "LEFT JOIN Tbl_Folders AS f ON p.FolderID = f.ID"_s,
+             }) {
             jet::Recordset records;
             StoreSession(store).open(query, records);
             all += rowsOf(records);
