@@ -202,6 +202,7 @@ void ImportKnownByHand(benchmark::State &state)
 } // namespace
 
 BENCHMARK(ImportNew)->Apply(workbench::sizes);
+BENCHMARK(ImportNew)->Apply(workbench::mostRows);
 BENCHMARK(ImportNewByHand)->Apply(workbench::sizes);
 BENCHMARK(ImportKnown)->Apply(workbench::sizes);
 BENCHMARK(ImportKnownByHand)->Apply(workbench::sizes);

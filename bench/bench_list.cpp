@@ -131,10 +131,6 @@ void MemoryOfAllUsers(benchmark::State &state)
 BENCHMARK(GetAll)->Apply(workbench::sizes);
 BENCHMARK(GetAllByHand)->Apply(workbench::sizes);
 BENCHMARK(OpenAllUsers)->Apply(workbench::sizes);
-BENCHMARK(MemoryOfAllUsers)
-    ->Arg(100'000)
-    ->Unit(benchmark::kMillisecond)
-    ->UseManualTime()
-    ->Iterations(1)
-    ->Repetitions(3)
-    ->ReportAggregatesOnly();
+BENCHMARK(MemoryOfAllUsers)->Apply([](auto *benchmark) {
+    workbench::timedByStep(benchmark->Arg(workbench::many), 3);
+});

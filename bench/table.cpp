@@ -2,6 +2,7 @@
 
 #include "plan.h"
 #include "readers.h"
+#include "workbench.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -30,9 +31,12 @@ constexpr Comparison comparisons[] = {
     {"`AddPermissionsBatch`", "AddPermissionsBatch", "AddPermissionsBatchByHand", 2, false},
 };
 
-constexpr int few = 10'000;
-constexpr int many = 100'000;
+using workbench::few;
+using workbench::many;
+using workbench::most;
+
 constexpr double memoryGoal = 4;
+constexpr double fileMemoryGoal = 3;
 constexpr double growthGoal = 1.3;
 constexpr double readerGoal = 2;
 
@@ -90,13 +94,27 @@ std::string TableReporter::table() const
                               perRow(floor->milliseconds, rows), ours->milliseconds / floor->milliseconds,
                               comparison.goal);
         }
+    const auto addGrowth = [&](const std::string &subject, int rows) {
+        const Measured *large = find(subject, rows);
+        const Measured *small = find(subject, few);
+        if (large && small)
+            table += line(subject + ": at " + std::to_string(rows) + " rows, against at 10000", "",
+                          perRow(large->milliseconds, rows), perRow(small->milliseconds, few),
+                          large->milliseconds / rows / (small->milliseconds / few), growthGoal);
+    };
     for (const Comparison &comparison : comparisons) {
-        const Measured *large = find(comparison.subject, many);
-        const Measured *small = find(comparison.subject, few);
-        if (large && small && comparison.growth)
-            table += line(std::string(comparison.subject) + ": at 100000 rows, against at 10000", "",
-                          perRow(large->milliseconds, many), perRow(small->milliseconds, few),
-                          large->milliseconds / many / (small->milliseconds / few), growthGoal);
+        if (!comparison.growth)
+            continue;
+        addGrowth(comparison.subject, many);
+        addGrowth(comparison.subject, most);
+    }
+    addGrowth("ImportFile", most);
+    if (const Measured *file = find("ImportFile", most)) {
+        const double bytes = file->counters.at("bytes");
+        const double size = file->counters.at("file");
+        table += line("greatest memory of importing a file, against the file", std::to_string(most),
+                      withUnit(bytes / most, "bytes"), withUnit(size / most, "bytes"), bytes / size,
+                      fileMemoryGoal);
     }
     if (const Measured *memory = find("MemoryOfAllUsers", many)) {
         const double bytes = memory->counters.at("bytes");

@@ -14,20 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace workbench {
 
-namespace {
-
-QString freshPath()
+QString freshPath(const QString &suffix)
 {
     static const QTemporaryDir folder;
     static int count = 0;
-    return folder.filePath(QString::number(++count) + ".mdb"_L1);
+    return folder.filePath(QString::number(++count) + u'.' + suffix);
 }
-
-} // namespace
 
 QString emptyStore()
 {
-    const QString path = freshPath();
+    const QString path = freshPath(u"mdb"_s);
     createStore(path);
     return path;
 }
@@ -37,7 +33,7 @@ const QString &sampleStore(int users)
     static std::map<int, QString> stores;
     QString &path = stores[users];
     if (path.isEmpty()) {
-        path = freshPath();
+        path = freshPath(u"mdb"_s);
         createSampleStore(path, users);
     }
     return path;
@@ -45,7 +41,7 @@ const QString &sampleStore(int users)
 
 QString copyOf(const QString &store)
 {
-    const QString path = freshPath();
+    const QString path = freshPath(u"mdb"_s);
     if (!QFile::copy(store, path))
         raise(FileAccessError, "Path/File access error: "_L1 + path);
     return path;

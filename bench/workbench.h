@@ -10,6 +10,8 @@
 /// What all benchmarks share: stores in a folder that vanishes, and a clock around the step that counts.
 namespace workbench {
 
+/// A path in the folder that vanishes, where nothing stands.
+[[nodiscard]] QString freshPath(const QString &suffix);
 /// A new, empty store at a path of its own.
 [[nodiscard]] QString emptyStore();
 /// The sample company of so many users, made once; nobody writes to it.
@@ -22,11 +24,26 @@ void removeStore(const QString &path);
 /// text.
 void measure(benchmark::State &state, const std::function<void()> &step);
 
-/// Rows that the benchmarks run with.
+inline void timedByStep(benchmark::internal::Benchmark *benchmark, int repetitions)
+{
+    benchmark->UseManualTime()->Unit(benchmark::kMillisecond);
+    benchmark->Iterations(1)->Repetitions(repetitions)->ReportAggregatesOnly();
+}
+
+// Rows that the benchmarks run with.
+
+inline constexpr int few = 10'000;
+inline constexpr int many = 100'000;
+inline constexpr int most = 1'000'000;
+
 inline void sizes(benchmark::internal::Benchmark *benchmark)
 {
-    benchmark->Arg(10'000)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
-    benchmark->Iterations(1)->Repetitions(5)->ReportAggregatesOnly();
+    timedByStep(benchmark->Arg(few)->Arg(many), 5);
+}
+
+inline void mostRows(benchmark::internal::Benchmark *benchmark)
+{
+    timedByStep(benchmark->Arg(most), 3);
 }
 
 } // namespace workbench
