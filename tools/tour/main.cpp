@@ -3,9 +3,9 @@
 
 #include "base/error.h"
 #include "platform/settings/settings.h"
+#include "sample/sampledata.h"
 #include "session/identity.h"
 #include "session/modRegistry.h"
-#include "sample/sampledata.h"
 
 #include <QApplication>
 #include <QDir>
