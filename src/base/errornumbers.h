@@ -1,7 +1,9 @@
 #pragma once
 
-/// Error numbers of the program's own doing that more than one folder raises or tests. Those of
+/// Error numbers of the program's own doing that more than one file raises or tests. Those of
 /// the store engine are in platform/jet/errors.h, that of the store's rules is RuleViolation.
 inline constexpr int OutOfMemory = 7;
 /// A file that cannot be read or written; the text names it.
 inline constexpr int FileAccessError = 75;
+/// A row, column or panel that a control does not have.
+inline constexpr int IndexOutOfBounds = 35600;

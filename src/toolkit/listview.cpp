@@ -1,6 +1,7 @@
 #include "toolkit/listview.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 #include "toolkit/imagelist.h"
 #include "toolkit/listmodel.h"
 

@@ -10,9 +10,6 @@
 
 class ListModel;
 
-/// What a row or column number raises that the list does not have.
-inline constexpr int IndexOutOfBounds = 35600;
-
 /// A report-style list with multiple selection: columns with a heading and a width, rows
 /// by index from 0. Column 0 is the item text, sub-item n is column n.
 ///

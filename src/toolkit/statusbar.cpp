@@ -1,6 +1,7 @@
 #include "toolkit/statusbar.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 #include "toolkit/imagelist.h"
 
 #include <QEvent>
@@ -14,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr int pictureSize = 16;
 constexpr int spacing = 4;
-constexpr int indexOutOfBounds = 35600;
 constexpr int narrowest = 76; // percent
 constexpr int narrowing = 3;
 
@@ -101,7 +101,7 @@ StatusBar::StatusBar(int panels, QWidget *parent) : QStatusBar(parent)
 StatusBar::Panel &StatusBar::panelAt(int panel) const
 {
     if (panel < 1 || panel > panelCount())
-        ::raise(indexOutOfBounds,
+        ::raise(IndexOutOfBounds,
                 u"Index out of bounds: the status bar has no panel "_s % QString::number(panel));
     return *m_panels[std::size_t(panel) - 1];
 }

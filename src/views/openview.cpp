@@ -24,9 +24,6 @@ void openListRecordset(ListRecordset &recordset)
     showStatusReading();
     // Only now: a command that ran inside the yield may have used the variable.
     recordset = std::make_unique<jet::Recordset>();
-    recordset->cursorType = 0;
-    recordset->cursorLocation = 3;
-    recordset->lockType = 1;
 }
 
 void closeListRecordset(ListRecordset &recordset)

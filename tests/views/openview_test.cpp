@@ -30,7 +30,6 @@ TEST_F(OpenViewTest, TheWholePathOfAView)
             readingText = window->mainStatusBar().panelText(1);
             hourglass = isHourglassShown();
             connectionRead = connectionString;
-            EXPECT_EQ(recordset.cursorLocation, 3);
             fill(recordset, fields, {{Value(1), Value(u"Admins"_s), Value(u"SRV"_s), Value(u"text"_s)}});
         });
     EXPECT_EQ(readingText, u"Reading Data. Please stand by"_s);
