@@ -156,6 +156,11 @@ private:
     std::string insertedRows(const Insert &insert, std::vector<const TableColumn *> &columns,
                              const Table &table);
 
+    /// Of a condition in SQLite's words.
+    static Piece conditionPiece(std::string sql)
+    {
+        return {.sql = std::move(sql), .type = {DataType::Short}, .condition = true};
+    }
     static std::string value(const Piece &piece);
     static std::string condition(const Piece &piece);
     static std::string collated(const Piece &piece);

@@ -86,9 +86,7 @@ Emitter::Piece Emitter::call(const Expression &source, Scope &scope)
     if (sameWord(source.name, "IsNull")) {
         if (source.arguments.size() != 1)
             raiseArgumentCount(source);
-        return {.sql = '(' + value(expression(*source.arguments[0], scope)) + " IS NULL)",
-                .type = {DataType::Short},
-                .condition = true};
+        return conditionPiece('(' + value(expression(*source.arguments[0], scope)) + " IS NULL)");
     }
     return function(source, scope);
 }

@@ -151,9 +151,7 @@ Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
         return {.sql = "(~" + asBits(expression(*source.arguments[0], scope)) + ')',
                 .type = {DataType::Long}};
     case ExpressionKind::Not:
-        return {.sql = "(NOT " + conditionIn(*source.arguments[0], scope) + ')',
-                .type = {DataType::Short},
-                .condition = true};
+        return conditionPiece("(NOT " + conditionIn(*source.arguments[0], scope) + ')');
     case ExpressionKind::Arithmetic:
         return arithmetic(source, scope);
     case ExpressionKind::Join:
@@ -165,10 +163,8 @@ Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
     case ExpressionKind::Like: {
         const std::string text = asText(expression(*source.arguments[0], scope));
         const std::string pattern = asText(expression(*source.arguments[1], scope));
-        return {.sql =
-                    std::string(source.negated ? "(NOT " : "(") + "jet_like(" + text + ", " + pattern + "))",
-                .type = {DataType::Short},
-                .condition = true};
+        return conditionPiece(std::string(source.negated ? "(NOT " : "(") + "jet_like(" + text + ", " +
+                              pattern + "))");
     }
     case ExpressionKind::Between:
         return between(source, scope);
@@ -176,9 +172,7 @@ Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
         return inList(source, scope);
     case ExpressionKind::IsNull: {
         const Piece operand = expression(*source.arguments[0], scope);
-        return {.sql = '(' + value(operand) + (source.negated ? " IS NOT NULL)" : " IS NULL)"),
-                .type = {DataType::Short},
-                .condition = true};
+        return conditionPiece('(' + value(operand) + (source.negated ? " IS NOT NULL)" : " IS NULL)"));
     }
     case ExpressionKind::Exists:
     case ExpressionKind::InQuery:
@@ -305,9 +299,7 @@ Emitter::Piece Emitter::compare(const Expression &source, Scope &scope)
     requireComparable(source, left, right);
     // A column's own collation serves; two expressions need it told.
     const std::string a = left.column || right.column ? value(left) : collated(left);
-    return {.sql = '(' + a + ' ' + std::string(source.name) + ' ' + value(right) + ')',
-            .type = {DataType::Short},
-            .condition = true};
+    return conditionPiece('(' + a + ' ' + std::string(source.name) + ' ' + value(right) + ')');
 }
 
 Emitter::Piece Emitter::between(const Expression &source, Scope &scope)
@@ -318,11 +310,9 @@ Emitter::Piece Emitter::between(const Expression &source, Scope &scope)
     requireComparable(source, operand, low);
     requireComparable(source, operand, high);
     requireComparable(source, low, high);
-    return {.sql = '(' + collated(operand) + (source.negated ? " NOT" : "") + " BETWEEN MIN(" +
-                   collated(low) + ", " + value(high) + ") AND MAX(" + collated(low) + ", " + value(high) +
-                   "))",
-            .type = {DataType::Short},
-            .condition = true};
+    return conditionPiece('(' + collated(operand) + (source.negated ? " NOT" : "") + " BETWEEN MIN(" +
+                          collated(low) + ", " + value(high) + ") AND MAX(" + collated(low) + ", " +
+                          value(high) + "))");
 }
 
 Emitter::Piece Emitter::inList(const Expression &source, Scope &scope)
@@ -343,7 +333,7 @@ Emitter::Piece Emitter::inList(const Expression &source, Scope &scope)
         sql = '(' + left + " IS NOT NULL)";
     else
         sql = '(' + left + (source.negated ? " NOT IN (" : " IN (") + list + "))";
-    return {.sql = sql, .type = {DataType::Short}, .condition = true};
+    return conditionPiece(sql);
 }
 
 } // namespace jet

@@ -131,7 +131,7 @@ Emitter::Piece Emitter::logic(const Expression &source, Scope &scope)
         sql = "((NOT " + operands[0] + ") OR " + operands[1] + ')';
     else
         sql = "((NOT " + operands[0] + (word == "XOR" ? ") <> (NOT " : ") = (NOT ") + operands[1] + "))";
-    return {.sql = sql, .type = {DataType::Short}, .condition = true};
+    return conditionPiece(sql);
 }
 
 } // namespace jet

@@ -1,6 +1,8 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
 
+#include <algorithm>
+
 namespace jet {
 
 Emitter::Rows Emitter::singleColumn(const Expression &source, Scope &scope, bool numbered)
@@ -18,38 +20,48 @@ Emitter::Rows Emitter::singleColumn(const Expression &source, Scope &scope, bool
 Emitter::Piece Emitter::subquery(const Expression &source, Scope &scope)
 {
     if (source.kind == ExpressionKind::Exists)
-        return {.sql = "EXISTS (" + query(*source.query, &scope).sql + ')',
-                .type = {DataType::Short},
-                .condition = true};
+        return conditionPiece("EXISTS (" + query(*source.query, &scope).sql + ')');
     const Piece operand = expression(*source.arguments[0], scope);
     const Rows rows = singleColumn(source, scope, false);
     requireComparable(source, operand, {.sql = {}, .type = rows.columns[0].type});
-    return {.sql = '(' + collated(operand) + (source.negated ? " NOT IN (" : " IN (") + rows.sql + "))",
-            .type = {DataType::Short},
-            .condition = true};
+    return conditionPiece('(' + collated(operand) + (source.negated ? " NOT IN (" : " IN (") + rows.sql +
+                          "))");
 }
 
-// Null comes out when no row decides and one of them compares with Null.
+// ALL compares with the outermost of the rows; a Null among them leaves open what would be
+// true, and no rows make it true. ANY is what ALL of the opposite is not.
 Emitter::Piece Emitter::quantified(const Expression &source, Scope &scope)
 {
+    struct Comparison
+    {
+        std::string_view name;
+        std::string_view opposite;
+        const char *outermost; ///< of the rows: null for both of them
+    };
+    static constexpr Comparison comparisons[] = {
+        {"<", ">=", "MIN"}, {"<=", ">", "MIN"},   {">", "<=", "MAX"},
+        {">=", "<", "MAX"}, {"=", "<>", nullptr}, {"<>", "=", nullptr},
+    };
     const Piece operand = expression(*source.arguments[0], scope);
     const Rows rows = singleColumn(source, scope, true);
-    requireComparable(source, operand, {.sql = {}, .type = rows.columns[0].type});
+    const Piece item{.sql = "\"c0\"", .type = rows.columns[0].type};
+    requireComparable(source, operand, item);
     if (source.name == (source.all ? "<>" : "="))
-        return {.sql = '(' + collated(operand) + (source.all ? " NOT IN (" : " IN (") + rows.sql + "))",
-                .type = {DataType::Short},
-                .condition = true};
-    const std::string name = quotedName("%any" + std::to_string(++m_subqueries));
-    const std::string test =
-        '(' + collated(operand) + ' ' + std::string(source.name) + ' ' + name + ".\"c0\")";
-    const auto some = [&](const char *answer) {
-        return "EXISTS (SELECT 1 FROM (" + rows.sql + ") AS " + name + " WHERE " + test + answer + ')';
+        return conditionPiece('(' + collated(operand) + (source.all ? " NOT IN (" : " IN (") + rows.sql +
+                              "))");
+    const auto named = [](std::string_view name) {
+        return std::ranges::find(comparisons, name, &Comparison::name);
     };
-    return {.sql = "(CASE WHEN " + some(source.all ? " IS FALSE" : " IS TRUE") + " THEN " +
-                   (source.all ? "0" : "1") + " WHEN " + some(" IS NULL") + " THEN NULL ELSE " +
-                   (source.all ? "1" : "0") + " END)",
-            .type = {DataType::Short},
-            .condition = true};
+    const Comparison &comparison = *named(source.all ? source.name : named(source.name)->opposite);
+    const auto holds = [&](const char *outermost) {
+        return '(' + collated(operand) + ' ' + std::string(comparison.name) + " (SELECT " + outermost + '(' +
+               collated(item) + ") FROM (" + rows.sql + ")))";
+    };
+    const std::string test =
+        comparison.outermost != nullptr ? holds(comparison.outermost) : holds("MIN") + " AND " + holds("MAX");
+    return conditionPiece(std::string(source.all ? "(" : "(NOT ") + "(NOT EXISTS (" + rows.sql + ") OR (" +
+                          test + " AND (SELECT NULLIF(COUNT(\"c0\") = COUNT(*), 0) FROM (" + rows.sql +
+                          ")))))");
 }
 
 Emitter::Piece Emitter::scalar(const Expression &source, Scope &scope)
