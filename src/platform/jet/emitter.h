@@ -95,15 +95,20 @@ private:
     std::string groupsOf(const Select &select, Scope &scope);
     std::string orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
                          Scope &scope);
-    std::string distinctRows(const Select &select, const Scope &scope) const;
+    std::string distinctRows(const Select &select, Scope &scope) const;
     std::string withTop(const Select &select, const std::string &rows, const std::vector<Output> &outputs,
                         const std::vector<OrderItem> &order, std::size_t keys, bool numbered) const;
     static std::string outputName(const Output &output, std::size_t index, bool numbered);
 
     // emitter_from.cpp
     void addSources(const Source &source, Scope &scope);
+    void addSources(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope);
     std::string from(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope);
+    /// Has the table give its row id to the text of from(), and returns its name there.
+    std::string rowIdOf(const ScopeSource &source, const std::vector<std::unique_ptr<Source>> &sources,
+                        Scope &scope) const;
     std::string joined(const Source &source, Scope &scope);
+    std::string joinCondition(const Source &join, Scope &scope);
     void innerParts(const Source &source, Scope &scope, std::vector<std::string> &tables,
                     std::vector<std::string> &conditions);
 

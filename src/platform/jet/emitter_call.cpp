@@ -7,7 +7,7 @@
 namespace jet {
 namespace {
 
-enum class AggregateType { Count, Double, SameAsArgument };
+enum class AggregateType { Count, Double, SameAsArgument, OfOneRow };
 
 struct AggregateRow
 {
@@ -23,8 +23,8 @@ constexpr AggregateRow aggregates[] = {
     {"Avg", "AVG", AggregateType::Double, true},
     {"Min", "MIN", AggregateType::SameAsArgument, false},
     {"Max", "MAX", AggregateType::SameAsArgument, false},
-    {"First", "jet_first", AggregateType::SameAsArgument, false},
-    {"Last", "jet_last", AggregateType::SameAsArgument, false},
+    {"First", "jet_first", AggregateType::OfOneRow, false},
+    {"Last", "jet_last", AggregateType::OfOneRow, false},
     {"StDev", "jet_stdev", AggregateType::Double, true},
     {"StDevP", "jet_stdevp", AggregateType::Double, true},
     {"Var", "jet_var", AggregateType::Double, true},
@@ -111,14 +111,22 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
     const Piece operand = expression(*source.arguments[0], scope);
     scope.borrowed.resize(borrowed); // within an aggregate a sub-query may read any column
     m_aggregates = Aggregates::Allowed;
-    const std::string sql =
-        std::string(row.sqlite) + '(' + (row.numbers ? asNumber(operand) : collated(operand)) + ')';
+    std::string list = row.numbers ? asNumber(operand) : collated(operand);
+    // SQLite adds whole numbers up in 64 bits and raises beyond.
+    if (row.type == AggregateType::Double && !isLong(operand.type.type))
+        list = "1.0 * " + list;
+    // Without a row id beside it, SQLite would read the rows in the order of an index.
+    if (row.type == AggregateType::OfOneRow && scope.sources.size() == 1 && scope.sources[0].isTable())
+        list += ", " + quotedName(scope.sources[0].name) + '.' +
+                std::string(rowIdName(m_catalog.table(scope.sources[0].table)));
+    const std::string sql = std::string(row.sqlite) + '(' + list + ')';
     switch (row.type) {
     case AggregateType::Count:
         return {.sql = sql, .type = {DataType::Long}};
     case AggregateType::Double:
         return {.sql = sql, .type = {DataType::Double}, .mayOverflow = true};
     case AggregateType::SameAsArgument:
+    case AggregateType::OfOneRow:
         break;
     }
     const ColumnType type{operand.type.type == DataType::Counter ? DataType::Long : operand.type.type,

@@ -1,7 +1,43 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
 
+#include <algorithm>
+
 namespace jet {
+namespace {
+
+constexpr std::string_view unnamedQuery = "%query";
+
+bool hasJoin(const std::unique_ptr<Source> &source)
+{
+    return source->left != nullptr;
+}
+
+bool hasOuterJoin(const std::unique_ptr<Source> &source)
+{
+    return hasJoin(source) &&
+           (source->join != JoinKind::Inner || hasOuterJoin(source->left) || hasOuterJoin(source->right));
+}
+
+void collectColumns(const Expression &expression, std::vector<const Expression *> &columns)
+{
+    if (expression.kind == ExpressionKind::Column)
+        columns.push_back(&expression);
+    for (const ExpressionPtr &argument : expression.arguments)
+        collectColumns(*argument, columns);
+}
+
+/// Whether the table or query of that name is one of those joined.
+bool joins(const Source &source, const ScopeSource &sought)
+{
+    if (source.left)
+        return joins(*source.left, sought) || joins(*source.right, sought);
+    if (source.query && source.alias.empty())
+        return sought.name.starts_with(unnamedQuery);
+    return sameWord(source.alias.empty() ? source.table : source.alias, sought.name);
+}
+
+} // namespace
 
 void Emitter::addSources(const Source &source, Scope &scope)
 {
@@ -15,8 +51,8 @@ void Emitter::addSources(const Source &source, Scope &scope)
         const Rows rows = query(*source.query, scope.outer);
         for (const OutputColumn &column : rows.columns)
             entry.columns.push_back({column.name, column.type, false});
-        entry.name =
-            source.alias.empty() ? "%query" + std::to_string(++m_subqueries) : std::string(source.alias);
+        entry.name = source.alias.empty() ? std::string(unnamedQuery) + std::to_string(++m_subqueries)
+                                          : std::string(source.alias);
         m_derivedTables[&source] = '(' + rows.sql + ") AS " + quotedName(entry.name);
     } else {
         const Table &table = m_catalog.table(source.table);
@@ -30,14 +66,45 @@ void Emitter::addSources(const Source &source, Scope &scope)
     scope.sources.push_back(std::move(entry));
 }
 
-std::string Emitter::from(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope)
+void Emitter::addSources(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope)
 {
     for (const std::unique_ptr<Source> &source : sources)
         addSources(*source, scope);
+}
+
+std::string Emitter::from(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope)
+{
     std::string sql;
     for (const std::unique_ptr<Source> &source : sources) {
         const std::string part = joined(*source, scope);
         sql += sql.empty() ? part : source->left ? " CROSS JOIN (" + part + ')' : " CROSS JOIN " + part;
+    }
+    return sql;
+}
+
+std::string Emitter::rowIdOf(const ScopeSource &source, const std::vector<std::unique_ptr<Source>> &sources,
+                             Scope &scope) const
+{
+    const std::string rowId(rowIdName(m_catalog.table(source.table)));
+    // SQLite knows no row ids of the tables of a join in parentheses.
+    const bool nested = sources.size() > 1 ? std::ranges::any_of(sources, hasJoin) : hasOuterJoin(sources[0]);
+    scope.sources[std::size_t(&source - scope.sources.data())].givesRowId = nested;
+    return quotedName(source.name) + '.' + (nested ? "\"%row\"" : rowId);
+}
+
+// What stands outside of a join is not known in its condition.
+std::string Emitter::joinCondition(const Source &join, Scope &scope)
+{
+    const std::size_t before = scope.borrowed.size();
+    std::string sql = conditionOf(*join.on, scope, "JOIN operation");
+    std::vector<const Expression *> columns(scope.borrowed.begin() + std::ptrdiff_t(before),
+                                            scope.borrowed.end());
+    collectColumns(*join.on, columns);
+    for (const Expression *column : columns) {
+        const Scope::Found found = scope.find(column->qualifier, column->name);
+        if (found.source != nullptr && !joins(join, *found.source))
+            raiseError(SyntaxError, "Join expression not supported. '" + excerpt(column->text) +
+                                        "' is not a field of the tables that are joined here.");
     }
     return sql;
 }
@@ -54,7 +121,7 @@ void Emitter::innerParts(const Source &source, Scope &scope, std::vector<std::st
     }
     innerParts(*source.left, scope, tables, conditions);
     innerParts(*source.right, scope, tables, conditions);
-    conditions.push_back(conditionOf(*source.on, scope, "JOIN operation"));
+    conditions.push_back(joinCondition(source, scope));
 }
 
 std::string Emitter::joined(const Source &source, Scope &scope)
@@ -63,7 +130,11 @@ std::string Emitter::joined(const Source &source, Scope &scope)
         if (source.query)
             return m_derivedTables.at(&source);
         const Table &table = m_catalog.table(source.table);
+        const ScopeSource &entry = *scope.source(source.alias.empty() ? table.name : source.alias);
         std::string sql = quotedName(table.name);
+        if (entry.givesRowId)
+            return "(SELECT " + std::string(rowIdName(table)) + " AS \"%row\", * FROM " + sql + ") AS " +
+                   quotedName(entry.name);
         if (!source.alias.empty())
             sql += " AS " + quotedName(source.alias);
         return sql;
@@ -84,7 +155,7 @@ std::string Emitter::joined(const Source &source, Scope &scope)
     if (source.right->left)
         right = '(' + right + ')';
     return joined(*source.left, scope) + (source.join == JoinKind::Left ? " LEFT JOIN " : " RIGHT JOIN ") +
-           right + " ON " + conditionOf(*source.on, scope, "JOIN operation");
+           right + " ON " + joinCondition(source, scope);
 }
 
 } // namespace jet

@@ -22,6 +22,17 @@ bool isPosition(const OrderItem &item, const std::vector<Literal> &literals)
            literals[std::size_t(item.expression->literal)].kind == TokenKind::Integer;
 }
 
+/// Whether a column of the source stands in the expression; a sub-query may hold any.
+bool uses(const Expression &expression, const ScopeSource &source, const Scope &scope)
+{
+    if (expression.query)
+        return true;
+    if (expression.kind == ExpressionKind::Column)
+        return scope.find(expression.qualifier, expression.name).source == &source;
+    return std::ranges::any_of(expression.arguments,
+                               [&](const ExpressionPtr &argument) { return uses(*argument, source, scope); });
+}
+
 [[noreturn]] void raiseNoSuchPosition(std::string_view text)
 {
     raiseError(SyntaxError,
@@ -53,6 +64,7 @@ std::vector<OutputColumn> Emitter::unionColumns(const std::vector<Rows> &arms)
             ColumnType &type = columns[i].type;
             const ColumnType other = arm.columns[i].type;
             type = {commonType(type.type, other.type), std::max(type.width, other.width)};
+            columns[i].stored = columns[i].stored && arm.columns[i].stored;
         }
     }
     return columns;
@@ -217,15 +229,18 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
 {
     Scope scope;
     scope.outer = outer;
+    addSources(select.from, scope);
+    const std::string rowGroups = select.distinctRow ? distinctRows(select, scope) : std::string();
     const std::string source = from(select.from, scope);
+    scope.borrowed.clear(); // sub-queries before the grouping may use any column
     std::vector<Output> columns = outputs(select, scope);
+    const bool listHasAggregate = scope.hasAggregate;
     if (select.from.empty() && select.where)
         raiseError(SyntaxError, "Query input must contain at least one table or query.");
 
     std::string tail;
     if (!source.empty())
         tail += " FROM " + source;
-    // Sub-queries before the grouping may use any column.
     const std::size_t borrowed = scope.borrowed.size();
     if (select.where)
         tail += " WHERE " + conditionOf(*select.where, scope, "WHERE clause");
@@ -238,7 +253,12 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     for (const OrderItem &item : order)
         keys.push_back(orderKey(item, columns, select, scope));
     checkGrouping(select, columns, order, scope);
-    tail += groups.empty() ? distinctRows(select, scope) : groups;
+    // SQLite makes one group of all rows only where the list itself holds an aggregate.
+    if (select.groupBy.empty() && !listHasAggregate && (scope.hasAggregate || select.having)) {
+        Piece &first = columns.front().piece;
+        first = {.sql = "(CASE WHEN COUNT(*) >= 0 THEN " + value(first) + " END)", .type = first.type};
+    }
+    tail += groups.empty() && !scope.hasAggregate ? rowGroups : groups;
 
     const bool ranked = select.top && (select.percent || !order.empty());
     Rows result;
@@ -281,8 +301,6 @@ std::string Emitter::groupsOf(const Select &select, Scope &scope)
 std::string Emitter::orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
                               Scope &scope)
 {
-    std::string key;
-    std::string distinctKey;
     if (isPosition(item, m_literals)) {
         pin(item.expression->literal);
         const double position = m_literals[std::size_t(item.expression->literal)].number;
@@ -290,7 +308,7 @@ std::string Emitter::orderKey(const OrderItem &item, const std::vector<Output> &
             raiseNoSuchPosition(item.expression->text);
         return collated(outputs[static_cast<std::size_t>(position) - 1].piece);
     }
-    key = collated(expression(*item.expression, scope));
+    std::string key = collated(expression(*item.expression, scope));
     if (select.distinct) {
         const std::string wanted = fingerprint(*item.expression, scope);
         const bool selected = std::any_of(outputs.begin(), outputs.end(), [&](const Output &output) {
@@ -343,25 +361,18 @@ void Emitter::checkGrouped(const Expression &source, const std::set<std::string>
         checkGrouped(*argument, keys, scope);
 }
 
-std::string Emitter::distinctRows(const Select &select, const Scope &scope) const
+// Groups by the rows of the tables that are shown in part of the columns; nothing where all are.
+std::string Emitter::distinctRows(const Select &select, Scope &scope) const
 {
-    if (!select.distinctRow || scope.hasAggregate)
-        return {};
     std::string shown;
     bool allShown = true;
     for (const ScopeSource &source : scope.sources) {
-        const bool selected =
-            std::any_of(select.items.begin(), select.items.end(), [&](const SelectItem &item) {
-                if (!item.expression)
-                    return item.starOf.empty() || sameWord(item.starOf, source.name);
-                if (item.expression->kind != ExpressionKind::Column)
-                    return true;
-                const Scope::Found found = scope.find(item.expression->qualifier, item.expression->name);
-                return found.source == &source;
-            });
+        const bool selected = std::ranges::any_of(select.items, [&](const SelectItem &item) {
+            return item.expression ? uses(*item.expression, source, scope)
+                                   : item.starOf.empty() || sameWord(item.starOf, source.name);
+        });
         if (selected && source.isTable())
-            shown += (shown.empty() ? " GROUP BY " : ", ") + quotedName(source.name) + '.' +
-                     std::string(rowIdName(m_catalog.table(source.table)));
+            shown += (shown.empty() ? " GROUP BY " : ", ") + rowIdOf(source, select.from, scope);
         else
             allShown = false;
     }

@@ -255,7 +255,7 @@ std::string Emitter::insertedRows(const Insert &insert, std::vector<const TableC
 void Emitter::write(const Update &update, EmittedStatement &result)
 {
     Scope scope;
-    const std::string source = from(update.sources, scope);
+    addSources(update.sources, scope);
     m_clause = "UPDATE statement";
     const ScopeSource *target = nullptr;
     std::string assignments;
@@ -283,16 +283,18 @@ void Emitter::write(const Update &update, EmittedStatement &result)
         values += ", " + changed + " AS " + name;
     }
     const std::string where = this->where(update.where, scope);
+    const std::string row = workedOutFirst ? rowIdOf(*target, update.sources, scope) : std::string();
+    const std::string source = from(update.sources, scope);
     result.writes = true;
     if (!workedOutFirst) {
         result.sql = "UPDATE " + source + " SET " + assignments + where;
         return;
     }
     // Which rows change, and to what, is worked out before the first of them changes.
-    const std::string rowId = '.' + std::string(rowIdName(m_catalog.table(target->table)));
     result.sql = "UPDATE " + quotedName(target->table) + " AS \"%target\" SET " + assignments +
-                 " FROM (SELECT " + quotedName(target->name) + rowId + " AS \"%row\"" + values + " FROM " +
-                 source + where + ") AS \"%rows\" WHERE \"%target\"" + rowId + " = \"%rows\".\"%row\"";
+                 " FROM (SELECT " + row + " AS \"%row\"" + values + " FROM " + source + where +
+                 ") AS \"%rows\" WHERE \"%target\"." +
+                 std::string(rowIdName(m_catalog.table(target->table))) + " = \"%rows\".\"%row\"";
 }
 
 std::string Emitter::where(const ExpressionPtr &condition, Scope &scope)
@@ -303,7 +305,7 @@ std::string Emitter::where(const ExpressionPtr &condition, Scope &scope)
 void Emitter::write(const Delete &statement, EmittedStatement &result)
 {
     Scope scope;
-    const std::string source = from(statement.sources, scope);
+    addSources(statement.sources, scope);
     const std::string where = this->where(statement.where, scope);
     result.writes = true;
     const bool joinedTables = scope.sources.size() > 1;
@@ -316,12 +318,13 @@ void Emitter::write(const Delete &statement, EmittedStatement &result)
     if (target == nullptr || !target->isTable())
         raiseError(Failure, "Could not delete from specified tables.");
     if (!joinedTables) {
-        result.sql = "DELETE FROM " + source + where;
+        result.sql = "DELETE FROM " + from(statement.sources, scope) + where;
         return;
     }
-    const std::string rowId(rowIdName(m_catalog.table(target->table)));
-    result.sql = "DELETE FROM " + quotedName(target->table) + " WHERE " + rowId + " IN (SELECT " +
-                 quotedName(target->name) + '.' + rowId + " FROM " + source + where + ')';
+    const std::string row = rowIdOf(*target, statement.sources, scope);
+    result.sql = "DELETE FROM " + quotedName(target->table) + " WHERE " +
+                 std::string(rowIdName(m_catalog.table(target->table))) + " IN (SELECT " + row + " FROM " +
+                 from(statement.sources, scope) + where + ')';
 }
 
 void Emitter::write(const CreateTable &table, EmittedStatement &result)

@@ -12,22 +12,22 @@ namespace {
 struct Kept
 {
     sqlite3_value *value;
+    sqlite3_int64 row;
 };
 
-void keepFirst(sqlite3_context *context, int, sqlite3_value **values)
-{
-    auto *kept = static_cast<Kept *>(sqlite3_aggregate_context(context, sizeof(Kept)));
-    if (kept && !kept->value)
-        kept->value = sqlite3_value_dup(values[0]);
-}
-
-void keepLast(sqlite3_context *context, int, sqlite3_value **values)
+/// The value of the first or the last row: by the row id where one is handed over, otherwise as they come.
+template <bool Last>
+void keep(sqlite3_context *context, int count, sqlite3_value **values)
 {
     auto *kept = static_cast<Kept *>(sqlite3_aggregate_context(context, sizeof(Kept)));
     if (!kept)
         return;
+    const sqlite3_int64 row = count > 1 ? sqlite3_value_int64(values[1]) : 0;
+    if (kept->value && !(Last ? row >= kept->row : row < kept->row))
+        return;
     sqlite3_value_free(kept->value);
     kept->value = sqlite3_value_dup(values[0]);
+    kept->row = row;
 }
 
 void giveKept(sqlite3_context *context)
@@ -74,17 +74,20 @@ void giveSpread(sqlite3_context *context)
 struct Aggregate
 {
     const char *name;
+    int arguments;
     void (*step)(sqlite3_context *, int, sqlite3_value **);
     void (*final)(sqlite3_context *);
 };
 
 constexpr Aggregate aggregates[] = {
-    {"jet_first", keepFirst, giveKept},
-    {"jet_last", keepLast, giveKept},
-    {"jet_var", addToSpread, giveSpread<1, false>},
-    {"jet_varp", addToSpread, giveSpread<0, false>},
-    {"jet_stdev", addToSpread, giveSpread<1, true>},
-    {"jet_stdevp", addToSpread, giveSpread<0, true>},
+    {"jet_first", 1, keep<false>, giveKept},
+    {"jet_first", 2, keep<false>, giveKept},
+    {"jet_last", 1, keep<true>, giveKept},
+    {"jet_last", 2, keep<true>, giveKept},
+    {"jet_var", 1, addToSpread, giveSpread<1, false>},
+    {"jet_varp", 1, addToSpread, giveSpread<0, false>},
+    {"jet_stdev", 1, addToSpread, giveSpread<1, true>},
+    {"jet_stdevp", 1, addToSpread, giveSpread<0, true>},
 };
 
 } // namespace
@@ -92,8 +95,9 @@ constexpr Aggregate aggregates[] = {
 void registerAggregates(sqlite3 *handle)
 {
     for (const Aggregate &aggregate : aggregates)
-        sqlite3_create_function_v2(handle, aggregate.name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
-                                   nullptr, aggregate.step, aggregate.final, nullptr);
+        sqlite3_create_function_v2(handle, aggregate.name, aggregate.arguments,
+                                   SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, nullptr, aggregate.step,
+                                   aggregate.final, nullptr);
 }
 
 } // namespace jet
