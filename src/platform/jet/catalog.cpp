@@ -1,5 +1,6 @@
 #include "platform/jet/catalog.h"
 
+#include "platform/jet/collation.h"
 #include "platform/jet/errortexts.h"
 #include "platform/jet/sqlite.h"
 
@@ -8,14 +9,6 @@
 
 namespace jet {
 namespace {
-
-std::string_view textOf(sqlite3_stmt *statement, int column)
-{
-    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
-    return text == nullptr
-               ? std::string_view()
-               : std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
-}
 
 ColumnType declaredType(std::string_view declared, bool primaryKey)
 {
@@ -29,6 +22,11 @@ ColumnType declaredType(std::string_view declared, bool primaryKey)
     if (primaryKey && sameWord(declared, "INTEGER"))
         column.type = DataType::Counter;
     return column;
+}
+
+std::string fullIndexName(const Table &table, std::string_view index)
+{
+    return table.name + '.' + std::string(index);
 }
 
 } // namespace
@@ -48,7 +46,7 @@ std::string quotedName(std::string_view name)
 const TableColumn *Table::column(std::string_view column) const
 {
     for (const TableColumn &candidate : columns) {
-        if (sameWord(candidate.name, column))
+        if (sameName(candidate.name, column))
             return &candidate;
     }
     return nullptr;
@@ -71,39 +69,37 @@ void Catalog::refresh()
         return;
     m_version = version;
     m_tables.clear();
+    m_names.clear();
 }
 
 const Table *Catalog::find(std::string_view name)
 {
-    const std::string key = loweredWord(name);
+    const std::string key = foldCase(name);
     if (const auto known = m_tables.find(key); known != m_tables.end())
         return known->second.get();
-
-    const StatementHandle named = prepareSqlite(
-        m_handle, "SELECT name FROM sqlite_schema WHERE type = 'table' AND lower(name) = ?1 AND "
-                  "name NOT LIKE 'sqlite!_%' ESCAPE '!'");
-    sqlite3_bind_text(named.get(), 1, key.data(), static_cast<int>(key.size()), SQLITE_STATIC);
-    int result = sqlite3_step(named.get());
-    if (result == SQLITE_DONE)
+    if (m_names.empty()) {
+        for (std::string &table : tableNames()) {
+            std::string folded = foldCase(table);
+            m_names.emplace(std::move(folded), std::move(table));
+        }
+    }
+    const auto named = m_names.find(key);
+    if (named == m_names.end())
         return nullptr;
-    if (result != SQLITE_ROW)
-        raiseSqlite(m_handle, result);
+
     auto table = std::make_unique<Table>();
-    table->name = textOf(named.get(), 0);
+    table->name = named->second;
     // The pragma itself: as a table of a SELECT it takes as long as all the rest of a small reading.
     const StatementHandle columns =
         prepareSqlite(m_handle, "PRAGMA table_info(" + quotedName(table->name) + ')');
     enum { Name = 1, Type = 2, NotNull = 3, PrimaryKey = 5 };
-    while ((result = sqlite3_step(columns.get())) == SQLITE_ROW) {
+    forEachRow(m_handle, columns.get(), [&](sqlite3_stmt *row) {
         TableColumn column;
-        column.name = textOf(columns.get(), Name);
-        column.type =
-            declaredType(textOf(columns.get(), Type), sqlite3_column_int(columns.get(), PrimaryKey) != 0);
-        column.notNull = sqlite3_column_int(columns.get(), NotNull) != 0;
+        column.name = textAt(row, Name);
+        column.type = declaredType(textAt(row, Type), sqlite3_column_int(row, PrimaryKey) != 0);
+        column.notNull = sqlite3_column_int(row, NotNull) != 0;
         table->columns.push_back(std::move(column));
-    }
-    if (result != SQLITE_DONE)
-        raiseSqlite(m_handle, result);
+    });
     if (table->columns.empty())
         return nullptr;
     const auto counts = [](const TableColumn &column) { return column.type.type == DataType::Counter; };
@@ -111,15 +107,32 @@ const Table *Catalog::find(std::string_view name)
     return m_tables.emplace(key, std::move(table)).first->second.get();
 }
 
-bool Catalog::hasIndex(const Table &table, std::string_view index)
+std::string Catalog::indexName(const Table &table, std::string_view index)
 {
-    const StatementHandle statement =
-        prepareSqlite(m_handle, "SELECT 1 FROM sqlite_schema WHERE type = 'index' AND tbl_name = ?1 AND "
-                                "lower(name) = ?2");
-    const std::string key = loweredWord(index);
+    const StatementHandle statement = prepareSqlite(
+        m_handle, "SELECT name FROM sqlite_schema WHERE type = 'index' AND tbl_name = ?1 AND sql NOTNULL");
     sqlite3_bind_text(statement.get(), 1, table.name.data(), int(table.name.size()), SQLITE_STATIC);
-    sqlite3_bind_text(statement.get(), 2, key.data(), int(key.size()), SQLITE_STATIC);
-    return sqlite3_step(statement.get()) == SQLITE_ROW;
+    const std::string inFull = fullIndexName(table, index);
+    std::string found;
+    forEachRow(m_handle, statement.get(), [&](sqlite3_stmt *row) {
+        if (const std::string_view name = textAt(row, 0); sameName(name, index) || sameName(name, inFull))
+            found = name;
+    });
+    return found;
+}
+
+bool Catalog::isTaken(std::string_view name)
+{
+    const StatementHandle statement = prepareSqlite(m_handle, "SELECT name FROM sqlite_schema");
+    bool taken = false;
+    forEachRow(m_handle, statement.get(),
+               [&](sqlite3_stmt *row) { taken = taken || sameName(textAt(row, 0), name); });
+    return taken;
+}
+
+std::string Catalog::freeIndexName(const Table &table, std::string_view index)
+{
+    return isTaken(index) ? fullIndexName(table, index) : std::string(index);
 }
 
 const Table &Catalog::table(std::string_view name)
@@ -139,11 +152,7 @@ std::vector<std::string> Catalog::tableNames()
         m_handle, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite!_%' "
                   "ESCAPE '!' ORDER BY name COLLATE JET");
     std::vector<std::string> names;
-    int result = SQLITE_ROW;
-    while ((result = sqlite3_step(statement.get())) == SQLITE_ROW)
-        names.emplace_back(textOf(statement.get(), 0));
-    if (result != SQLITE_DONE)
-        raiseSqlite(m_handle, result);
+    forEachRow(m_handle, statement.get(), [&](sqlite3_stmt *row) { names.emplace_back(textAt(row, 0)); });
     return names;
 }
 

@@ -40,9 +40,15 @@ public:
 
     /// Forgets what another program may have changed. Called before a statement is parsed.
     void refresh();
-    /// Whether the index is one of the table.
-    [[nodiscard]] bool hasIndex(const Table &table, std::string_view index);
-    /// Raises MissingTable with the nearest known name.
+    /// The name that an index of the table has in the file, empty when the table has no such index. Indexes
+    /// of two tables may have one name, while SQLite knows every name once: the second is called TABLE.INDEX
+    /// there.
+    [[nodiscard]] std::string indexName(const Table &table, std::string_view index);
+    /// Whether a table or an index has the name.
+    [[nodiscard]] bool isTaken(std::string_view name);
+    /// What a new index is to be called in the file.
+    [[nodiscard]] std::string freeIndexName(const Table &table, std::string_view index);
+    /// The tables live until the next refresh(). Raises MissingTable with the nearest known name.
     [[nodiscard]] const Table &table(std::string_view name);
     [[nodiscard]] const Table *find(std::string_view name);
     [[nodiscard]] std::vector<std::string> tableNames();
@@ -51,6 +57,7 @@ private:
     sqlite3 *m_handle;
     LastCounter m_lastCounter;
     long long m_version = -1;
+    std::unordered_map<std::string, std::string> m_names; ///< of all tables, by the folded name
     std::unordered_map<std::string, std::unique_ptr<Table>> m_tables;
 };
 

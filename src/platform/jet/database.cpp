@@ -84,7 +84,8 @@ std::shared_ptr<Database> Database::open(const QString &path)
         sqlite3_open_v2(key.toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     Handle handle(raw);
     if (result != SQLITE_OK)
-        raise(Failure, QStringLiteral("Could not open file '%1'.").arg(path));
+        raise(Failure, QStringLiteral("Could not open file '%1'. %2.")
+                           .arg(path, QString::fromUtf8(raw ? sqlite3_errmsg(raw) : sqlite3_errstr(result))));
     try {
         sqlite3_extended_result_codes(raw, 1);
         registerDialect(raw);
@@ -92,7 +93,9 @@ std::shared_ptr<Database> Database::open(const QString &path)
         // Reads the file for the first time: a damaged one shows here.
         (void)queryNumber(raw, "SELECT COUNT(*) FROM sqlite_schema");
     } catch (const Error &error) {
-        raise(error.number(), QStringLiteral("%1 '%2'").arg(error.description(), path));
+        if (error.description().contains(key))
+            throw;
+        raise(error.number(), QStringLiteral("%1 The file is '%2'.").arg(error.description(), path));
     }
     std::shared_ptr<Database> shared(new Database(std::move(handle)));
     openDatabases()[key] = shared;

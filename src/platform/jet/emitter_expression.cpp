@@ -237,7 +237,7 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
         raiseUnknown(source, scope);
     for (std::size_t i = 0; scope.items != nullptr && i < scope.visibleItems; ++i) {
         const SelectItem &item = (*scope.items)[i];
-        if (!item.expression || !sameWord(item.alias, source.name))
+        if (!item.expression || !sameName(item.alias, source.name))
             continue;
         const std::size_t visible = scope.visibleItems;
         scope.visibleItems = i;
@@ -273,7 +273,7 @@ void Emitter::raiseUnknown(const Expression &source, const Scope &scope) const
         for (const std::string_view table : at->sourceNames())
             tables.push_back(table);
         for (const ScopeSource &table : at->sources) {
-            if (!source.qualifier.empty() && !sameWord(table.name, source.qualifier))
+            if (!source.qualifier.empty() && !sameName(table.name, source.qualifier))
                 continue;
             for (const TableColumn &column : table.columns)
                 names.push_back(column.name);

@@ -34,7 +34,7 @@ bool joins(const Source &source, const ScopeSource &sought)
         return joins(*source.left, sought) || joins(*source.right, sought);
     if (source.query && source.alias.empty())
         return sought.name.starts_with(unnamedQuery);
-    return sameWord(source.alias.empty() ? source.table : source.alias, sought.name);
+    return sameName(source.alias.empty() ? source.table : source.alias, sought.name);
 }
 
 } // namespace

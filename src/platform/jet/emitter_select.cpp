@@ -116,7 +116,7 @@ Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
             position = static_cast<std::size_t>(m_literals[std::size_t(item.expression->literal)].number);
         } else if (item.expression->kind == ExpressionKind::Column && item.expression->qualifier.empty()) {
             for (std::size_t i = 0; i < result.columns.size() && position == 0; ++i) {
-                if (sameWord(result.columns[i].name, item.expression->name))
+                if (sameName(result.columns[i].name, item.expression->name))
                     position = i + 1;
             }
         }
@@ -170,7 +170,7 @@ std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope
         if (scope.sources.empty())
             raiseError(SyntaxError, "Query input must contain at least one table or query.");
         for (const ScopeSource &source : scope.sources) {
-            if (!item.starOf.empty() && !sameWord(source.name, item.starOf))
+            if (!item.starOf.empty() && !sameName(source.name, item.starOf))
                 continue;
             for (const TableColumn &column : source.columns) {
                 Output output;
@@ -193,14 +193,14 @@ std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope
 // is taken is called Expr1000, Expr1001 ...
 void Emitter::nameOutputs(std::vector<Output> &outputs) const
 {
-    const auto sameName = [](const Output &a, const Output &b) {
-        return !a.name.empty() && sameWord(a.name, b.name);
+    const auto nameAgain = [](const Output &a, const Output &b) {
+        return !a.name.empty() && sameName(a.name, b.name);
     };
     std::vector<std::string> qualified(outputs.size());
     for (std::size_t i = 0; i < outputs.size(); ++i) {
         for (const Output &other : outputs) {
-            if (!outputs[i].table.empty() && !other.table.empty() && sameName(outputs[i], other) &&
-                !sameWord(outputs[i].table, other.table))
+            if (!outputs[i].table.empty() && !other.table.empty() && nameAgain(outputs[i], other) &&
+                !sameName(outputs[i].table, other.table))
                 qualified[i] = outputs[i].table + '.' + outputs[i].name;
         }
     }
@@ -209,7 +209,7 @@ void Emitter::nameOutputs(std::vector<Output> &outputs) const
         Output &output = outputs[i];
         if (!qualified[i].empty())
             output.name = qualified[i];
-        const auto taken = [&](const Output &other) { return &other != &output && sameName(other, output); };
+        const auto taken = [&](const Output &other) { return &other != &output && nameAgain(other, output); };
         const auto self = outputs.begin() + std::ptrdiff_t(i);
         if (!output.name.empty() && std::none_of(outputs.begin(), self, taken))
             continue;
@@ -369,7 +369,7 @@ std::string Emitter::distinctRows(const Select &select, Scope &scope) const
     for (const ScopeSource &source : scope.sources) {
         const bool selected = std::ranges::any_of(select.items, [&](const SelectItem &item) {
             return item.expression ? uses(*item.expression, source, scope)
-                                   : item.starOf.empty() || sameWord(item.starOf, source.name);
+                                   : item.starOf.empty() || sameName(item.starOf, source.name);
         });
         if (selected && source.isTable())
             shown += (shown.empty() ? " GROUP BY " : ", ") + rowIdOf(source, select.from, scope);

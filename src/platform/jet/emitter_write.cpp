@@ -10,7 +10,7 @@ std::string columnDefinition(std::string_view name, ColumnType type, bool notNul
 {
     std::string sql = quotedName(name) + ' ';
     if (counter)
-        return sql + "INTEGER PRIMARY KEY AUTOINCREMENT";
+        return sql + "INTEGER PRIMARY KEY AUTOINCREMENT CHECK (" + quotedName(name) + " <= 2147483647)";
     sql += declaration(type.type == DataType::Counter ? ColumnType{DataType::Long} : type);
     if (isText(type.type))
         sql += " COLLATE JET";
@@ -21,7 +21,7 @@ std::string columnDefinition(std::string_view name, ColumnType type, bool notNul
 
 bool isAmong(std::string_view name, const std::vector<std::string_view> &names)
 {
-    return std::ranges::any_of(names, [&](std::string_view other) { return sameWord(other, name); });
+    return std::ranges::any_of(names, [&](std::string_view other) { return sameName(other, name); });
 }
 
 bool holdsQuery(const Expression &expression)
@@ -67,10 +67,22 @@ const TableColumn *requireDestination(const Table &table, std::string_view name)
     return column;
 }
 
-void requireNoTable(Catalog &catalog, std::string_view name)
+// SQLite keeps such names for itself.
+void requireOwnName(std::string_view name)
 {
+    constexpr std::string_view reserved = "sqlite_";
+    if (sameWord(name.substr(0, reserved.size()), reserved))
+        raiseError(SyntaxError, "'" + std::string(name) + "' is not a valid name. Names do not begin with '" +
+                                    std::string(reserved) + "'.");
+}
+
+void requireNewTable(Catalog &catalog, std::string_view name)
+{
+    requireOwnName(name);
     if (catalog.find(name) != nullptr)
         raiseError(TableExists, "Table '" + std::string(name) + "' already exists.");
+    if (catalog.isTaken(name))
+        raiseError(TableExists, "'" + std::string(name) + "' is the name of an index already.");
 }
 
 void requireSoundColumns(const CreateTable &table)
@@ -122,7 +134,7 @@ void Emitter::write(const Query &source, EmittedStatement &result)
         result.columns = rows.columns;
         return;
     }
-    requireNoTable(m_catalog, into);
+    requireNewTable(m_catalog, into);
     std::string columns;
     std::string values;
     for (std::size_t i = 0; i < rows.columns.size(); ++i) {
@@ -329,7 +341,7 @@ void Emitter::write(const Delete &statement, EmittedStatement &result)
 
 void Emitter::write(const CreateTable &table, EmittedStatement &result)
 {
-    requireNoTable(m_catalog, table.table);
+    requireNewTable(m_catalog, table.table);
     requireSoundColumns(table);
     std::string columns;
     std::string counter;
@@ -345,7 +357,7 @@ void Emitter::write(const CreateTable &table, EmittedStatement &result)
                                     column.notNull || isAmong(column.name, table.primaryKey), counts) +
                    (column.unique && !counts ? " UNIQUE" : "");
     }
-    const bool onCounter = table.primaryKey.size() == 1 && sameWord(table.primaryKey[0], counter);
+    const bool onCounter = table.primaryKey.size() == 1 && sameName(table.primaryKey[0], counter);
     if (!table.primaryKey.empty() && !onCounter) {
         std::string key;
         for (const std::string_view column : table.primaryKey)
@@ -360,13 +372,18 @@ void Emitter::write(const CreateTable &table, EmittedStatement &result)
 void Emitter::write(const CreateIndex &index, EmittedStatement &result)
 {
     const Table &table = m_catalog.table(index.table);
+    requireOwnName(index.index);
+    if (!m_catalog.indexName(table, index.index).empty())
+        raiseError(Failure, "Table '" + table.name + "' already has an index named '" +
+                                std::string(index.index) + "'.");
     std::string columns;
     for (const auto &[name, descending] : index.columns) {
         (void)requireColumn(table, name);
         columns += (columns.empty() ? "" : ", ") + quotedName(name) + (descending ? " DESC" : "");
     }
     result.sql = std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
-                 quotedName(index.index) + " ON " + quotedName(table.name) + " (" + columns + ')';
+                 quotedName(m_catalog.freeIndexName(table, index.index)) + " ON " + quotedName(table.name) +
+                 " (" + columns + ')';
     result.writes = true;
     result.changesSchema = true;
 }
@@ -381,10 +398,11 @@ void Emitter::write(const DropTable &table, EmittedStatement &result)
 void Emitter::write(const DropIndex &index, EmittedStatement &result)
 {
     const Table &table = existing(m_catalog, index.table);
-    if (!m_catalog.hasIndex(table, index.index))
+    const std::string name = m_catalog.indexName(table, index.index);
+    if (name.empty())
         raiseError(Failure,
                    "No such index '" + std::string(index.index) + "' on table '" + table.name + "'.");
-    result.sql = "DROP INDEX " + quotedName(index.index);
+    result.sql = "DROP INDEX " + quotedName(name);
     result.writes = true;
     result.changesSchema = true;
 }

@@ -57,8 +57,13 @@ void raiseInExpression(int number, std::string_view what, std::string_view expre
 bool tellsOfLimit(std::string_view sqliteMessage)
 {
     static constexpr std::string_view limits[] = {
-        "parser stack overflow",  "Expression tree is too large", "too many", "at most ",
-        "string or blob too big", "statement too long",
+        "parser stack overflow",
+        "Expression tree is too large",
+        "too many",
+        "at most ",
+        "string or blob too big",
+        "statement too long",
+        "variable number must be",
     };
     return std::ranges::any_of(limits,
                                [&](std::string_view limit) { return sqliteMessage.starts_with(limit); });

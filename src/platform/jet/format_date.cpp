@@ -1,3 +1,4 @@
+#include "platform/jet/collation.h"
 #include "platform/jet/format.h"
 
 #include "base/oledate.h"
@@ -175,7 +176,7 @@ private:
         std::string text = m_parts.hour < 12 ? "AM" : "PM";
         if (mark.size() == 3)
             text.pop_back();
-        return mark.front() == 'a' ? loweredWord(text) : text;
+        return mark.front() == 'a' ? foldCase(text) : text;
     }
 
     double m_date;

@@ -13,23 +13,19 @@ namespace {
 
 QString textOf(sqlite3_stmt *row, int column)
 {
-    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(row, column));
-    return QString::fromUtf8(text, sqlite3_column_bytes(row, column));
+    const std::string_view text = textAt(row, column);
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
 
-void forEachRow(sqlite3 *handle, std::string_view sql, const QString &parameter,
-                const std::function<void(sqlite3_stmt *)> &take)
+void readRows(sqlite3 *handle, std::string_view sql, const QString &parameter,
+              const std::function<void(sqlite3_stmt *)> &take)
 {
     const StatementHandle statement = prepareSqlite(handle, sql);
     const QByteArray bytes = parameter.toUtf8();
     if (sqlite3_bind_parameter_count(statement.get()) > 0)
         sqlite3_bind_text(statement.get(), 1, bytes.constData(), static_cast<int>(bytes.size()),
                           SQLITE_STATIC);
-    int result = SQLITE_ROW;
-    while ((result = sqlite3_step(statement.get())) == SQLITE_ROW)
-        take(statement.get());
-    if (result != SQLITE_DONE)
-        raiseSqlite(handle, result);
+    forEachRow(handle, statement.get(), take);
 }
 
 QString columnDefinition(sqlite3 *handle, const QString &table, const QString &column)
@@ -62,17 +58,17 @@ std::vector<StoredPart> indexesOf(sqlite3 *handle, const QString &table)
     const auto takeIndex = [&](sqlite3_stmt *row) {
         indexes.push_back({textOf(row, 0), sqlite3_column_int(row, 1) != 0 ? u"UNIQUE "_s : QString()});
     };
-    forEachRow(
+    readRows(
         handle,
         "SELECT name, \"unique\" FROM pragma_index_list(?1) WHERE origin = 'c' ORDER BY name COLLATE JET",
         table, takeIndex);
     for (StoredPart &index : indexes) {
         QStringList columns;
-        forEachRow(handle, "SELECT name, \"desc\" FROM pragma_index_xinfo(?1) WHERE key ORDER BY seqno",
-                   index.name, [&](sqlite3_stmt *row) {
-                       columns.append(sqlite3_column_int(row, 1) != 0 ? QString(textOf(row, 0) + " DESC"_L1)
-                                                                      : textOf(row, 0));
-                   });
+        readRows(handle, "SELECT name, \"desc\" FROM pragma_index_xinfo(?1) WHERE key ORDER BY seqno",
+                 index.name, [&](sqlite3_stmt *row) {
+                     columns.append(sqlite3_column_int(row, 1) != 0 ? QString(textOf(row, 0) + " DESC"_L1)
+                                                                    : textOf(row, 0));
+                 });
         index.definition += u'(' + columns.join(", "_L1) + u')';
     }
     return indexes;
@@ -84,17 +80,17 @@ std::vector<StoredTable> storedTables(Connection &connection)
 {
     sqlite3 *handle = connection.database().handle();
     std::vector<StoredTable> tables;
-    forEachRow(handle,
-               "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite!_%' ESCAPE '!' "
-               "ORDER BY name COLLATE JET",
-               {}, [&](sqlite3_stmt *row) {
-                   tables.push_back({textOf(row, 0), {}, {}});
-               });
+    readRows(handle,
+             "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite!_%' ESCAPE '!' "
+             "ORDER BY name COLLATE JET",
+             {}, [&](sqlite3_stmt *row) {
+                 tables.push_back({textOf(row, 0), {}, {}});
+             });
     for (StoredTable &table : tables) {
-        forEachRow(handle, "SELECT name FROM pragma_table_info(?1) ORDER BY cid", table.name,
-                   [&](sqlite3_stmt *row) {
-                       table.columns.push_back({textOf(row, 0), {}});
-                   });
+        readRows(handle, "SELECT name FROM pragma_table_info(?1) ORDER BY cid", table.name,
+                 [&](sqlite3_stmt *row) {
+                     table.columns.push_back({textOf(row, 0), {}});
+                 });
         for (StoredPart &column : table.columns)
             column.definition = columnDefinition(handle, table.name, column.name);
         table.indexes = indexesOf(handle, table.name);
@@ -113,7 +109,7 @@ QStringList brokenPlaces(Connection &connection)
         }
     };
     try {
-        forEachRow(connection.database().handle(), "PRAGMA integrity_check(100)", {}, take);
+        readRows(connection.database().handle(), "PRAGMA integrity_check(100)", {}, take);
     } catch (const Error &error) {
         places.append(error.description());
     }

@@ -57,6 +57,8 @@ private:
     CreateTable createTable();
     CreateIndex createIndex(bool unique);
     ColumnDefinition columnDefinition(CreateTable &table);
+    /// Raises when the table has a key already.
+    void expectPrimaryKey(const CreateTable &table);
     Statement drop();
 
     // parser_expression.cpp

@@ -13,8 +13,11 @@ Insert Parser::insert()
     if (at("(") && !at("SELECT", 1)) {
         take();
         do {
-            if (atIdentifier() && at(".", 1))
+            if (atIdentifier() && at(".", 1)) {
+                if (!sameName(peek().text, insert.table))
+                    fail();
                 m_at += 2;
+            }
             insert.columns.push_back(identifier());
         } while (accept(","));
         expect(")");
@@ -106,8 +109,7 @@ CreateTable Parser::createTable()
         if (at("CONSTRAINT") || at("PRIMARY")) {
             if (accept("CONSTRAINT"))
                 identifier();
-            expect("PRIMARY");
-            expect("KEY");
+            expectPrimaryKey(table);
             expect("(");
             do
                 table.primaryKey.push_back(identifier());
@@ -119,6 +121,15 @@ CreateTable Parser::createTable()
     expect(")");
     expectEndOfClause();
     return table;
+}
+
+void Parser::expectPrimaryKey(const CreateTable &table)
+{
+    const Token word = peek();
+    expect("PRIMARY");
+    expect("KEY");
+    if (!table.primaryKey.empty())
+        failAt("Primary key already exists", word);
 }
 
 ColumnDefinition Parser::columnDefinition(CreateTable &table)
@@ -136,8 +147,10 @@ ColumnDefinition Parser::columnDefinition(CreateTable &table)
         if (width.kind != TokenKind::Integer)
             fail();
         const double characters = m_lexer.literals()[std::size_t(width.literal)].number;
-        if (characters < 1 || characters > 255)
-            failAt("Size of field '" + std::string(column.name) + "' is too long", width);
+        if (characters < 1 || characters > widestText)
+            failAt("Size of field '" + std::string(column.name) + "' is too " +
+                       (characters < 1 ? "short" : "long"),
+                   width);
         take();
         expect(")");
         column.type = {DataType::Text, static_cast<int>(characters)};
@@ -147,9 +160,7 @@ ColumnDefinition Parser::columnDefinition(CreateTable &table)
             m_at += 2;
             column.notNull = true;
         } else if (at("PRIMARY")) {
-            take();
-            expect("KEY");
-            column.primaryKey = true;
+            expectPrimaryKey(table);
             table.primaryKey.push_back(column.name);
         } else if (accept("UNIQUE"))
             column.unique = true;

@@ -28,12 +28,6 @@ Storage storageOf(FieldType type)
     }
 }
 
-QUtf8StringView textAt(sqlite3_stmt *statement, int column)
-{
-    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
-    return {text, sqlite3_column_bytes(statement, column)};
-}
-
 Value variantAt(sqlite3_stmt *statement, int column)
 {
     switch (sqlite3_column_type(statement, column)) {
@@ -44,7 +38,7 @@ Value variantAt(sqlite3_stmt *statement, int column)
     case SQLITE_NULL:
         return {};
     default:
-        return textAt(statement, column).toString();
+        return QUtf8StringView(textAt(statement, column)).toString();
     }
 }
 

@@ -7,7 +7,7 @@ namespace jet {
 const ScopeSource *Scope::source(std::string_view name) const
 {
     for (const ScopeSource &candidate : sources) {
-        if (sameWord(candidate.name, name))
+        if (sameName(candidate.name, name))
             return &candidate;
     }
     return nullptr;
@@ -25,10 +25,10 @@ Scope::Found Scope::find(std::string_view qualifier, std::string_view name) cons
 {
     Found found;
     for (const ScopeSource &candidate : sources) {
-        if (!qualifier.empty() && !sameWord(candidate.name, qualifier))
+        if (!qualifier.empty() && !sameName(candidate.name, qualifier))
             continue;
         for (const TableColumn &column : candidate.columns) {
-            if (!sameWord(column.name, name))
+            if (!sameName(column.name, name))
                 continue;
             if (found.column != nullptr)
                 raiseError(SyntaxError,

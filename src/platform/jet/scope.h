@@ -15,7 +15,7 @@ struct ScopeSource
 {
     std::string name; ///< the alias, or the table's name
     std::vector<TableColumn> columns;
-    std::string table; ///< the table of the file, empty for a query
+    std::string table;       ///< the table of the file, empty for a query
     bool givesRowId = false; ///< as a column named %row
 
     [[nodiscard]] bool isTable() const { return !table.empty(); }

@@ -18,6 +18,7 @@ struct ErrorRow
     int result;
     int number;
     const char *text;
+    bool ofFile = false; ///< the file is named behind the text
 };
 
 // The extended result first; a row of the plain result stands for all of its kind.
@@ -25,12 +26,14 @@ constexpr ErrorRow errors[] = {
     {SQLITE_CONSTRAINT_UNIQUE, DuplicateValue, nullptr},
     {SQLITE_CONSTRAINT_PRIMARYKEY, DuplicateValue, nullptr},
     {SQLITE_CONSTRAINT_ROWID, DuplicateValue, nullptr},
+    // The one check that tables have is the bound of their counter.
+    {SQLITE_CONSTRAINT_CHECK, Failure, "Numeric field overflow."},
     {SQLITE_LOCKED, Failure, "Could not update; currently locked."},
-    {SQLITE_CANTOPEN, Failure, "The file or its journal could not be opened."},
-    {SQLITE_FULL, Failure, "There isn't enough disk space."},
-    {SQLITE_IOERR, Failure, "Disk or network error."},
-    {SQLITE_CORRUPT, Failure, "The store file is damaged."},
-    {SQLITE_NOTADB, Failure, "Unrecognized database format."},
+    {SQLITE_CANTOPEN, Failure, "The file or its journal could not be opened.", true},
+    {SQLITE_FULL, Failure, "There isn't enough disk space.", true},
+    {SQLITE_IOERR, Failure, "Disk or network error.", true},
+    {SQLITE_CORRUPT, Failure, "The store file is damaged.", true},
+    {SQLITE_NOTADB, Failure, "Unrecognized database format.", true},
     {SQLITE_NOMEM, Failure, "Not enough memory."},
     {SQLITE_INTERRUPT, Failure, "The operation was cancelled."},
     {SQLITE_TOOBIG, Failure, "A value is too large."},
@@ -38,10 +41,8 @@ constexpr ErrorRow errors[] = {
 
 constexpr const char *duplicateText =
     "The changes you requested to the table were not successful because they would create duplicate values "
-    "in the "
-    "index, primary key, or relationship.  Change the data in the field or fields that contain duplicate "
-    "data, remove "
-    "the index, or redefine the index to permit duplicate entries and try again.";
+    "in the index, primary key, or relationship.  Change the data in the field or fields that contain "
+    "duplicate data, remove the index, or redefine the index to permit duplicate entries and try again.";
 
 QString fileOf(sqlite3 *handle)
 {
@@ -79,8 +80,12 @@ void raiseSqlite(sqlite3 *handle, int result)
         raise(Failure, QStringLiteral("Operation must use an updatable query. The file '%1' is read-only.")
                            .arg(fileOf(handle)));
     for (const ErrorRow &row : errors) {
-        if (row.result == extended || row.result == (result & 0xff))
-            raiseError(row.number, row.text != nullptr ? row.text : duplicateText);
+        if (row.result != extended && row.result != (result & 0xff))
+            continue;
+        if (row.ofFile)
+            raise(row.number,
+                  QStringLiteral("%1 The file is '%2'.").arg(QString::fromUtf8(row.text), fileOf(handle)));
+        raiseError(row.number, row.text != nullptr ? row.text : duplicateText);
     }
     if (tellsOfLimit(message))
         raiseError(SyntaxError, queryTooComplex);
@@ -95,6 +100,13 @@ StatementHandle prepareSqlite(sqlite3 *handle, std::string_view sql)
     if (result != SQLITE_OK)
         raiseSqlite(handle, result);
     return StatementHandle(statement);
+}
+
+std::string_view textAt(sqlite3_stmt *row, int column)
+{
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(row, column));
+    return text == nullptr ? std::string_view()
+                           : std::string_view(text, std::size_t(sqlite3_column_bytes(row, column)));
 }
 
 void runSqlite(sqlite3 *handle, const char *sql)
@@ -125,6 +137,8 @@ void applyPragmas(sqlite3 *handle)
     sqlite3_busy_timeout(handle, waitMilliseconds);
     // A rollback journal, not a write-ahead log: stores lie on file servers too, where the
     // log's shared memory does not work, and a store at rest is one file.
+    // Cells that reach out of their page, and functions called by a foreign schema, are refused.
+    runSqlite(handle, "PRAGMA cell_size_check = ON; PRAGMA trusted_schema = OFF");
     runSqlite(handle, "PRAGMA journal_mode = TRUNCATE; PRAGMA synchronous = FULL; PRAGMA temp_store = MEMORY;"
                       "PRAGMA cache_size = -65536; PRAGMA foreign_keys = OFF");
 }

@@ -22,8 +22,23 @@ void runSqlite(sqlite3 *handle, const char *sql);
 /// The first column of the first row as a whole number, 0 without a row.
 [[nodiscard]] sqlite3_int64 queryNumber(sqlite3 *handle, std::string_view sql);
 
+/// The text of a column; of Null nothing. Valid until the statement moves on.
+[[nodiscard]] std::string_view textAt(sqlite3_stmt *row, int column);
+
 /// Raises what the last call on the handle reported, as an error of the store engine.
 [[noreturn]] void raiseSqlite(sqlite3 *handle, int result);
+
+/// Walks the rows of a statement from where it stands; take gets it standing on each. Raises what SQLite
+/// reports.
+template <typename Take>
+void forEachRow(sqlite3 *handle, sqlite3_stmt *statement, Take &&take)
+{
+    int result = SQLITE_ROW;
+    while ((result = sqlite3_step(statement)) == SQLITE_ROW)
+        take(statement);
+    if (result != SQLITE_DONE)
+        raiseSqlite(handle, result);
+}
 
 /// A statement starts over when its reader is done with it, however that ends.
 class StatementReset final

@@ -144,7 +144,6 @@ struct ColumnDefinition
     std::string_view name;
     ColumnType type;
     bool notNull = false;
-    bool primaryKey = false;
     bool unique = false;
 };
 

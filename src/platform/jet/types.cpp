@@ -18,7 +18,7 @@ constexpr int MemoSize = 1073741823;
 // The declared names are chosen so that SQLite gives every one of them numeric affinity, but
 // the texts, and none of them integer primary key behaviour.
 constexpr TypeRow types[] = {
-    {DataType::Unknown, FieldType::Text, 255, ""},
+    {DataType::Unknown, FieldType::Text, widestText, ""},
     {DataType::Boolean, FieldType::Boolean, 2, "YESNO"},
     {DataType::Byte, FieldType::Byte, 1, "BYTE"},
     {DataType::Short, FieldType::Short, 2, "SHORT"},
@@ -29,7 +29,7 @@ constexpr TypeRow types[] = {
     {DataType::Double, FieldType::Double, 8, "DOUBLE"},
     {DataType::Currency, FieldType::Currency, 8, "CURRENCY"},
     {DataType::Date, FieldType::Date, 8, "DATETIME"},
-    {DataType::Text, FieldType::Text, 255, "TEXT"},
+    {DataType::Text, FieldType::Text, widestText, "TEXT"},
     {DataType::Memo, FieldType::Memo, MemoSize, "TEXT"},
 };
 
@@ -117,7 +117,7 @@ DataType typeByName(std::string_view name)
 std::string declaration(ColumnType type)
 {
     if (type.type == DataType::Text)
-        return "TEXT(" + std::to_string(type.width > 0 ? type.width : 255) + ")";
+        return "TEXT(" + std::to_string(type.width > 0 ? type.width : widestText) + ")";
     return row(type.type).declaration;
 }
 

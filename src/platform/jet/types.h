@@ -46,6 +46,9 @@ enum class DataType {
     return isWhole(type) && type != DataType::Wide;
 }
 
+/// Characters of the widest text column that has a width.
+inline constexpr int widestText = 255;
+
 /// One column as its table defines it.
 struct ColumnType
 {

@@ -1,8 +1,18 @@
 #include "platform/jet/words.h"
 
+#include "platform/jet/collation.h"
+#include "platform/jet/utf8.h"
+
 #include <vector>
 
 namespace jet {
+
+bool sameName(std::string_view left, std::string_view right)
+{
+    if (sameWord(left, right))
+        return true;
+    return !utf8::isAscii(left) && !utf8::isAscii(right) && foldCase(left) == foldCase(right);
+}
 
 std::size_t wordDistance(std::string_view left, std::string_view right)
 {

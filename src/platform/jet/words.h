@@ -11,19 +11,15 @@ namespace jet {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
 
-/// Names and keywords match without regard to the case of ASCII letters.
+/// Keywords match without regard to the case of ASCII letters.
 [[nodiscard]] constexpr bool sameWord(std::string_view left, std::string_view right)
 {
     return left.size() == right.size() && std::equal(left.begin(), left.end(), right.begin(),
                                                      [](char a, char b) { return lowered(a) == lowered(b); });
 }
 
-[[nodiscard]] inline std::string loweredWord(std::string_view word)
-{
-    std::string result(word);
-    std::transform(result.begin(), result.end(), result.begin(), lowered);
-    return result;
-}
+/// Names of tables, columns and indexes match without regard to the case of any letter.
+[[nodiscard]] bool sameName(std::string_view left, std::string_view right);
 
 /// How many letters must be changed, added or dropped to make one word of the other.
 [[nodiscard]] std::size_t wordDistance(std::string_view left, std::string_view right);
