@@ -4,6 +4,7 @@
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 #include "platform/jet/sqlitesetup.h"
+#include "platform/jet/storefile.h"
 #include "store/storefile.h"
 
 #include <QDir>

@@ -140,10 +140,7 @@ const Table &Catalog::table(std::string_view name)
     if (const Table *known = find(name))
         return *known;
     const std::vector<std::string> names = tableNames();
-    raiseError(MissingTable, "The Microsoft Jet database engine cannot find the input table or query '" +
-                                 std::string(name) +
-                                 "'.  Make sure it exists and that its name is spelled correctly." +
-                                 suggestion(name, {names.begin(), names.end()}));
+    raiseMissingSource(name, {names.begin(), names.end()});
 }
 
 std::vector<std::string> Catalog::tableNames()

@@ -4,6 +4,7 @@
 #include "platform/jet/database.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
+#include "platform/jet/storefile.h"
 
 #include <QStringList>
 
@@ -74,7 +75,7 @@ QString connectionString(const QString &path)
 
 void createDatabase(const QString &path)
 {
-    Database::create(path);
+    createStoreFile(path);
 }
 
 void flushPendingWrites()

@@ -102,11 +102,6 @@ std::shared_ptr<Database> Database::open(const QString &path)
     return shared;
 }
 
-void Database::create(const QString &path)
-{
-    createStoreFile(path);
-}
-
 void Database::flushAll()
 {
     std::exception_ptr first;
@@ -188,7 +183,7 @@ Database::Prepared Database::compile()
         prepared.statement = prepareSqlite(m_handle, emitted.sql);
         prepared.parameters = sqlite3_bind_parameter_count(prepared.statement.get());
     } else
-        prepared.before.push_back(emitted.sql);
+        prepared.behind = std::move(emitted.sql);
     return prepared;
 }
 
@@ -309,9 +304,9 @@ void Database::runWrite(Prepared &prepared)
         stepToEnd(m_handle, prepared.statement.get());
         return;
     }
-    for (std::size_t i = 0; i + 1 < prepared.before.size(); ++i)
-        runSqlite(m_handle, prepared.before[i].c_str());
-    prepared.statement = prepareSqlite(m_handle, prepared.before.back());
+    for (const std::string &sql : prepared.before)
+        runSqlite(m_handle, sql.c_str());
+    prepared.statement = prepareSqlite(m_handle, prepared.behind);
     prepared.parameters = sqlite3_bind_parameter_count(prepared.statement.get());
     bind(prepared);
     stepToEnd(m_handle, prepared.statement.get());

@@ -36,7 +36,6 @@ public:
     /// Opens the file, or joins those that have it open. Raises Failure with a text that
     /// names the file when it is missing, a folder, unreadable or no store.
     [[nodiscard]] static std::shared_ptr<Database> open(const QString &path);
-    static void create(const QString &path);
     /// Commits the pending writes of every open file.
     static void flushAll();
 
@@ -65,7 +64,8 @@ private:
     {
         StatementHandle statement;
         std::vector<std::string> before;
-        HeaderPtr header; ///< null for a statement that returns no rows
+        std::string behind; ///< the statement itself, where it can be compiled only behind those
+        HeaderPtr header;   ///< null for a statement that returns no rows
         std::vector<std::pair<int, std::string>> pinned;
         int parameters = 0;
         bool writes = false;

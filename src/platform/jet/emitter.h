@@ -82,6 +82,7 @@ private:
     enum class Aggregates { Forbidden, Allowed, Inside };
 
     // emitter_select.cpp
+    // Numbered rows have their columns called c0, c1 ... in place of their names, for the SQL around them.
     Rows query(const Query &query, Scope *outer, bool numbered = false);
     Rows unionOf(const Query &query, Scope *outer, bool numbered);
     static std::vector<OutputColumn> unionColumns(const std::vector<Rows> &arms);
@@ -98,6 +99,7 @@ private:
     std::string distinctRows(const Select &select, Scope &scope) const;
     std::string withTop(const Select &select, const std::string &rows, const std::vector<Output> &outputs,
                         const std::vector<OrderItem> &order, std::size_t keys, bool numbered) const;
+    static std::string numberedName(std::size_t index);
     static std::string outputName(const Output &output, std::size_t index, bool numbered);
 
     // emitter_from.cpp
@@ -121,7 +123,8 @@ private:
     Piece compare(const Expression &expression, Scope &scope);
     Piece between(const Expression &expression, Scope &scope);
     Piece inList(const Expression &expression, Scope &scope);
-    std::string conditionOf(const Expression &expression, Scope &scope, std::string_view clause);
+    std::string conditionOf(const Expression &expression, Scope &scope, std::string_view clause,
+                            Aggregates aggregates = Aggregates::Forbidden);
     [[noreturn]] void raiseUnknown(const Expression &expression, const Scope &scope) const;
     void requireComparable(const Expression &expression, const Piece &left, const Piece &right) const;
     std::string fingerprint(const Expression &expression, Scope &scope);

@@ -105,14 +105,13 @@ std::string Emitter::fingerprint(const Expression &source, Scope &scope)
     return result;
 }
 
-std::string Emitter::conditionOf(const Expression &source, Scope &scope, std::string_view clause)
+std::string Emitter::conditionOf(const Expression &source, Scope &scope, std::string_view clause,
+                                 Aggregates aggregates)
 {
-    const Aggregates aggregates = m_aggregates;
-    const std::string_view outerClause = m_clause;
-    m_aggregates = clause == "HAVING clause" ? Aggregates::Allowed : Aggregates::Forbidden;
-    m_clause = clause;
+    const Aggregates outerAggregates = std::exchange(m_aggregates, aggregates);
+    const std::string_view outerClause = std::exchange(m_clause, clause);
     std::string sql = conditionIn(source, scope);
-    m_aggregates = aggregates;
+    m_aggregates = outerAggregates;
     m_clause = outerClause;
     return sql;
 }

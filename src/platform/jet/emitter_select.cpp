@@ -6,11 +6,6 @@
 namespace jet {
 namespace {
 
-std::string numberedName(std::size_t index)
-{
-    return "\"c" + std::to_string(index) + '"';
-}
-
 std::string keyName(std::size_t index)
 {
     return "\"k" + std::to_string(index) + '"';
@@ -162,11 +157,7 @@ std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope
             continue;
         }
         if (!item.starOf.empty() && scope.source(item.starOf) == nullptr)
-            raiseError(MissingTable,
-                       "The Microsoft Jet database engine cannot find the input table or query '" +
-                           std::string(item.starOf) +
-                           "'.  Make sure it exists and that its name is spelled correctly." +
-                           suggestion(item.starOf, scope.sourceNames()));
+            raiseMissingSource(item.starOf, scope.sourceNames());
         if (scope.sources.empty())
             raiseError(SyntaxError, "Query input must contain at least one table or query.");
         for (const ScopeSource &source : scope.sources) {
@@ -219,6 +210,11 @@ void Emitter::nameOutputs(std::vector<Output> &outputs) const
     }
 }
 
+std::string Emitter::numberedName(std::size_t index)
+{
+    return "\"c" + std::to_string(index) + '"';
+}
+
 std::string Emitter::outputName(const Output &output, std::size_t index, bool numbered)
 {
     return numbered ? numberedName(index) : quotedName(output.name);
@@ -247,7 +243,7 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     std::string groups = groupsOf(select, scope);
     scope.borrowed.resize(borrowed);
     if (select.having)
-        groups += " HAVING " + conditionOf(*select.having, scope, "HAVING clause");
+        groups += " HAVING " + conditionOf(*select.having, scope, "HAVING clause", Aggregates::Allowed);
 
     std::vector<std::string> keys;
     for (const OrderItem &item : order)

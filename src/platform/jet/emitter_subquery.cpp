@@ -44,7 +44,7 @@ Emitter::Piece Emitter::quantified(const Expression &source, Scope &scope)
     };
     const Piece operand = expression(*source.arguments[0], scope);
     const Rows rows = singleColumn(source, scope, true);
-    const Piece item{.sql = "\"c0\"", .type = rows.columns[0].type};
+    const Piece item{.sql = numberedName(0), .type = rows.columns[0].type};
     requireComparable(source, operand, item);
     if (source.name == (source.all ? "<>" : "="))
         return conditionPiece('(' + collated(operand) + (source.all ? " NOT IN (" : " IN (") + rows.sql +

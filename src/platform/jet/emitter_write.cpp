@@ -142,7 +142,7 @@ void Emitter::write(const Query &source, EmittedStatement &result)
         // Only a column's text is known to fit the width that it comes with.
         if (type.type == DataType::Unknown || (type.type == DataType::Text && !rows.columns[i].stored))
             type = {DataType::Memo};
-        const std::string value = "\"c" + std::to_string(i) + '"';
+        const std::string value = numberedName(i);
         columns += (i == 0 ? "" : ", ") + columnDefinition(rows.columns[i].name, type, false, false);
         values +=
             (i == 0 ? "" : ", ") + (type.type == DataType::Boolean ? "IFNULL(" + value + ", 0)" : value);
@@ -257,8 +257,7 @@ std::string Emitter::insertedRows(const Insert &insert, std::vector<const TableC
         takeAllColumns();
     requireCount(rows.columns.size());
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        const Piece piece{
-            .sql = "\"c" + std::to_string(i) + '"', .type = rows.columns[i].type, .column = true};
+        const Piece piece{.sql = numberedName(i), .type = rows.columns[i].type, .column = true};
         sql += (i == 0 ? "SELECT " : ", ") + coerced(piece, *columns[i]);
     }
     return sql + " FROM (" + rows.sql + ')';

@@ -83,6 +83,14 @@ std::string suggestion(std::string_view word, const std::vector<std::string_view
     return nearest.empty() ? std::string() : " Did you mean '" + std::string(nearest) + "'?";
 }
 
+void raiseMissingSource(std::string_view name, const std::vector<std::string_view> &known)
+{
+    raiseError(MissingTable, "The Microsoft Jet database engine cannot find the input table or query '" +
+                                 std::string(name) +
+                                 "'.  Make sure it exists and that its name is spelled correctly." +
+                                 suggestion(name, known));
+}
+
 void raiseTypeMismatch(std::string_view expression, std::string_view left, std::string_view right)
 {
     raiseError(TypeMismatch, "Data type mismatch in criteria expression. '" + excerpt(expression) +

@@ -31,6 +31,9 @@ inline constexpr std::string_view queryTooComplex = "Query is too complex.";
 /// " Did you mean 'NAME'?" with the nearest of the names, or nothing when none is near.
 [[nodiscard]] std::string suggestion(std::string_view word, const std::vector<std::string_view> &names);
 
+/// Raises MissingTable for a table or query to read from.
+[[noreturn]] void raiseMissingSource(std::string_view name, const std::vector<std::string_view> &known);
+
 [[noreturn]] void raiseTypeMismatch(std::string_view expression, std::string_view left,
                                     std::string_view right);
 

@@ -2,11 +2,9 @@
 
 #include "base/error.h"
 
-#include "platform/jet/collation.h"
 #include "platform/jet/errortexts.h"
 #include "platform/jet/functions.h"
 #include "platform/jet/lockholder.h"
-#include "platform/jet/sqlitesetup.h"
 
 #include <string>
 
@@ -123,24 +121,6 @@ sqlite3_int64 queryNumber(sqlite3 *handle, std::string_view sql)
     if (result != SQLITE_ROW && result != SQLITE_DONE)
         raiseSqlite(handle, result);
     return result == SQLITE_ROW ? sqlite3_column_int64(statement.get(), 0) : 0;
-}
-
-void registerDialect(sqlite3 *handle)
-{
-    registerCollation(handle);
-    registerFunctions(handle);
-}
-
-void applyPragmas(sqlite3 *handle)
-{
-    constexpr int waitMilliseconds = 5000;
-    sqlite3_busy_timeout(handle, waitMilliseconds);
-    // A rollback journal, not a write-ahead log: stores lie on file servers too, where the
-    // log's shared memory does not work, and a store at rest is one file.
-    // Cells that reach out of their page, and functions called by a foreign schema, are refused.
-    runSqlite(handle, "PRAGMA cell_size_check = ON; PRAGMA trusted_schema = OFF");
-    runSqlite(handle, "PRAGMA journal_mode = TRUNCATE; PRAGMA synchronous = FULL; PRAGMA temp_store = MEMORY;"
-                      "PRAGMA cache_size = -65536; PRAGMA foreign_keys = OFF");
 }
 
 } // namespace jet

@@ -2,7 +2,13 @@
 
 #include <QString>
 
+#include <cstdint>
+
 namespace jet {
+
+/// What the header of a store file says of itself.
+inline constexpr std::uint32_t ApplicationId = 0x4B564C4E;
+inline constexpr std::uint32_t FileVersion = 1;
 
 /// Raises Failure with a text that names the file unless it is a store this program can
 /// read: missing, a folder, no store at all, made by a newer version. Looks only.
