@@ -205,6 +205,14 @@ TEST_F(ConsoleTest, RefusesArgumentsThatMakeNoSense)
     }
 }
 
+TEST_F(ConsoleTest, Help_IsNoComplaint)
+{
+    const Answer answer = run({u"--help"_s});
+    EXPECT_EQ(answer.status, ExitDone);
+    EXPECT_NE(answer.out.find("check PATH"), std::string::npos);
+    EXPECT_EQ(answer.complaints, "");
+}
+
 TEST_F(ConsoleTest, Sql_WaitsForTheNextStatementWithNothingPending)
 {
     createStore(path);

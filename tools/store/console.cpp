@@ -18,14 +18,14 @@ namespace {
 
 constexpr int mostSampleUsers = 1'000'000;
 
+constexpr auto usage = "usage: kelvane-store create PATH [--sample USERS]\n"
+                       "       kelvane-store sql PATH    one statement a line from standard input,\n"
+                       "                                 one JSON object a statement to standard output\n"
+                       "       kelvane-store check PATH  tells what is wrong with the store, a line each\n";
+
 int refuseUsage(Console &console, const QString &reason)
 {
-    console.complaints
-        << "kelvane-store: " << reason.toStdString() << "\n"
-        << "usage: kelvane-store create PATH [--sample USERS]\n"
-        << "       kelvane-store sql PATH    one statement a line from standard input,\n"
-        << "                                 one JSON object a statement to standard output\n"
-        << "       kelvane-store check PATH  tells what is wrong with the store, a line each\n";
+    console.complaints << "kelvane-store: " << reason.toStdString() << '\n' << usage;
     return ExitUsage;
 }
 
@@ -135,6 +135,10 @@ int runCommand(const QStringList &arguments, Console &console)
 {
     if (arguments.isEmpty())
         return refuseUsage(console, u"a command is missing"_s);
+    if (arguments == QStringList{u"--help"_s} || arguments == QStringList{u"-h"_s}) {
+        console.out << usage;
+        return ExitDone;
+    }
     if (arguments[0] == "create"_L1 && arguments.size() > 1)
         return create(arguments.mid(1), console);
     if (arguments[0] == "sql"_L1)

@@ -18,7 +18,7 @@ struct Console
 };
 
 /// Runs one command of kelvane-store, told by its arguments without the program's name, and returns the
-/// exit status: ExitUsage when the arguments make no sense, ExitRefused when the command or any of its
-/// statements was refused. A check ends with ExitFindings when it found something and with ExitUnreadable
-/// when the file cannot be opened as a store.
+/// exit status: ExitDone for --help, ExitUsage when the arguments make no sense, ExitRefused when the command
+/// or any of its statements was refused. A check ends with ExitFindings when it found something and with
+/// ExitUnreadable when the file cannot be opened as a store.
 [[nodiscard]] int runCommand(const QStringList &arguments, Console &console);
