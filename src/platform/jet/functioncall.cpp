@@ -71,6 +71,13 @@ void raiseDivisionByZero()
     throw CallError{Failure, "Division by zero"};
 }
 
+void requireRoom(std::size_t bytes)
+{
+    constexpr std::size_t largest = 100'000'000;
+    if (bytes > largest)
+        throw CallError{Failure, "Out of string space"};
+}
+
 double roundToEven(double number)
 {
     return std::nearbyint(number);
@@ -97,8 +104,12 @@ std::optional<double> currency(double number)
 
 void resultError(sqlite3_context *context, int number, std::string_view text)
 {
-    const std::string message = numberMark + std::to_string(number) + numberMark + std::string(text);
-    sqlite3_result_error(context, message.data(), int(message.size()));
+    try {
+        const std::string message = numberMark + std::to_string(number) + numberMark + std::string(text);
+        sqlite3_result_error(context, message.data(), int(message.size()));
+    } catch (const std::bad_alloc &) {
+        sqlite3_result_error_nomem(context);
+    }
 }
 
 int takeErrorNumber(std::string_view &message)

@@ -26,6 +26,10 @@ struct CallError
 [[noreturn]] void raiseInvalidCall();
 [[noreturn]] void raiseDivisionByZero();
 
+/// Raises Failure "Out of string space" for a text of more bytes than a function may give. What makes a text
+/// longer than what it was given asks before it does.
+void requireRoom(std::size_t bytes);
+
 /// Halves go to the even neighbour.
 [[nodiscard]] double roundToEven(double number);
 

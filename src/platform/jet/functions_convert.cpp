@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <sqlite3.h>
@@ -31,7 +32,9 @@ void concatenate(Call &call)
     bool any = false;
     for (int i = 0; i < call.count(); ++i) {
         any = any || !call.isNull(i);
-        joined += call.text(i);
+        const std::string_view part = call.text(i);
+        requireRoom(joined.size() + part.size());
+        joined += part;
     }
     if (any)
         call.give(joined);
@@ -161,10 +164,27 @@ void fit(Call &call)
 
 void add(Call &call)
 {
-    if (call.isText(0) && call.isText(1))
+    if (call.isText(0) && call.isText(1)) {
+        requireRoom(call.text(0).size() + call.text(1).size());
         call.give(std::string(call.text(0)).append(call.text(1)));
-    else
+    } else
         call.giveNumber(call.number(0) + call.number(1));
+}
+
+void subtract(Call &call)
+{
+    call.giveNumber(call.number(0) - call.number(1));
+}
+
+void multiply(Call &call)
+{
+    call.giveNumber(call.number(0) * call.number(1));
+}
+
+template <typename Operation>
+void combineBits(Call &call)
+{
+    call.giveWhole(Operation()(call.whole(0), call.whole(1)));
 }
 
 void divide(Call &call)
@@ -240,6 +260,11 @@ const Conversion conversions[] = {
     {"jet_tobool", {toBooleanColumn}},
     {"jet_fit", {fit}},
     {"jet_add", {add}},
+    {"jet_sub", {subtract}},
+    {"jet_mul", {multiply}},
+    {"jet_band", {combineBits<std::bit_and<>>}},
+    {"jet_bor", {combineBits<std::bit_or<>>}},
+    {"jet_bxor", {combineBits<std::bit_xor<>>}},
     {"jet_div", {divide}},
     {"jet_idiv", {divideWhole}},
     {"jet_mod", {modulo}},

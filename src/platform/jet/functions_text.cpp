@@ -112,10 +112,8 @@ char32_t firstCharacter(std::string_view text)
 
 std::string repeated(std::string_view character, int count)
 {
-    constexpr int largest = 100'000'000;
-    if (count > largest)
-        throw CallError{Failure, "Out of string space"};
     const std::size_t size = atLeast(0, count);
+    requireRoom(character.size() * size);
     if (character.size() == 1)
         return std::string(size, character.front());
     std::string text;
@@ -251,6 +249,7 @@ void replace(Call &call)
         if (found == std::string_view::npos)
             break;
         const std::size_t before = utf8::offset(text, utf8::length(folded.substr(0, found)));
+        requireRoom(result.size() + before + replacement.size());
         result.append(text.substr(0, before)).append(replacement);
         text = withoutCharacters(text.substr(before), needleLength);
         folded.remove_prefix(found + search.needle.size());

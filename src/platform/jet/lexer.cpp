@@ -2,6 +2,7 @@
 
 #include "base/oledate.h"
 #include "platform/jet/errortexts.h"
+#include "platform/jet/numbertext.h"
 
 #include <QString>
 
@@ -159,7 +160,7 @@ Token Lexer::number()
         m_at = static_cast<std::size_t>(last - m_statement.data());
         if (error != std::errc())
             raiseSyntax("Syntax error in number", m_statement, start, m_at);
-        literal.number = static_cast<std::int32_t>(hex);
+        literal.number = signedBits(hex);
     } else {
         const char *at = begin;
         for (; at < end && classOf(*at) == Digit; ++at)
@@ -178,10 +179,8 @@ Token Lexer::number()
             for (at += 2; at < end && classOf(*at) == Digit;)
                 ++at;
         }
-        if (literal.kind == TokenKind::Float || !plain) {
-            if (const auto [last, error] = std::from_chars(begin, at, literal.number); error != std::errc())
-                literal.number = std::numeric_limits<double>::infinity();
-        }
+        if (literal.kind == TokenKind::Float || !plain)
+            readDouble({begin, at}, literal.number);
         if (literal.number > std::numeric_limits<std::int32_t>::max())
             literal.kind = TokenKind::Float;
         m_at = static_cast<std::size_t>(at - m_statement.data());
@@ -238,10 +237,11 @@ Token Lexer::date()
     const std::size_t end = last == std::string_view::npos ? m_statement.size() : last + 1;
     Literal literal;
     literal.kind = TokenKind::Date;
-    literal.text = m_statement.substr(start + 1, end - start - 2);
     std::optional<double> date;
-    if (last != std::string_view::npos)
+    if (last != std::string_view::npos) {
+        literal.text = m_statement.substr(start + 1, last - start - 1);
         date = oledate::parse(QString::fromUtf8(literal.text.data(), qsizetype(literal.text.size())));
+    }
     if (!date)
         raiseSyntax("Syntax error in date in query expression '" +
                         excerpt(m_statement.substr(start, end - start)) + '\'',
