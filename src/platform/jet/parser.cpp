@@ -37,6 +37,10 @@ constexpr std::array<std::string_view, 17> behindExpression = {
 constexpr std::array<std::string_view, 13> behindTable = {
     ",", ")", ";", "WHERE", "GROUP", "HAVING", "ORDER", "UNION", "INNER", "LEFT", "RIGHT", "ON", "SET"};
 
+// Words that other dialects have behind a table and its alias.
+constexpr std::array<std::string_view, 7> foreignBehindTable = {"JOIN",  "FULL",  "CROSS", "NATURAL",
+                                                                "USING", "LIMIT", "OFFSET"};
+
 template <typename Words>
 constexpr bool contains(const Words &words, std::string_view word)
 {
@@ -384,9 +388,11 @@ void Parser::alias(Source &source)
     const bool bare = !accept("AS") && atIdentifier();
     if (bare || sameWord(first.text, "AS"))
         source.alias = identifier();
+    if (isOneOf(peek(), behindTable))
+        return;
     // A word that is none of the dialect has passed as an alias: it is at fault, not the next.
-    if (!isOneOf(peek(), behindTable))
-        failAt("Syntax error in " + std::string(m_clause), bare ? first : peek());
+    const bool nextIsForeign = isOneOf(peek(), foreignBehindTable) && !isOneOf(first, foreignBehindTable);
+    failAt("Syntax error in " + std::string(m_clause), bare && !nextIsForeign ? first : peek());
 }
 
 // Behind an opening parenthesis: a query, in parentheses of its own or not, or a join whose first table

@@ -213,6 +213,10 @@ ExpressionPtr Parser::arithmetic(std::size_t level)
 ExpressionPtr Parser::sign()
 {
     const std::size_t start = peek().offset;
+    // Two hyphens begin a comment elsewhere; here they are nothing.
+    if (at("-") && m_at > 0 && m_tokens[m_at - 1].kind == TokenKind::Symbol &&
+        m_tokens[m_at - 1].text == "-" && m_tokens[m_at - 1].end == start)
+        fail();
     if (accept("+")) {
         const DepthGuard depth(*this);
         return sign();
@@ -234,12 +238,12 @@ ExpressionPtr Parser::power()
     ExpressionPtr left = primary();
     while (accept("^")) {
         const std::size_t exponent = peek().offset;
-        ExpressionPtr right;
-        if (accept("-")) {
-            right = primary();
+        const bool negated = accept("-");
+        if (!negated)
+            accept("+");
+        ExpressionPtr right = primary();
+        if (negated)
             right = node(ExpressionKind::Negate, exponent, "-", std::move(right));
-        } else
-            right = primary();
         left = node(ExpressionKind::Arithmetic, start, "^", std::move(left), std::move(right));
     }
     return left;
@@ -297,7 +301,8 @@ ExpressionPtr Parser::nameOrCall()
 {
     const Token token = peek();
     const std::size_t start = token.offset;
-    if (!atIdentifier())
+    // ON may be the constant where it cannot begin the condition of a join.
+    if (!atIdentifier() && !at("ON"))
         fail();
     take();
     if (token.kind == TokenKind::Name && sameWord(token.text, "@@IDENTITY"))
