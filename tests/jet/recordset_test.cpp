@@ -124,6 +124,13 @@ TEST_F(RecordsetTest, TheListOfTablesIsByName)
     EXPECT_EQ(tables.recordCount(), 23);
     EXPECT_EQ(tables.value(u"TABLE_NAME").toText(), u"Tbl_CustomQuery"_s);
     EXPECT_EQ(tables.value(u"TABLE_TYPE").toText(), u"TABLE"_s);
+    EXPECT_EQ(numberOf([&] { connection.openSchema(jet::SchemaTables, tables); }), jet::ObjectOpen);
+    EXPECT_EQ(tables.fields().count(), 2);
+    openRooms();
+    rooms.close();
+    connection.openSchema(jet::SchemaTables, rooms);
+    EXPECT_EQ(rooms.fields().count(), 2);
+    EXPECT_EQ(rooms.value(0).toText(), u"Tbl_CustomQuery"_s);
     jet::Recordset other;
     EXPECT_NE(numberOf([&] { connection.openSchema(4, other); }), 0);
 }

@@ -61,6 +61,8 @@ public:
     [[nodiscard]] int indexOf(QStringView name) const;
     /// Adds a field to a closed recordset that is being made in memory.
     void append(const QString &name, FieldType type, int size, int attributes = -1);
+    /// Drops the fields of a closed recordset.
+    void clear();
 
 private:
     friend class Recordset;
