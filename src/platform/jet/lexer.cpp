@@ -254,8 +254,7 @@ Token Lexer::date()
 void liftLiterals(std::string_view statement, LiftedStatement &lifted)
 {
     lifted.shape.clear();
-    lifted.literals.clear();
-    Lexer lexer(statement);
+    Lexer lexer(statement, lifted.literals);
     std::size_t copied = 0;
     for (Token token = lexer.next(); token.kind != TokenKind::End; token = lexer.next()) {
         if (token.literal < 0)
@@ -266,7 +265,6 @@ void liftLiterals(std::string_view statement, LiftedStatement &lifted)
         copied = token.end;
     }
     lifted.shape.append(statement, copied);
-    lifted.literals = lexer.takeLiterals();
 }
 
 std::size_t characterAt(std::string_view statement, std::size_t offset)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/jet/recordset.h"
+#include "platform/jet/fieldtype.h"
 
 #include <string>
 #include <string_view>
@@ -52,6 +52,9 @@ struct ColumnType
     DataType type = DataType::Unknown;
     int width = 0; ///< characters of a text column, 0: unlimited
 };
+
+/// Characters of a text column that has a width, at most and where none is told.
+inline constexpr int widestText = 255;
 
 [[nodiscard]] FieldType fieldType(DataType type);
 /// Characters of a text field, otherwise bytes of the kind.
