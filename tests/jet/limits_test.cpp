@@ -1,9 +1,7 @@
-#include "base/error.h"
-#include "platform/jet/connection.h"
-#include "platform/jet/recordset.h"
-#include "support/freshstore.h"
+#include "openstore.h"
 
-#include <QTemporaryDir>
+#include "base/error.h"
+#include "platform/jet/recordset.h"
 
 #include <gtest/gtest.h>
 
@@ -12,32 +10,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Long and deep statements: answered, or refused in plain words, and the store works on.
-class LimitsTest : public testing::Test
+class LimitsTest : public OpenStore
 {
 public:
-    void SetUp() override
-    {
-        const QString path = m_folder.filePath("store.mdb"_L1);
-        makeFreshStore(path);
-        m_connection.open(jet::connectionString(path));
-        m_connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('A')"_s);
-    }
+    void SetUp() override { connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('A')"_s); }
 
     /// The only value of the answer, or the number and the text of the error.
     QString answer(const QString &sql)
     {
         try {
             jet::Recordset rows;
-            rows.open(sql, m_connection);
+            rows.open(sql, connection);
             return rows.recordCount() == 1 ? rows.value(0).toText() : QString::number(rows.recordCount());
         } catch (const Error &error) {
             return QString::number(error.number()) + u' ' + error.description();
         }
     }
-
-private:
-    QTemporaryDir m_folder;
-    jet::Connection m_connection;
 };
 
 QString repeated(QLatin1StringView text, int times)
