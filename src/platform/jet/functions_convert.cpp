@@ -2,6 +2,7 @@
 #include "platform/jet/functioncall.h"
 
 #include "base/oledate.h"
+#include "platform/jet/datemath.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/like.h"
 #include "platform/jet/numbertext.h"
@@ -102,18 +103,7 @@ void readDate(Call &call)
 template <typename Whole>
 void toWholeColumn(Call &call)
 {
-    if (call.isWhole(0)) {
-        const std::int64_t whole = call.wide(0);
-        if (whole < std::numeric_limits<Whole>::min() || whole > std::numeric_limits<Whole>::max())
-            raiseFieldOverflow();
-        call.giveArgument(0);
-        return;
-    }
-    const double rounded = roundToEven(call.number(0));
-    if (!(rounded >= double(std::numeric_limits<Whole>::min()) &&
-          rounded <= double(std::numeric_limits<Whole>::max())))
-        raiseFieldOverflow();
-    call.giveWhole(static_cast<std::int64_t>(rounded));
+    giveAs<Whole>(call, raiseFieldOverflow);
 }
 
 void toDoubleColumn(Call &call)
@@ -126,24 +116,18 @@ void toDoubleColumn(Call &call)
 
 void toSingleColumn(Call &call)
 {
-    const double number = call.number(0);
-    if (!(std::abs(number) <= double(std::numeric_limits<float>::max())))
-        raiseFieldOverflow();
-    call.giveNumber(shownSingle(number));
+    giveSingle(call, raiseFieldOverflow);
 }
 
 void toCurrencyColumn(Call &call)
 {
-    const auto amount = currency(call.number(0));
-    if (!amount)
-        raiseFieldOverflow();
-    call.giveNumber(*amount);
+    giveCurrency(call, raiseFieldOverflow);
 }
 
 void toDateColumn(Call &call)
 {
     const double days = call.isText(0) ? call.date(0) : call.number(0);
-    if (!(days > double(oledate::smallestDay) - 1 && days < double(oledate::largestDay) + 1))
+    if (!inCalendar(days))
         raiseFieldOverflow();
     call.giveNumber(days);
 }

@@ -123,13 +123,6 @@ std::string repeated(std::string_view character, int count)
     return text;
 }
 
-std::string oneCharacter(char32_t code)
-{
-    std::string text;
-    utf8::append(text, code);
-    return text;
-}
-
 std::string_view trimmed(std::string_view text, bool atStart, bool atEnd)
 {
     while (atStart && text.starts_with(' '))
@@ -279,11 +272,11 @@ void stringOf(Call &call)
 {
     const int count = call.whole(0);
     if (call.isText(1)) {
-        call.give(repeated(oneCharacter(firstCharacter(call.text(1))), count));
+        call.give(repeated(utf8::encoded(firstCharacter(call.text(1))), count));
         return;
     }
     const int code = call.whole(1) % 256;
-    call.give(repeated(oneCharacter(fromWindows(code < 0 ? code + 256 : code)), count));
+    call.give(repeated(utf8::encoded(fromWindows(code < 0 ? code + 256 : code)), count));
 }
 
 void codeOf(Call &call)
@@ -300,7 +293,7 @@ void characterOf(Call &call)
     const int code = call.whole(0);
     if (code < 0 || code > 255)
         raiseInvalidCall();
-    call.give(oneCharacter(fromWindows(code)));
+    call.give(utf8::encoded(fromWindows(code)));
 }
 
 void unicodeOf(Call &call)
@@ -313,7 +306,7 @@ void unicodeCharacter(Call &call)
     const int code = call.whole(0);
     if (code < 0 || code > 0x10FFFF || (code >= 0xD800 && code < 0xE000))
         raiseInvalidCall();
-    call.give(oneCharacter(char32_t(code)));
+    call.give(utf8::encoded(char32_t(code)));
 }
 
 void compareStrings(Call &call)

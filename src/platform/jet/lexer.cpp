@@ -1,10 +1,8 @@
 #include "platform/jet/lexer.h"
 
-#include "base/oledate.h"
+#include "platform/jet/datemath.h"
 #include "platform/jet/errortexts.h"
 #include "platform/jet/numbertext.h"
-
-#include <QString>
 
 #include <algorithm>
 #include <array>
@@ -240,7 +238,7 @@ Token Lexer::date()
     std::optional<double> date;
     if (last != std::string_view::npos) {
         literal.text = m_statement.substr(start + 1, last - start - 1);
-        date = oledate::parse(QString::fromUtf8(literal.text.data(), qsizetype(literal.text.size())));
+        date = dateOf(literal.text);
     }
     if (!date)
         raiseSyntax("Syntax error in date in query expression '" +
