@@ -49,10 +49,12 @@ constexpr std::string_view misplacedWord =
     "The SELECT statement includes a reserved word or an argument name that is misspelled or missing, or the "
     "punctuation is incorrect";
 
-// SELECT * FROM (arm): its rows, to be ordered once more.
+// SELECT * FROM (arm): its rows, to be ordered once more. They go by the name of their table.
 Select allOf(Select arm)
 {
     auto source = std::make_unique<Source>();
+    if (arm.from.size() == 1)
+        source->alias = arm.from[0]->alias.empty() ? arm.from[0]->table : arm.from[0]->alias;
     source->query = std::make_unique<Query>();
     source->query->orderBy = std::exchange(arm.orderBy, {});
     source->query->arms.push_back(std::move(arm));
