@@ -69,23 +69,16 @@ TEST_F(NumberFunctionsTest, Convert)
 TEST_F(NumberFunctionsTest, ReadAndWriteDigits)
 {
     check({{
-        {"jet_str(5)", "' 5'"},
-        {"jet_str(-5)", "'-5'"},
-        {"jet_str(0.5)", "' .5'"},
-        {"jet_str(-0.5)", "'-.5'"},
-        {"jet_str(0)", "' 0'"},
-        {"jet_val(' 12 34abc')", "1234.0"},
-        {"jet_val('-1.5e2x')", "-150.0"},
-        {"jet_val('1.2.3')", "1.2"},
-        {"jet_val('1,5')", "1.0"},
-        {"jet_val('&HFFx')", "255.0"},
-        {"jet_val('abc')", "0.0"},
-        {"jet_val('inf')", "0.0"},
-        {"jet_val('')", "0.0"},
-        {"jet_hex(255)", "'FF'"},
-        {"jet_hex(-1)", "'FFFFFFFF'"},
-        {"jet_hex(2.5)", "'2'"},
-        {"jet_hex(3000000000)", OVERFLOW_ERROR},
+        {"jet_str(5)", "' 5'"},           {"jet_str(-5)", "'-5'"},
+        {"jet_str(0.5)", "' .5'"},        {"jet_str(-0.5)", "'-.5'"},
+        {"jet_str(0)", "' 0'"},           {"jet_val(' 12 34abc')", "1234.0"},
+        {"jet_val('-1.5e2x')", "-150.0"}, {"jet_val('1.2.3')", "1.2"},
+        {"jet_val('1,5')", "1.0"},        {"jet_val('&HFFx')", "255.0"},
+        {"jet_val('&HFFFF')", "-1.0"},    {"jet_val('-1e400')", OVERFLOW_ERROR},
+        {"jet_val('1e-400x')", "0.0"},    {"jet_val('abc')", "0.0"},
+        {"jet_val('inf')", "0.0"},        {"jet_val('')", "0.0"},
+        {"jet_hex(255)", "'FF'"},         {"jet_hex(-1)", "'FFFFFFFF'"},
+        {"jet_hex(2.5)", "'2'"},          {"jet_hex(3000000000)", OVERFLOW_ERROR},
         {"jet_oct(8)", "'10'"},
     }});
 }

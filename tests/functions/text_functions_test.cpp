@@ -52,6 +52,8 @@ TEST_F(TextFunctionsTest, ChangeLetters)
         {"jet_space(3)", "'   '"},
         {"jet_space(-1)", INVALID},
         {"jet_space(2000000000)", "-2147467259 Out of string space"},
+        {"jet_replace(jet_space(10000), ' ', jet_space(20000))", "-2147467259 Out of string space"},
+        {"jet_cat(jet_space(60000000), jet_space(60000000))", "-2147467259 Out of string space"},
         {"jet_string(3, 'xy')", "'xxx'"},
         {"jet_string(2, 65)", "'AA'"},
         {"jet_string(2, '')", INVALID},

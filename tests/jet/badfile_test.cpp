@@ -1,35 +1,16 @@
+#include "openstore.h"
+
 #include "base/error.h"
-#include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
-#include "store/storefile.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <functional>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
 
 void makeForeignDatabase(const QString &path)
 {
@@ -41,14 +22,14 @@ void makeForeignDatabase(const QString &path)
 
 void cutStore(const QString &path, double part)
 {
-    createStore(path);
+    makeFreshStore(path);
     const QByteArray whole = contentOf(path);
     writeFile(path, whole.left(qsizetype(double(whole.size()) * part)));
 }
 
 void overwriteStore(const QString &path, double from, double to)
 {
-    createStore(path);
+    makeFreshStore(path);
     QByteArray whole = contentOf(path);
     const auto begin = qsizetype(double(whole.size()) * from);
     const auto end = qsizetype(double(whole.size()) * to);
@@ -137,17 +118,17 @@ TEST_P(ReadOnlyTest, IsReadAndRefusesWrites)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("plan.mdb"_L1);
-    createStore(path);
+    makeFreshStore(path);
     const QByteArray before = contentOf(path);
     QFile::setPermissions(path, GetParam().ofFile);
     QFile::setPermissions(folder.path(), readable | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
 
     // Permission bits do not bind the superuser, so the question is asked as nobody.
-    const pid_t child = fork();
-    if (child == 0) {
+    enum Outcome { Refused, OtherError, NotAsked, Written };
+    const int outcome = inAnotherProcess([&] {
         constexpr uid_t nobody = 65534;
         if (getuid() == 0 && setuid(nobody) != 0)
-            _exit(2);
+            return NotAsked;
         try {
             jet::Connection connection;
             connection.open(jet::connectionString(path));
@@ -156,19 +137,14 @@ TEST_P(ReadOnlyTest, IsReadAndRefusesWrites)
         } catch (const Error &error) {
             const bool told = error.number() == jet::Failure &&
                               error.description().contains("updat"_L1, Qt::CaseInsensitive);
-            if (!told)
-                fprintf(stderr, "%d %s\n", error.number(), error.what());
-            _exit(told ? 0 : 1);
+            return told ? Refused : OtherError;
         }
-        _exit(3);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
+        return Written;
+    });
     QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    ASSERT_TRUE(WIFEXITED(status));
-    if (WEXITSTATUS(status) == 2)
+    if (outcome == NotAsked)
         GTEST_SKIP() << "this process may not become another user";
-    EXPECT_EQ(WEXITSTATUS(status), 0) << (WEXITSTATUS(status) == 3 ? "the write went through" : "");
+    EXPECT_EQ(outcome, Refused);
     EXPECT_EQ(contentOf(path), before);
 }
 

@@ -1,16 +1,8 @@
-#include "platform/jet/connection.h"
+#include "openstore.h"
+
 #include "platform/jet/recordset.h"
-#include "platform/jet/sqlitesetup.h"
-#include "store/storefile.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -75,23 +67,6 @@ private:
     int m_told = -1;
 };
 
-std::string integrityOf(const QString &path)
-{
-    sqlite3 *handle = nullptr;
-    sqlite3_open_v2(path.toUtf8().constData(), &handle, SQLITE_OPEN_READWRITE, nullptr);
-    jet::registerDialect(handle);
-    std::string said;
-    sqlite3_exec(
-        handle, "PRAGMA integrity_check",
-        [](void *text, int, char **columns, char **) {
-            *static_cast<std::string *>(text) += columns[0];
-            return 0;
-        },
-        &said, nullptr);
-    sqlite3_close(handle);
-    return said;
-}
-
 class CrashTest : public testing::TestWithParam<int>
 {
 };
@@ -102,7 +77,7 @@ TEST_P(CrashTest, LosesAtMostTheLastGroupOfWrites)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("store.mdb"_L1);
-    createStore(path);
+    makeFreshStore(path);
     const int told = Writer(path).killAfter(GetParam());
 
     jet::Connection connection;
@@ -117,12 +92,9 @@ TEST_P(CrashTest, LosesAtMostTheLastGroupOfWrites)
         EXPECT_EQ(written.value(1).toInteger(), 1);
     }
     connection.execute(u"INSERT INTO Tbl_RoomUsers (RoomID,UserID) VALUES (2,1)"_s);
-    connection.close();
-    EXPECT_EQ(integrityOf(path), "ok");
+    EXPECT_EQ(integrityOf(connection), "ok");
 }
 
-// Inside the first group, around the ends of groups, and far behind them.
-INSTANTIATE_TEST_SUITE_P(KilledAfter, CrashTest,
-                         testing::Values(1, 500, 2000, 5000, 7500, 10000, 12500, 15000, 17500, 19999, 20000,
-                                         20001, 22500, 25000, 30000),
+// Inside the first group, around its end, and behind it.
+INSTANTIATE_TEST_SUITE_P(KilledAfter, CrashTest, testing::Values(1, 500, 19999, 20000, 20001, 30000),
                          testing::PrintToStringParamName());

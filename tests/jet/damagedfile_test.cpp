@@ -1,44 +1,22 @@
+#include "openstore.h"
+
 #include "base/error.h"
-#include "platform/jet/connection.h"
-#include "platform/jet/database.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 #include "platform/jet/sqlitesetup.h"
 #include "platform/jet/storefile.h"
-#include "store/storefile.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <csignal>
 #include <random>
-#include <sys/mount.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr qsizetype pageSize = 512;
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(content), content.size());
-}
 
 /// The bytes of a small store of many small pages: rows, an index of two levels, a long text
 /// and free pages.
@@ -173,28 +151,6 @@ TEST(StoreOfANewerVersion, IsRefusedAndLeftAlone)
 
 namespace {
 
-/// A folder whose disk has room for a megabyte; empty where that cannot be had.
-class SmallDisk final
-{
-public:
-    SmallDisk() : m_mounted(mount("tmpfs", m_folder.path().toUtf8().constData(), "tmpfs", 0, "size=1m") == 0)
-    {
-    }
-    ~SmallDisk()
-    {
-        if (m_mounted)
-            umount(m_folder.path().toUtf8().constData());
-    }
-    Q_DISABLE_COPY_MOVE(SmallDisk)
-
-    [[nodiscard]] bool isThere() const { return m_mounted; }
-    [[nodiscard]] QString filePath(const QString &name) const { return m_folder.filePath(name); }
-
-private:
-    QTemporaryDir m_folder;
-    bool m_mounted;
-};
-
 /// Fills the store until it is refused, and says the last number that is written for sure.
 int fillUp(const QString &path, Error &refusal)
 {
@@ -224,76 +180,52 @@ void expectRooms(const QString &path, int count)
     jet::Recordset rooms;
     rooms.open(u"SELECT Count(*), Max(ID) FROM Tbl_Rooms"_s, connection);
     EXPECT_EQ(rooms.value(0).toInteger(), count);
-    std::string said;
-    sqlite3_exec(
-        connection.database().handle(), "PRAGMA integrity_check",
-        [](void *text, int, char **columns, char **) {
-            *static_cast<std::string *>(text) += columns[0];
-            return 0;
-        },
-        &said, nullptr);
-    EXPECT_EQ(said, "ok");
+    EXPECT_EQ(integrityOf(connection), "ok");
 }
 
 } // namespace
 
+// A process whose files may not grow beyond a size stands for a full disk.
 TEST(FullDisk, KeepsWhatWasWrittenBeforeAndSaysSo)
-{
-    const SmallDisk disk;
-    if (!disk.isThere())
-        GTEST_SKIP() << "this process may not mount a small disk";
-    const QString path = disk.filePath(u"plan.mdb"_s);
-    createStore(path);
-    Error refusal(0, {});
-    const int written = fillUp(path, refusal);
-    EXPECT_EQ(refusal.number(), jet::Failure);
-    EXPECT_TRUE(refusal.description().contains("disk space"_L1)) << refusal.what();
-    EXPECT_GT(written, 0);
-    expectRooms(path, written);
-
-    const QString second = disk.filePath(u"second.mdb"_s);
-    try {
-        createStore(second);
-        FAIL() << "the disk had room for a second store";
-    } catch (const Error &error) {
-        EXPECT_EQ(error.number(), jet::Failure);
-        EXPECT_FALSE(error.description().isEmpty());
-    }
-    EXPECT_EQ(QDir(disk.filePath({})).entryList(QDir::Files), QStringList{u"plan.mdb"_s});
-}
-
-// The same where nothing can be mounted: a process whose files may not grow beyond a size.
-TEST(FileSizeLimit, KeepsWhatWasWrittenBeforeAndSaysSo)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("plan.mdb"_L1);
-    createStore(path);
+    makeFreshStore(path);
     const auto limit = rlim_t(QFileInfo(path).size() + 200'000);
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
-    const pid_t child = fork();
-    if (child == 0) {
+    const auto limitTo = [limit](rlim_t size) {
+        const rlimit limits{size, limit};
+        return setrlimit(RLIMIT_FSIZE, &limits) == 0;
+    };
+    const auto tellsOfDisk = [](const Error &error) {
+        return error.number() == jet::Failure && error.description().contains("disk"_L1, Qt::CaseInsensitive);
+    };
+    enum Outcome { Told, NotLimited, NotWritten, OtherError, SecondStoreMade };
+    const int outcome = inAnotherProcess([&] {
         signal(SIGXFSZ, SIG_IGN);
-        const rlimit both{limit, limit};
-        if (setrlimit(RLIMIT_FSIZE, &both) != 0)
-            _exit(2);
+        if (!limitTo(limit))
+            return NotLimited;
         Error refusal(0, {});
         const int written = fillUp(path, refusal);
         if (write(ends[1], &written, sizeof written) != sizeof written)
-            _exit(3);
-        _exit(refusal.number() == jet::Failure &&
-                      refusal.description().contains("disk"_L1, Qt::CaseInsensitive)
-                  ? 0
-                  : 1);
-    }
+            return NotWritten;
+        try {
+            constexpr rlim_t lessThanAStore = 8192;
+            if (!limitTo(lessThanAStore))
+                return NotLimited;
+            createStore(folder.filePath("second.mdb"_L1));
+            return SecondStoreMade;
+        } catch (const Error &error) {
+            return tellsOfDisk(refusal) && tellsOfDisk(error) ? Told : OtherError;
+        }
+    });
     close(ends[1]);
     int written = 0;
     EXPECT_EQ(read(ends[0], &written, sizeof written), ssize_t(sizeof written));
     close(ends[0]);
-    int status = 0;
-    waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFEXITED(status)) << "signal " << WTERMSIG(status);
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+    EXPECT_EQ(outcome, Told);
     EXPECT_GT(written, 0);
     expectRooms(path, written);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"plan.mdb"_s});
 }

@@ -1,11 +1,9 @@
+#include "openstore.h"
+
 #include "base/error.h"
-#include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/interrupt.h"
 #include "platform/jet/recordset.h"
-#include "support/freshstore.h"
-
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -13,13 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class InterruptTest : public testing::Test
+class InterruptTest : public OpenStore
 {
 protected:
     void SetUp() override
     {
-        makeFreshStore(path);
-        connection.open(jet::connectionString(path));
         for (int room = 1; room <= 300; ++room)
             connection.execute("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('R"_L1 + QString::number(room) +
                                "')"_L1);
@@ -31,10 +27,6 @@ protected:
         rows.open(sql, connection);
         return rows.value(0).toInteger();
     }
-
-    QTemporaryDir folder;
-    QString path = folder.filePath("plan.mdb"_L1);
-    jet::Connection connection;
 };
 
 // Eight billion combinations of rooms: without an answer it would run for minutes.

@@ -1,9 +1,7 @@
-#include "base/error.h"
-#include "platform/jet/connection.h"
-#include "platform/jet/recordset.h"
-#include "support/freshstore.h"
+#include "openstore.h"
 
-#include <QTemporaryDir>
+#include "base/error.h"
+#include "platform/jet/recordset.h"
 
 #include <gtest/gtest.h>
 
@@ -12,32 +10,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Long and deep statements: answered, or refused in plain words, and the store works on.
-class LimitsTest : public testing::Test
+class LimitsTest : public OpenStore
 {
 public:
-    void SetUp() override
-    {
-        const QString path = m_folder.filePath("store.mdb"_L1);
-        makeFreshStore(path);
-        m_connection.open(jet::connectionString(path));
-        m_connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('A')"_s);
-    }
+    void SetUp() override { connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('A')"_s); }
 
     /// The only value of the answer, or the number and the text of the error.
     QString answer(const QString &sql)
     {
         try {
             jet::Recordset rows;
-            rows.open(sql, m_connection);
+            rows.open(sql, connection);
             return rows.recordCount() == 1 ? rows.value(0).toText() : QString::number(rows.recordCount());
         } catch (const Error &error) {
             return QString::number(error.number()) + u' ' + error.description();
         }
     }
-
-private:
-    QTemporaryDir m_folder;
-    jet::Connection m_connection;
 };
 
 QString repeated(QLatin1StringView text, int times)
@@ -73,6 +61,7 @@ TEST_F(LimitsTest, LongStatementsAreAnswered)
         {"unions", "SELECT ID FROM Tbl_Rooms"_L1 + repeated(" UNION SELECT ID FROM Tbl_Rooms"_L1, 400),
          u"1"_s},
         {"a text of 1 MB", "SELECT Len('"_L1 + repeated("a"_L1, 1'000'000) + "')"_L1, u"1000000"_s},
+        {"bits", "SELECT 1"_L1 + repeated(" BXOR 2"_L1, 24), u"1"_s},
         {"blanks", "SELECT "_L1 + repeated(" "_L1, 1'000'000) + u'1', u"1"_s},
     };
     for (const Statement &statement : statements)
@@ -110,6 +99,18 @@ TEST_F(LimitsTest, DeepStatementsAreRefusedInPlainWords)
     for (const Statement &statement : statements)
         EXPECT_EQ(statement.answer, answer(statement.sql)) << statement.name;
     EXPECT_EQ(u"1"_s, answer(u"SELECT Count(*) FROM Tbl_Rooms"_s));
+}
+
+// A guess must leave something of the word, and costs time for an endless one.
+TEST_F(LimitsTest, NoNameIsGuessedForAShortWordOrAnEndlessOne)
+{
+    const QString unknown =
+        u"-2147217904 No value given for one or more required parameters. '%1' is not known here."_s;
+    EXPECT_EQ(answer(u"SELECT x.ID FROM Tbl_Rooms AS y"_s), unknown.arg(u"x.ID"_s));
+    EXPECT_EQ(answer(u"SELECT q FROM (SELECT 1 AS A)"_s), unknown.arg(u"q"_s));
+    const QString endless = repeated("a"_L1, 1'000'000);
+    EXPECT_EQ(answer("SELECT "_L1 + endless + " FROM Tbl_Rooms"_L1),
+              unknown.arg(endless.left(200) + "..."_L1));
 }
 
 TEST_F(LimitsTest, LongErrorsShowAnExcerpt)

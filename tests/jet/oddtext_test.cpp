@@ -1,10 +1,8 @@
+#include "openstore.h"
+
 #include "base/error.h"
-#include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
-#include "support/freshstore.h"
-
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -13,21 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Characters that no file of cases can hold.
-class OddTextTest : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        const QString path = m_folder.filePath("plan.mdb"_L1);
-        makeFreshStore(path);
-        connection.open(jet::connectionString(path));
-    }
-
-    jet::Connection connection;
-
-private:
-    QTemporaryDir m_folder;
-};
+using OddTextTest = OpenStore;
 
 } // namespace
 

@@ -1,11 +1,9 @@
+#include "openstore.h"
+
 #include "base/error.h"
 #include "platform/jet/command.h"
-#include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
-#include "support/freshstore.h"
-
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -25,13 +23,11 @@ int numberOf(const std::function<void()> &step)
     return 0;
 }
 
-class RecordsetTest : public testing::Test
+class RecordsetTest : public OpenStore
 {
 protected:
     void SetUp() override
     {
-        makeFreshStore(path);
-        connection.open(jet::connectionString(path));
         for (const char *room : {"A", "B"})
             connection.execute("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('"_L1 + QLatin1StringView(room) +
                                "')"_L1);
@@ -42,9 +38,6 @@ protected:
         rooms.open(u"SELECT ID, RoomNumber, Description FROM Tbl_Rooms ORDER BY ID"_s, connection);
     }
 
-    QTemporaryDir folder;
-    QString path = folder.filePath(u"store.mdb"_s);
-    jet::Connection connection;
     jet::Recordset rooms;
 };
 
@@ -124,6 +117,13 @@ TEST_F(RecordsetTest, TheListOfTablesIsByName)
     EXPECT_EQ(tables.recordCount(), 23);
     EXPECT_EQ(tables.value(u"TABLE_NAME").toText(), u"Tbl_CustomQuery"_s);
     EXPECT_EQ(tables.value(u"TABLE_TYPE").toText(), u"TABLE"_s);
+    EXPECT_EQ(numberOf([&] { connection.openSchema(jet::SchemaTables, tables); }), jet::ObjectOpen);
+    EXPECT_EQ(tables.fields().count(), 2);
+    openRooms();
+    rooms.close();
+    connection.openSchema(jet::SchemaTables, rooms);
+    EXPECT_EQ(rooms.fields().count(), 2);
+    EXPECT_EQ(rooms.value(0).toText(), u"Tbl_CustomQuery"_s);
     jet::Recordset other;
     EXPECT_NE(numberOf([&] { connection.openSchema(4, other); }), 0);
 }

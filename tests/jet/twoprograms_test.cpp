@@ -1,15 +1,8 @@
+#include "openstore.h"
+
 #include "base/error.h"
-#include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
-#include "support/freshstore.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -74,17 +67,16 @@ private:
     pid_t m_process = 0;
 };
 
+using TwoPrograms = OpenStore;
+using TwoConnections = OpenStore;
+using VanishedFile = OpenStore;
+
 } // namespace
 
-TEST(TwoPrograms, TheSecondWriterIsToldWhoHoldsTheFile)
+TEST_F(TwoPrograms, TheSecondWriterIsToldWhoHoldsTheFile)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
-    makeFreshStore(path);
     OtherProgram other(path);
 
-    jet::Connection connection;
-    connection.open(jet::connectionString(path));
     jet::Recordset rooms;
     rooms.open(u"SELECT * FROM Tbl_Rooms"_s, connection); // reading goes on meanwhile
     EXPECT_EQ(rooms.recordCount(), 0);
@@ -103,52 +95,38 @@ TEST(TwoPrograms, TheSecondWriterIsToldWhoHoldsTheFile)
     EXPECT_EQ(after.recordCount(), 2);
 }
 
-TEST(TwoPrograms, LookingAtAnOpenFileKeepsItsLocks)
+TEST_F(TwoPrograms, LookingAtAnOpenFileKeepsItsLocks)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
-    makeFreshStore(path);
-    jet::Connection writer;
-    writer.open(jet::connectionString(path));
-    writer.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('pending')"_s);
+    connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('pending')"_s);
     {
         jet::Connection second;
         second.open(jet::connectionString(path));
     }
     // Were the locks gone, a child could write now.
-    const pid_t child = fork();
-    if (child == 0) {
-        alarm(60);
+    // The parent's handle comes along with the fork; this file is reached by another name.
+    const QString link = folder.filePath("link.mdb"_L1);
+    ASSERT_TRUE(::link(path.toUtf8().constData(), link.toUtf8().constData()) == 0);
+    const auto write = [&] {
         try {
-            jet::Connection connection;
-            // The parent's handle came along with the fork; this file is reached by another name.
-            const QString link = folder.filePath("link.mdb"_L1);
-            if (::link(path.toUtf8().constData(), link.toUtf8().constData()) != 0)
-                _exit(3);
-            connection.open(jet::connectionString(link));
-            connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('theirs')"_s);
-        } catch (const Error &) {
-            _exit(0);
+            jet::Connection other;
+            other.open(jet::connectionString(link));
+            other.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('theirs')"_s);
+        } catch (const Error &error) {
+            return error.description().contains("locked"_L1) || error.description().contains("in use"_L1) ? 0
+                                                                                                          : 2;
         }
-        _exit(1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status)) << "it waited too long";
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+        return 1;
+    };
+    EXPECT_EQ(inAnotherProcess(write), 0);
 }
 
-TEST(TwoConnections, OneReadsWhatTheOtherHasJustWritten)
+TEST_F(TwoConnections, OneReadsWhatTheOtherHasJustWritten)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
-    makeFreshStore(path);
-    jet::Connection writer;
-    writer.open(jet::connectionString(path));
     jet::Connection reader;
     reader.open(jet::connectionString(path));
     for (int room = 1; room <= 50; ++room) {
-        writer.execute("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('"_L1 + QString::number(room) + "')"_L1);
+        connection.execute("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('"_L1 + QString::number(room) +
+                           "')"_L1);
         if (room % 10 == 0)
             jet::flushPendingWrites();
         jet::Recordset rows;
@@ -157,15 +135,13 @@ TEST(TwoConnections, OneReadsWhatTheOtherHasJustWritten)
     }
 }
 
-TEST(VanishedFile, IsNotWrittenTo)
+TEST_F(VanishedFile, IsNotWrittenTo)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
-    makeFreshStore(path);
-    jet::Connection connection;
-    connection.open(jet::connectionString(path));
     connection.execute(u"SELECT * FROM Tbl_Rooms"_s);
     QFile::remove(path);
+    jet::Recordset rooms;
+    rooms.open(u"SELECT * FROM Tbl_Rooms"_s, connection); // the open handle still has it
+    EXPECT_EQ(rooms.recordCount(), 0);
     try {
         connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('lost')"_s);
         FAIL() << "written to a file that is gone";
@@ -173,4 +149,7 @@ TEST(VanishedFile, IsNotWrittenTo)
         EXPECT_EQ(error.number(), jet::Failure);
         EXPECT_TRUE(error.description().contains("plan.mdb"_L1)) << error.what();
     }
+    connection.close();
+    EXPECT_THROW(connection.open(jet::connectionString(path)), Error);
+    EXPECT_FALSE(QFile::exists(path));
 }

@@ -343,8 +343,14 @@ std::string foldCase(std::string_view text)
 void registerCollation(sqlite3 *handle)
 {
     const auto compare = [](void *, int leftSize, const void *left, int rightSize, const void *right) {
-        return compareTexts({static_cast<const char *>(left), std::size_t(leftSize)},
-                            {static_cast<const char *>(right), std::size_t(rightSize)});
+        const std::string_view a{static_cast<const char *>(left), std::size_t(leftSize)};
+        const std::string_view b{static_cast<const char *>(right), std::size_t(rightSize)};
+        try {
+            return compareTexts(a, b);
+        } catch (...) {
+            // No exception may pass through SQLite, and it takes no error from here.
+            return a.compare(b);
+        }
     };
     sqlite3_create_collation_v2(handle, "JET", SQLITE_UTF8, nullptr, compare, nullptr);
 }

@@ -12,7 +12,7 @@ inline constexpr int CommandTypeText = 1;
 class Command final
 {
 public:
-    int commandType = CommandTypeText;
+    int commandType = CommandTypeText; ///< the only kind there is, so never read
     QString commandText;
 
     void setActiveConnection(Connection *connection) { m_connection = connection; }

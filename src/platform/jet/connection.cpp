@@ -129,6 +129,7 @@ void Connection::openSchema(int schema, Recordset &recordset)
     constexpr int nameSize = 64;
     Database &open = database();
     open.catalog().refresh();
+    recordset.fields().clear();
     recordset.fields().append(u"TABLE_NAME"_s, FieldType::VarChar, nameSize);
     recordset.fields().append(u"TABLE_TYPE"_s, FieldType::VarChar, nameSize);
     recordset.open();

@@ -39,7 +39,8 @@ public:
     void execute(const QString &sql);
 
     /// The table list (schema 20) as a disconnected recordset with the fields
-    /// TABLE_NAME and TABLE_TYPE, which is "TABLE", by name. The recordset is a new one.
+    /// TABLE_NAME and TABLE_TYPE, which is "TABLE", by name. What the recordset held
+    /// is dropped; an open one raises ObjectOpen (3705).
     void openSchema(int schema, Recordset &recordset);
 
     /// Raises ConnectionClosed (3709) when not open.

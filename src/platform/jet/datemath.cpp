@@ -28,6 +28,16 @@ std::int64_t startOfFirstWeek(int year, WeekRule rule)
 
 } // namespace
 
+std::optional<double> dateOf(std::string_view text)
+{
+    return oledate::parse(QString::fromUtf8(text.data(), qsizetype(text.size())));
+}
+
+bool inCalendar(double date)
+{
+    return date > double(oledate::smallestDay) - 1 && date < double(oledate::largestDay) + 1;
+}
+
 std::optional<WeekRule> weekRule(int firstDay, int firstWeek)
 {
     if (firstDay < 0 || firstDay > 7 || firstWeek < 0 || firstWeek > 3)

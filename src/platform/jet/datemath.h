@@ -2,8 +2,15 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 namespace jet {
+
+/// Reads a text in UTF-8 as oledate::parse() does.
+[[nodiscard]] std::optional<double> dateOf(std::string_view text);
+
+/// Whether the point in time lies on a day of the calendar.
+[[nodiscard]] bool inCalendar(double date);
 
 /// Weeks as people count them: on which weekday they begin, 1 for Sunday to 7, and which is
 /// the first of a year, 1 the one with 1 January, 2 the first with four days, 3 the first full one.

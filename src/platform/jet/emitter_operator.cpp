@@ -69,22 +69,26 @@ Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
     if (sign == "+" && texts)
         return {.sql = '(' + value(left) + " || " + value(right) + ')', .type = {DataType::Memo}};
 
-    const bool runningTells =
-        isText(common) && (left.type.type == DataType::Unknown || right.type.type == DataType::Unknown);
-    if (sign == "+" && runningTells) {
-        m_mayRaise = true;
-        return {.sql = "jet_add(" + value(left) + ", " + value(right) + ')', .type = {DataType::Unknown}};
-    }
-    if (sign == "+" || sign == "-" || sign == "*")
-        return infix(sign, left, right);
-
-    m_mayRaise = true;
-    const bool longs = isLong(left.type.type) && isLong(right.type.type);
-    const DataType whole = longs ? DataType::Long : DataType::Wide;
+    // Functions take both sides as they are: a text is read only where the other is not Null.
     const auto call = [&](const char *name, DataType type) {
-        return Piece{.sql = std::string(name) + '(' + asNumber(left) + ", " + asNumber(right) + ')',
+        m_mayRaise = true;
+        return Piece{.sql = std::string(name) + '(' + value(left) + ", " + value(right) + ')',
                      .type = {type}};
     };
+    const bool unknown = left.type.type == DataType::Unknown || right.type.type == DataType::Unknown;
+    if (sign == "+" && isText(common) && unknown)
+        return call("jet_add", DataType::Unknown);
+    if (sign == "+" || sign == "-" || sign == "*") {
+        const Piece plain = infix(sign, left, right);
+        if (!isText(common) && !unknown)
+            return plain;
+        Piece piece = call(sign == "+" ? "jet_add" : sign == "-" ? "jet_sub" : "jet_mul", plain.type.type);
+        piece.mayOverflow = plain.type.type == DataType::Date;
+        return piece;
+    }
+
+    const bool longs = isLong(left.type.type) && isLong(right.type.type);
+    const DataType whole = longs ? DataType::Long : DataType::Wide;
     if (sign == "/")
         return call("jet_div", DataType::Double);
     if (sign == "\\")
@@ -93,13 +97,12 @@ Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
         return call("jet_mod", whole);
     if (sign == "^")
         return call("jet_pow", DataType::Double);
-    const std::string a = asBits(left);
-    const std::string b = asBits(right);
-    if (sign == "BAND")
-        return {.sql = '(' + a + " & " + b + ')', .type = {DataType::Long}};
-    if (sign == "BOR")
-        return {.sql = '(' + a + " | " + b + ')', .type = {DataType::Long}};
-    return {.sql = "((" + a + " | " + b + ") & ~(" + a + " & " + b + "))", .type = {DataType::Long}};
+    if (sign == "BXOR")
+        return call("jet_bxor", DataType::Long);
+    if (longs)
+        return {.sql = '(' + value(left) + (sign == "BAND" ? " & " : " | ") + value(right) + ')',
+                .type = {DataType::Long}};
+    return call(sign == "BAND" ? "jet_band" : "jet_bor", DataType::Long);
 }
 
 std::string Emitter::asBits(const Piece &piece)

@@ -71,11 +71,14 @@ bool tellsOfLimit(std::string_view sqliteMessage)
 
 std::string suggestion(std::string_view word, const std::vector<std::string_view> &names)
 {
+    constexpr std::size_t longestName = 64;
+    if (word.size() > longestName)
+        return {};
     std::string_view nearest;
     std::size_t best = std::max<std::size_t>(1, word.size() / 3);
     for (const std::string_view name : names) {
         const std::size_t distance = wordDistance(word, name);
-        if (distance <= best && (nearest.empty() || distance < best)) {
+        if (distance < word.size() && distance <= best && (nearest.empty() || distance < best)) {
             best = distance;
             nearest = name;
         }

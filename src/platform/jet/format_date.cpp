@@ -13,23 +13,6 @@ namespace jet {
 
 namespace {
 
-constexpr std::string_view shortDate = "m/d/yyyy";
-constexpr std::string_view longDate = "dddd, mmmm d, yyyy";
-constexpr std::string_view longTime = "h:nn:ss AM/PM";
-
-struct NamedPicture
-{
-    std::string_view name;
-    std::string_view picture;
-};
-
-constexpr std::array namedPictures{
-    NamedPicture{"General Date", "c"},        NamedPicture{"Long Date", longDate},
-    NamedPicture{"Medium Date", "dd-mmm-yy"}, NamedPicture{"Short Date", shortDate},
-    NamedPicture{"Long Time", longTime},      NamedPicture{"Medium Time", "hh:nn AM/PM"},
-    NamedPicture{"Short Time", "hh:nn"},
-};
-
 constexpr std::array<std::string_view, 3> halfMarks{"AM/PM", "AMPM", "A/P"};
 
 /// The mark of the half of the day that the text begins with, as it is written there, or empty.
@@ -189,9 +172,7 @@ private:
 
 std::string formatDate(double date, std::string_view picture, WeekRule rule)
 {
-    const auto named = std::ranges::find_if(
-        namedPictures, [&](const NamedPicture &row) { return sameWord(row.name, picture); });
-    return DateWriter(date, rule).write(named == namedPictures.end() ? picture : named->picture);
+    return DateWriter(date, rule).write(pictureOf(picture));
 }
 
 } // namespace jet

@@ -3,33 +3,14 @@
 #include "platform/jet/decimal.h"
 #include "platform/jet/numbertext.h"
 #include "platform/jet/picture.h"
-#include "platform/jet/words.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 
 namespace jet {
 
 namespace {
-
-struct NamedPicture
-{
-    std::string_view name;
-    std::string_view picture;
-};
-
-constexpr std::array namedPictures{
-    NamedPicture{"Currency", "$#,##0.00;($#,##0.00)"},
-    NamedPicture{"Fixed", "0.00"},
-    NamedPicture{"Standard", "#,##0.00"},
-    NamedPicture{"Percent", "0.00%"},
-    NamedPicture{"Scientific", "0.00E+00"},
-    NamedPicture{"Yes/No", "\"Yes\";\"Yes\";\"No\""},
-    NamedPicture{"True/False", "\"True\";\"True\";\"False\""},
-    NamedPicture{"On/Off", "\"On\";\"On\";\"Off\""},
-};
 
 bool isDigitPlace(const PictureItem &item)
 {
@@ -210,15 +191,12 @@ std::string NumberSection::exponentPart(int exponent) const
 
 std::string formatNumber(double number, std::string_view picture)
 {
-    const auto named = std::ranges::find_if(
-        namedPictures, [&](const NamedPicture &row) { return sameWord(row.name, picture); });
-    if (named != namedPictures.end())
-        picture = named->picture;
+    picture = pictureOf(picture);
     const auto sections = pictureSections(picture);
     const std::size_t wanted = number < 0 ? 1 : number == 0 ? 2 : 0;
     const bool hasOwn = wanted > 0 && wanted < sections.size() && !sections[wanted].empty();
     const std::string_view section = hasOwn ? sections[wanted] : sections[0];
-    if (section.empty() || sameWord(picture, "General Number"))
+    if (section.empty() || picture == generalNumber)
         return numberText(number);
     bool isZero = false;
     const std::string text = NumberSection(section).format(std::abs(number), isZero);

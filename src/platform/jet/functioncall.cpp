@@ -1,7 +1,7 @@
 #include "platform/jet/functioncall.h"
 
-#include "base/oledate.h"
 #include "platform/jet/collation.h"
+#include "platform/jet/datemath.h"
 #include "platform/jet/decimal.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/numbertext.h"
@@ -71,6 +71,13 @@ void raiseDivisionByZero()
     throw CallError{Failure, "Division by zero"};
 }
 
+void requireRoom(std::size_t bytes)
+{
+    constexpr std::size_t largest = 100'000'000;
+    if (bytes > largest)
+        throw CallError{Failure, "Out of string space"};
+}
+
 double roundToEven(double number)
 {
     return std::nearbyint(number);
@@ -97,8 +104,12 @@ std::optional<double> currency(double number)
 
 void resultError(sqlite3_context *context, int number, std::string_view text)
 {
-    const std::string message = numberMark + std::to_string(number) + numberMark + std::string(text);
-    sqlite3_result_error(context, message.data(), int(message.size()));
+    try {
+        const std::string message = numberMark + std::to_string(number) + numberMark + std::string(text);
+        sqlite3_result_error(context, message.data(), int(message.size()));
+    } catch (const std::bad_alloc &) {
+        sqlite3_result_error_nomem(context);
+    }
 }
 
 int takeErrorNumber(std::string_view &message)
@@ -173,14 +184,14 @@ double Call::date(int index) const
     double days = 0;
     if (isText(index)) {
         const std::string_view text = ownText(index);
-        const auto date = oledate::parse(QString::fromUtf8(text.data(), qsizetype(text.size())));
+        const auto date = dateOf(text);
         if (!date)
             raiseMismatch(text, "a date");
         days = *date;
     } else {
         days = number(index);
     }
-    if (!(days > double(oledate::smallestDay) - 1 && days < double(oledate::largestDay) + 1))
+    if (!inCalendar(days))
         raiseOverflow();
     return days;
 }
@@ -247,9 +258,28 @@ void Call::giveArgument(int index)
         sqlite3_result_value(m_context, m_values[index]);
 }
 
-void Call::giveNull()
+void giveWithin(Call &call, std::int64_t least, std::int64_t most, void (*tooLarge)())
 {
-    sqlite3_result_null(m_context);
+    const double rounded = roundToEven(call.number(0));
+    if (!(rounded >= double(least) && rounded <= double(most)))
+        tooLarge();
+    call.giveWhole(static_cast<std::int64_t>(rounded));
+}
+
+void giveSingle(Call &call, void (*tooLarge)())
+{
+    const double number = call.number(0);
+    if (!(std::abs(number) <= double(std::numeric_limits<float>::max())))
+        tooLarge();
+    call.giveNumber(shownSingle(number));
+}
+
+void giveCurrency(Call &call, void (*tooLarge)())
+{
+    const auto amount = currency(call.number(0));
+    if (!amount)
+        tooLarge();
+    call.giveNumber(amount.value_or(0));
 }
 
 void bindFunction(sqlite3 *handle, const char *name, const Binding &binding)

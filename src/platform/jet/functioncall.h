@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <forward_list>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,6 +26,10 @@ struct CallError
 [[noreturn]] void raiseOverflow();
 [[noreturn]] void raiseInvalidCall();
 [[noreturn]] void raiseDivisionByZero();
+
+/// Raises Failure "Out of string space" for a text of more bytes than a function may give. What makes a text
+/// longer than what it was given asks before it does.
+void requireRoom(std::size_t bytes);
 
 /// Halves go to the even neighbour.
 [[nodiscard]] double roundToEven(double number);
@@ -73,7 +78,6 @@ public:
     void giveWhole(std::int64_t number);
     void giveBoolean(bool value) { giveWhole(value ? -1 : 0); }
     void giveArgument(int index);
-    void giveNull();
 
     [[nodiscard]] sqlite3_context *context() const { return m_context; }
 
@@ -85,6 +89,18 @@ private:
     sqlite3_value **m_values;
     std::forward_list<std::string> m_texts;
 };
+
+/// Give the first argument as a whole number between the two, a single or a currency, rounded to what it
+/// holds. What does not fit goes to `tooLarge`, which raises.
+void giveWithin(Call &call, std::int64_t least, std::int64_t most, void (*tooLarge)());
+void giveSingle(Call &call, void (*tooLarge)());
+void giveCurrency(Call &call, void (*tooLarge)());
+
+template <typename Whole>
+void giveAs(Call &call, void (*tooLarge)())
+{
+    giveWithin(call, std::numeric_limits<Whole>::min(), std::numeric_limits<Whole>::max(), tooLarge);
+}
 
 using Body = void (*)(Call &);
 

@@ -62,7 +62,9 @@ struct FunctionInfo
 ///   jet_fit(x, n)        the text, raises FieldTooSmall when longer than n characters
 ///   jet_add(a, b)        the + of values whose types only running tells: two texts are
 ///                        joined, otherwise numbers added; Null with anything is Null
-///   jet_div, jet_idiv, jet_mod, jet_pow   the arithmetic that SQLite lacks
+///   jet_sub, jet_mul     the same for - and *
+///   jet_div, jet_idiv, jet_mod, jet_pow, jet_bxor   the arithmetic that SQLite lacks
+///   jet_band, jet_bor    of values that are no whole numbers of 32 bits
 ///   jet_raise(number, text)   raises
 void registerFunctions(sqlite3 *handle);
 
@@ -70,7 +72,8 @@ void registerFunctions(sqlite3 *handle);
 void setClock(std::function<QDateTime()> clock);
 [[nodiscard]] QDateTime clockTime();
 
-/// Ends a function call with an error that reaches the caller as an Error of that number.
+/// Ends a function call with an error that reaches the caller as an Error of that number. Throws
+/// nothing, so that it serves where SQLite is the caller.
 void resultError(sqlite3_context *context, int number, std::string_view text);
 
 /// Takes the number out of a message made by resultError. Returns 0 for other messages.

@@ -2,6 +2,7 @@
 #include "platform/jet/functioncall.h"
 
 #include "base/oledate.h"
+#include "platform/jet/datemath.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/like.h"
 #include "platform/jet/numbertext.h"
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <sqlite3.h>
@@ -31,7 +33,9 @@ void concatenate(Call &call)
     bool any = false;
     for (int i = 0; i < call.count(); ++i) {
         any = any || !call.isNull(i);
-        joined += call.text(i);
+        const std::string_view part = call.text(i);
+        requireRoom(joined.size() + part.size());
+        joined += part;
     }
     if (any)
         call.give(joined);
@@ -99,18 +103,7 @@ void readDate(Call &call)
 template <typename Whole>
 void toWholeColumn(Call &call)
 {
-    if (call.isWhole(0)) {
-        const std::int64_t whole = call.wide(0);
-        if (whole < std::numeric_limits<Whole>::min() || whole > std::numeric_limits<Whole>::max())
-            raiseFieldOverflow();
-        call.giveArgument(0);
-        return;
-    }
-    const double rounded = roundToEven(call.number(0));
-    if (!(rounded >= double(std::numeric_limits<Whole>::min()) &&
-          rounded <= double(std::numeric_limits<Whole>::max())))
-        raiseFieldOverflow();
-    call.giveWhole(static_cast<std::int64_t>(rounded));
+    giveAs<Whole>(call, raiseFieldOverflow);
 }
 
 void toDoubleColumn(Call &call)
@@ -123,24 +116,18 @@ void toDoubleColumn(Call &call)
 
 void toSingleColumn(Call &call)
 {
-    const double number = call.number(0);
-    if (!(std::abs(number) <= double(std::numeric_limits<float>::max())))
-        raiseFieldOverflow();
-    call.giveNumber(shownSingle(number));
+    giveSingle(call, raiseFieldOverflow);
 }
 
 void toCurrencyColumn(Call &call)
 {
-    const auto amount = currency(call.number(0));
-    if (!amount)
-        raiseFieldOverflow();
-    call.giveNumber(*amount);
+    giveCurrency(call, raiseFieldOverflow);
 }
 
 void toDateColumn(Call &call)
 {
     const double days = call.isText(0) ? call.date(0) : call.number(0);
-    if (!(days > double(oledate::smallestDay) - 1 && days < double(oledate::largestDay) + 1))
+    if (!inCalendar(days))
         raiseFieldOverflow();
     call.giveNumber(days);
 }
@@ -161,10 +148,27 @@ void fit(Call &call)
 
 void add(Call &call)
 {
-    if (call.isText(0) && call.isText(1))
+    if (call.isText(0) && call.isText(1)) {
+        requireRoom(call.text(0).size() + call.text(1).size());
         call.give(std::string(call.text(0)).append(call.text(1)));
-    else
+    } else
         call.giveNumber(call.number(0) + call.number(1));
+}
+
+void subtract(Call &call)
+{
+    call.giveNumber(call.number(0) - call.number(1));
+}
+
+void multiply(Call &call)
+{
+    call.giveNumber(call.number(0) * call.number(1));
+}
+
+template <typename Operation>
+void combineBits(Call &call)
+{
+    call.giveWhole(Operation()(call.whole(0), call.whole(1)));
 }
 
 void divide(Call &call)
@@ -240,6 +244,11 @@ const Conversion conversions[] = {
     {"jet_tobool", {toBooleanColumn}},
     {"jet_fit", {fit}},
     {"jet_add", {add}},
+    {"jet_sub", {subtract}},
+    {"jet_mul", {multiply}},
+    {"jet_band", {combineBits<std::bit_and<>>}},
+    {"jet_bor", {combineBits<std::bit_or<>>}},
+    {"jet_bxor", {combineBits<std::bit_xor<>>}},
     {"jet_div", {divide}},
     {"jet_idiv", {divideWhole}},
     {"jet_mod", {modulo}},

@@ -304,8 +304,7 @@ void isDate(Call &call)
         return;
     }
     const std::string_view text = call.text(1);
-    call.giveBoolean(kind == "d" ||
-                     oledate::parse(QString::fromUtf8(text.data(), qsizetype(text.size()))).has_value());
+    call.giveBoolean(kind == "d" || dateOf(text).has_value());
 }
 
 } // namespace jet::bodies

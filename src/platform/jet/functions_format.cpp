@@ -31,7 +31,7 @@ std::string formatTextValue(Call &call, std::string_view picture, PictureKinds k
         return number ? formatNumber(jet::toDouble(*number), picture) : std::string(text);
     if (!kinds.forDates)
         return std::string(text);
-    if (const auto date = oledate::parse(QString::fromUtf8(text.data(), qsizetype(text.size()))))
+    if (const auto date = dateOf(text))
         return formatDate(*date, picture, rule);
     return number ? formatDate(call.dateOrNumber(Subject), picture, rule) : std::string(text);
 }

@@ -24,16 +24,6 @@ void unlessWhole(Call &call, Change change)
         call.giveNumber(change(call.number(0)));
 }
 
-template <typename Whole>
-void giveAs(Call &call)
-{
-    const double rounded = roundToEven(call.number(0));
-    if (!(rounded >= double(std::numeric_limits<Whole>::min()) &&
-          rounded <= double(std::numeric_limits<Whole>::max())))
-        raiseOverflow();
-    call.giveWhole(static_cast<std::int64_t>(rounded));
-}
-
 void giveDigits(Call &call, int base)
 {
     std::string digits(12, ' ');
@@ -140,17 +130,17 @@ void toBoolean(Call &call)
 
 void toByte(Call &call)
 {
-    giveAs<std::uint8_t>(call);
+    giveAs<std::uint8_t>(call, raiseOverflow);
 }
 
 void toInteger(Call &call)
 {
-    giveAs<std::int16_t>(call);
+    giveAs<std::int16_t>(call, raiseOverflow);
 }
 
 void toLong(Call &call)
 {
-    giveAs<std::int32_t>(call);
+    giveAs<std::int32_t>(call, raiseOverflow);
 }
 
 void toDouble(Call &call)
@@ -160,18 +150,12 @@ void toDouble(Call &call)
 
 void toSingle(Call &call)
 {
-    const double number = call.number(0);
-    if (std::abs(number) > double(std::numeric_limits<float>::max()))
-        raiseOverflow();
-    call.giveNumber(shownSingle(number));
+    giveSingle(call, raiseOverflow);
 }
 
 void toCurrency(Call &call)
 {
-    const auto amount = currency(call.number(0));
-    if (!amount)
-        raiseOverflow();
-    call.giveNumber(*amount);
+    giveCurrency(call, raiseOverflow);
 }
 
 void toDate(Call &call)

@@ -112,23 +112,14 @@ char32_t firstCharacter(std::string_view text)
 
 std::string repeated(std::string_view character, int count)
 {
-    constexpr int largest = 100'000'000;
-    if (count > largest)
-        throw CallError{Failure, "Out of string space"};
     const std::size_t size = atLeast(0, count);
+    requireRoom(character.size() * size);
     if (character.size() == 1)
         return std::string(size, character.front());
     std::string text;
     text.reserve(character.size() * size);
     for (int i = 0; i < count; ++i)
         text += character;
-    return text;
-}
-
-std::string oneCharacter(char32_t code)
-{
-    std::string text;
-    utf8::append(text, code);
     return text;
 }
 
@@ -251,6 +242,7 @@ void replace(Call &call)
         if (found == std::string_view::npos)
             break;
         const std::size_t before = utf8::offset(text, utf8::length(folded.substr(0, found)));
+        requireRoom(result.size() + before + replacement.size());
         result.append(text.substr(0, before)).append(replacement);
         text = withoutCharacters(text.substr(before), needleLength);
         folded.remove_prefix(found + search.needle.size());
@@ -280,11 +272,11 @@ void stringOf(Call &call)
 {
     const int count = call.whole(0);
     if (call.isText(1)) {
-        call.give(repeated(oneCharacter(firstCharacter(call.text(1))), count));
+        call.give(repeated(utf8::encoded(firstCharacter(call.text(1))), count));
         return;
     }
     const int code = call.whole(1) % 256;
-    call.give(repeated(oneCharacter(fromWindows(code < 0 ? code + 256 : code)), count));
+    call.give(repeated(utf8::encoded(fromWindows(code < 0 ? code + 256 : code)), count));
 }
 
 void codeOf(Call &call)
@@ -301,7 +293,7 @@ void characterOf(Call &call)
     const int code = call.whole(0);
     if (code < 0 || code > 255)
         raiseInvalidCall();
-    call.give(oneCharacter(fromWindows(code)));
+    call.give(utf8::encoded(fromWindows(code)));
 }
 
 void unicodeOf(Call &call)
@@ -314,7 +306,7 @@ void unicodeCharacter(Call &call)
     const int code = call.whole(0);
     if (code < 0 || code > 0x10FFFF || (code >= 0xD800 && code < 0xE000))
         raiseInvalidCall();
-    call.give(oneCharacter(char32_t(code)));
+    call.give(utf8::encoded(char32_t(code)));
 }
 
 void compareStrings(Call &call)

@@ -1,9 +1,8 @@
 #include "platform/jet/lexer.h"
 
-#include "base/oledate.h"
+#include "platform/jet/datemath.h"
 #include "platform/jet/errortexts.h"
-
-#include <QString>
+#include "platform/jet/numbertext.h"
 
 #include <algorithm>
 #include <array>
@@ -159,7 +158,7 @@ Token Lexer::number()
         m_at = static_cast<std::size_t>(last - m_statement.data());
         if (error != std::errc())
             raiseSyntax("Syntax error in number", m_statement, start, m_at);
-        literal.number = static_cast<std::int32_t>(hex);
+        literal.number = signedBits(hex);
     } else {
         const char *at = begin;
         for (; at < end && classOf(*at) == Digit; ++at)
@@ -178,10 +177,8 @@ Token Lexer::number()
             for (at += 2; at < end && classOf(*at) == Digit;)
                 ++at;
         }
-        if (literal.kind == TokenKind::Float || !plain) {
-            if (const auto [last, error] = std::from_chars(begin, at, literal.number); error != std::errc())
-                literal.number = std::numeric_limits<double>::infinity();
-        }
+        if (literal.kind == TokenKind::Float || !plain)
+            readDouble({begin, at}, literal.number);
         if (literal.number > std::numeric_limits<std::int32_t>::max())
             literal.kind = TokenKind::Float;
         m_at = static_cast<std::size_t>(at - m_statement.data());
@@ -238,10 +235,11 @@ Token Lexer::date()
     const std::size_t end = last == std::string_view::npos ? m_statement.size() : last + 1;
     Literal literal;
     literal.kind = TokenKind::Date;
-    literal.text = m_statement.substr(start + 1, end - start - 2);
     std::optional<double> date;
-    if (last != std::string_view::npos)
-        date = oledate::parse(QString::fromUtf8(literal.text.data(), qsizetype(literal.text.size())));
+    if (last != std::string_view::npos) {
+        literal.text = m_statement.substr(start + 1, last - start - 1);
+        date = dateOf(literal.text);
+    }
     if (!date)
         raiseSyntax("Syntax error in date in query expression '" +
                         excerpt(m_statement.substr(start, end - start)) + '\'',
@@ -254,8 +252,7 @@ Token Lexer::date()
 void liftLiterals(std::string_view statement, LiftedStatement &lifted)
 {
     lifted.shape.clear();
-    lifted.literals.clear();
-    Lexer lexer(statement);
+    Lexer lexer(statement, lifted.literals);
     std::size_t copied = 0;
     for (Token token = lexer.next(); token.kind != TokenKind::End; token = lexer.next()) {
         if (token.literal < 0)
@@ -266,7 +263,6 @@ void liftLiterals(std::string_view statement, LiftedStatement &lifted)
         copied = token.end;
     }
     lifted.shape.append(statement, copied);
-    lifted.literals = lexer.takeLiterals();
 }
 
 std::size_t characterAt(std::string_view statement, std::size_t offset)

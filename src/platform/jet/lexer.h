@@ -29,18 +29,21 @@ struct Literal
     double number = 0; ///< of numbers and dates
 };
 
-/// Takes a statement apart, one token a call. The statement (UTF-8) must outlive it. Raises
-/// SyntaxError for an unclosed text, name or date and for a character that is none of the
-/// dialect's, TypeMismatch for an impossible date.
+/// Takes a statement apart, one token a call, and puts its literals into the list, which it empties first.
+/// The statement (UTF-8) and the list must outlive it. Raises SyntaxError for an unclosed text, name or date
+/// and for a character that is none of the dialect's, TypeMismatch for an impossible date.
 class Lexer final
 {
 public:
-    explicit Lexer(std::string_view statement) : m_statement(statement) {}
+    Lexer(std::string_view statement, std::vector<Literal> &literals)
+        : m_statement(statement)
+        , m_literals(literals)
+    {
+        m_literals.clear();
+    }
 
     Token next();
     [[nodiscard]] std::string_view statement() const { return m_statement; }
-    [[nodiscard]] const std::vector<Literal> &literals() const { return m_literals; }
-    [[nodiscard]] std::vector<Literal> &&takeLiterals() { return std::move(m_literals); }
 
 private:
     [[nodiscard]] bool operandBefore() const;
@@ -57,7 +60,7 @@ private:
     std::size_t m_at = 0;
     TokenKind m_lastKind = TokenKind::End;
     std::string_view m_lastText;
-    std::vector<Literal> m_literals;
+    std::vector<Literal> &m_literals;
 };
 
 /// A statement whose literals are lifted out: `shape` is the same for all statements that

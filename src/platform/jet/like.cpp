@@ -15,13 +15,6 @@ namespace {
 
 constexpr std::size_t shortText = 256;
 
-std::string oneCharacter(char32_t code)
-{
-    std::string text;
-    utf8::append(text, code);
-    return text;
-}
-
 bool isAlphanumeric(char32_t code)
 {
     return code < utf8::firstBrokenByte && QChar::isLetterOrNumber(code);
@@ -36,9 +29,9 @@ bool LikePattern::Set::lies(char32_t folded, const std::pair<char32_t, char32_t>
         return folded == first;
     // Between letters and digits the order of the store decides, so that [a-z] has the accented letters too.
     if (isAlphanumeric(first) && isAlphanumeric(last)) {
-        const std::string text = oneCharacter(folded);
-        return isAlphanumeric(folded) && compareTexts(oneCharacter(first), text) <= 0 &&
-               compareTexts(text, oneCharacter(last)) <= 0;
+        const std::string text = utf8::encoded(folded);
+        return isAlphanumeric(folded) && compareTexts(utf8::encoded(first), text) <= 0 &&
+               compareTexts(text, utf8::encoded(last)) <= 0;
     }
     return folded >= first && folded <= last;
 }

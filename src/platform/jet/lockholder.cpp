@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 using namespace Qt::StringLiterals;
 
@@ -31,12 +32,13 @@ QString lockHolder(const QString &path)
     if (stat(QFile::encodeName(path).constData(), &file) != 0 || !locks.open(QIODevice::ReadOnly))
         return {};
     // 1: POSIX  ADVISORY  WRITE 4711 fe:00:131077 1073741824 1073742335
-    const QString inode = u':' + QString::number(file.st_ino);
+    const QString wanted = QString::asprintf("%02x:%02x:%llu", major(file.st_dev), minor(file.st_dev),
+                                             static_cast<unsigned long long>(file.st_ino));
     for (const QString &line : QString::fromUtf8(locks.readAll()).split(u'\n')) {
         const QStringList words = line.simplified().split(u' ');
         constexpr qsizetype processWord = 4;
         constexpr qsizetype fileWord = 5;
-        if (words.size() <= fileWord || !words[fileWord].endsWith(inode))
+        if (words.size() <= fileWord || words[fileWord] != wanted)
             continue;
         const qint64 process = words[processWord].toLongLong();
         if (process > 0 && process != QCoreApplication::applicationPid())

@@ -35,16 +35,13 @@ int takeBase(std::string_view &text)
     return base;
 }
 
-/// Hexadecimal and octal digits stand for the bits of a whole number of 16 or 32 bits.
 std::optional<std::int64_t> bits(std::string_view digits, int base)
 {
     std::uint64_t value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
     if (digits.empty() || error != std::errc() || end != digits.data() + digits.size() || value > 0xFFFFFFFF)
         return {};
-    if (value > 0xFFFF)
-        return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
-    return value > 0x7FFF ? static_cast<std::int64_t>(value) - 0x10000 : static_cast<std::int64_t>(value);
+    return signedBits(static_cast<std::uint32_t>(value));
 }
 
 /// Whether each comma has three digits behind it up to the next one or the end, and some before the first.
@@ -63,6 +60,24 @@ bool commasAreThousands(std::string_view digits)
 }
 
 } // namespace
+
+const char *readDouble(std::string_view digits, double &number)
+{
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error == std::errc::result_out_of_range) {
+        const bool tiny = digits.find("e-") != digits.npos || digits.find("E-") != digits.npos;
+        long double wide = tiny ? 0 : HUGE_VALL; // stays for what not even this type holds
+        std::from_chars(digits.data(), end, wide);
+        number = wide > 1 ? HUGE_VAL : wide < -1 ? -HUGE_VAL : 0;
+    }
+    return error == std::errc::invalid_argument ? digits.data() : end;
+}
+
+std::int32_t signedBits(std::uint32_t bits)
+{
+    return bits > 0x7FFF && bits <= 0xFFFF ? static_cast<std::int16_t>(bits)
+                                           : static_cast<std::int32_t>(bits);
+}
 
 double toDouble(const Number &number)
 {
@@ -101,8 +116,7 @@ std::optional<Number> parseNumber(std::string_view text)
     }
     digits.append(rest);
     double value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (error != std::errc() || end != digits.data() + digits.size())
+    if (readDouble(digits, value) != digits.data() + digits.size() || std::isinf(value))
         return {};
     return value;
 }
@@ -127,7 +141,7 @@ double leadingNumber(std::string_view text)
     const bool isNumber = rest.size() > first && (isDigit(rest[first]) || rest[first] == '.');
     double value = 0;
     if (isNumber)
-        std::from_chars(rest.data(), rest.data() + rest.size(), value);
+        readDouble(rest, value);
     return value;
 }
 

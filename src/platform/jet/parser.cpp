@@ -3,39 +3,31 @@
 #include "platform/jet/errortexts.h"
 #include "platform/jet/parser_guards.h"
 
-#include <array>
+#include <utility>
 
 namespace jet {
 namespace {
 
-// Words that end a clause: they are no names unless bracketed.
-constexpr std::array reserved = {
-    std::string_view("SELECT"),  std::string_view("FROM"),     std::string_view("WHERE"),
-    std::string_view("GROUP"),   std::string_view("HAVING"),   std::string_view("ORDER"),
-    std::string_view("UNION"),   std::string_view("INNER"),    std::string_view("LEFT"),
-    std::string_view("RIGHT"),   std::string_view("JOIN"),     std::string_view("ON"),
-    std::string_view("AS"),      std::string_view("AND"),      std::string_view("OR"),
-    std::string_view("NOT"),     std::string_view("XOR"),      std::string_view("EQV"),
-    std::string_view("IMP"),     std::string_view("LIKE"),     std::string_view("ALIKE"),
-    std::string_view("IN"),      std::string_view("IS"),       std::string_view("NULL"),
-    std::string_view("BETWEEN"), std::string_view("SET"),      std::string_view("VALUES"),
-    std::string_view("INTO"),    std::string_view("INSERT"),   std::string_view("UPDATE"),
-    std::string_view("DELETE"),  std::string_view("DISTINCT"), std::string_view("DISTINCTROW"),
-    std::string_view("MOD"),     std::string_view("EXISTS"),   std::string_view("TRUE"),
-    std::string_view("FALSE"),   std::string_view("BY"),       std::string_view("ASC"),
-    std::string_view("DESC"),    std::string_view("BAND"),     std::string_view("BOR"),
-    std::string_view("BXOR"),    std::string_view("BNOT"),     std::string_view("CREATE"),
-    std::string_view("TABLE"),   std::string_view("ALL"),
-};
+// Words that are no names unless bracketed.
+constexpr std::string_view reserved[] = {
+    "SELECT", "FROM",     "WHERE",       "GROUP", "HAVING",  "ORDER", "UNION",  "INNER", "LEFT",   "RIGHT",
+    "JOIN",   "ON",       "AS",          "AND",   "OR",      "NOT",   "XOR",    "EQV",   "IMP",    "LIKE",
+    "ALIKE",  "IN",       "IS",          "NULL",  "BETWEEN", "SET",   "VALUES", "INTO",  "INSERT", "UPDATE",
+    "DELETE", "DISTINCT", "DISTINCTROW", "MOD",   "EXISTS",  "TRUE",  "FALSE",  "BY",    "ASC",    "DESC",
+    "BAND",   "BOR",      "BXOR",        "BNOT",  "CREATE",  "TABLE", "ALL"};
 
 // Words and signs that may stand behind an expression.
-constexpr std::array<std::string_view, 17> behindExpression = {
-    ",",    ")",  ";",   "FROM", "WHERE", "GROUP", "HAVING", "ORDER", "UNION",
-    "INTO", "AS", "ASC", "DESC", "INNER", "LEFT",  "RIGHT",  "SET"};
+constexpr std::string_view behindExpression[] = {",",      ")",     ";",     "FROM",  "WHERE", "GROUP",
+                                                 "HAVING", "ORDER", "UNION", "INTO",  "AS",    "ASC",
+                                                 "DESC",   "INNER", "LEFT",  "RIGHT", "SET"};
 
 // What may stand behind a table of FROM.
-constexpr std::array<std::string_view, 13> behindTable = {
-    ",", ")", ";", "WHERE", "GROUP", "HAVING", "ORDER", "UNION", "INNER", "LEFT", "RIGHT", "ON", "SET"};
+constexpr std::string_view behindTable[] = {",",     ")",     ";",    "WHERE", "GROUP", "HAVING", "ORDER",
+                                            "UNION", "INNER", "LEFT", "RIGHT", "ON",    "SET"};
+
+// Words that other dialects have behind a table and its alias.
+constexpr std::string_view foreignBehindTable[] = {"JOIN",  "FULL",  "CROSS", "NATURAL",
+                                                   "USING", "LIMIT", "OFFSET"};
 
 template <typename Words>
 constexpr bool contains(const Words &words, std::string_view word)
@@ -57,9 +49,24 @@ constexpr std::string_view misplacedWord =
     "The SELECT statement includes a reserved word or an argument name that is misspelled or missing, or the "
     "punctuation is incorrect";
 
+// SELECT * FROM (arm): its rows, to be ordered once more. They go by the name of their table.
+Select allOf(Select arm)
+{
+    auto source = std::make_unique<Source>();
+    if (arm.from.size() == 1)
+        source->alias = arm.from[0]->alias.empty() ? arm.from[0]->table : arm.from[0]->alias;
+    source->query = std::make_unique<Query>();
+    source->query->orderBy = std::exchange(arm.orderBy, {});
+    source->query->arms.push_back(std::move(arm));
+    Select all;
+    all.items.emplace_back();
+    all.from.push_back(std::move(source));
+    return all;
+}
+
 } // namespace
 
-Parser::Parser(std::string_view statement) : m_lexer(statement)
+Parser::Parser(std::string_view statement) : m_lexer(statement, m_literals)
 {
     do
         m_tokens.push_back(m_lexer.next());
@@ -197,6 +204,9 @@ QueryPtr Parser::query(bool allowInto)
         query->orderBy.clear(); // one in the middle orders nothing
         selectArm(*query, false);
     }
+    if (query->arms.size() == 1 && query->arms[0].top && !query->arms[0].orderBy.empty() &&
+        !query->orderBy.empty())
+        query->arms[0] = allOf(std::move(query->arms[0]));
     // Behind the last arm stands the order of all; within its parentheses its own, for its TOP.
     if (!ownOrder && query->orderBy.empty()) {
         query->orderBy = std::move(query->arms.back().orderBy);
@@ -266,10 +276,10 @@ void Parser::top(Select &select)
 {
     take();
     const Token count = peek();
-    if (count.kind != TokenKind::Integer || m_lexer.literals()[std::size_t(count.literal)].number < 1)
+    if (count.kind != TokenKind::Integer || m_literals[std::size_t(count.literal)].number < 1)
         failAt("Invalid TOP argument", count);
     select.topLiteral = count.literal;
-    select.top = static_cast<int>(m_lexer.literals()[std::size_t(count.literal)].number);
+    select.top = static_cast<int>(m_literals[std::size_t(count.literal)].number);
     take();
     select.percent = accept("PERCENT");
 }
@@ -384,9 +394,11 @@ void Parser::alias(Source &source)
     const bool bare = !accept("AS") && atIdentifier();
     if (bare || sameWord(first.text, "AS"))
         source.alias = identifier();
+    if (isOneOf(peek(), behindTable))
+        return;
     // A word that is none of the dialect has passed as an alias: it is at fault, not the next.
-    if (!isOneOf(peek(), behindTable))
-        failAt("Syntax error in " + std::string(m_clause), bare ? first : peek());
+    const bool nextIsForeign = isOneOf(peek(), foreignBehindTable) && !isOneOf(first, foreignBehindTable);
+    failAt("Syntax error in " + std::string(m_clause), bare && !nextIsForeign ? first : peek());
 }
 
 // Behind an opening parenthesis: a query, in parentheses of its own or not, or a join whose first table

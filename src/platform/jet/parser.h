@@ -16,7 +16,7 @@ public:
 
     [[nodiscard]] Statement parse();
     /// The values that literals of the tree point to.
-    [[nodiscard]] const std::vector<Literal> &literals() const { return m_lexer.literals(); }
+    [[nodiscard]] const std::vector<Literal> &literals() const { return m_literals; }
 
 private:
     // The words at hand.
@@ -68,7 +68,11 @@ private:
     ExpressionPtr logic(std::size_t level);
     ExpressionPtr negation();
     ExpressionPtr comparison();
-    ExpressionPtr predicate(ExpressionPtr left, std::size_t start, bool &done);
+    ExpressionPtr comparedBy(std::string_view sign, ExpressionPtr left, std::size_t start);
+    ExpressionPtr nullTest(ExpressionPtr left, std::size_t start);
+    /// [Not] Like, Between or In.
+    ExpressionPtr membership(ExpressionPtr left, std::size_t start);
+    ExpressionPtr listed(ExpressionPtr left, std::size_t start);
     ExpressionPtr joinedTexts();
     ExpressionPtr arithmetic(std::size_t level);
     ExpressionPtr sign();
@@ -85,6 +89,7 @@ private:
     template <typename... Arguments>
     ExpressionPtr node(ExpressionKind kind, std::size_t start, std::string_view name, Arguments... arguments);
 
+    std::vector<Literal> m_literals;
     Lexer m_lexer;
     std::vector<Token> m_tokens;
     std::size_t m_at = 0;

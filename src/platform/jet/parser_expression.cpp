@@ -2,6 +2,7 @@
 #include "platform/jet/parser.h"
 #include "platform/jet/parser_guards.h"
 
+#include <algorithm>
 #include <array>
 
 namespace jet {
@@ -28,7 +29,9 @@ constexpr std::array<ArithmeticLevel, 5> arithmeticLevels = {{
     {{"\\", ""}},
 }};
 
-constexpr std::array<std::string_view, 6> comparisons = {"=", "<>", "<", ">", "<=", ">="};
+constexpr std::string_view comparisons[] = {"=", "<>", "<", ">", "<=", ">="};
+
+constexpr std::string_view membershipWords[] = {"LIKE", "ALIKE", "IN", "BETWEEN"};
 
 constexpr std::string_view functionsAmongKeywords[] = {"LEFT", "RIGHT", "ASC"};
 
@@ -113,70 +116,84 @@ ExpressionPtr Parser::comparison()
 {
     const std::size_t start = peek().offset;
     ExpressionPtr left = joinedTexts();
-    for (bool done = false; !done;)
-        left = predicate(std::move(left), start, done);
-    return left;
+    for (;;) {
+        const auto sign = std::ranges::find_if(comparisons, [this](std::string_view s) { return accept(s); });
+        if (sign != std::end(comparisons))
+            left = comparedBy(*sign, std::move(left), start);
+        else if (accept("IS"))
+            left = nullTest(std::move(left), start);
+        else if (std::ranges::any_of(membershipWords,
+                                     [&](std::string_view word) { return at(word, at("NOT") ? 1 : 0); }))
+            left = membership(std::move(left), start);
+        else
+            return left;
+    }
 }
 
-ExpressionPtr Parser::predicate(ExpressionPtr left, std::size_t start, bool &done)
+ExpressionPtr Parser::comparedBy(std::string_view sign, ExpressionPtr left, std::size_t start)
 {
-    for (const std::string_view sign : comparisons) {
-        if (!accept(sign))
-            continue;
-        if (at("ANY") || at("SOME") || at("ALL")) {
-            const bool all = at("ALL");
-            take();
-            expect("(");
-            QueryPtr rows = query();
-            expect(")");
-            ExpressionPtr result = node(ExpressionKind::Quantified, start, sign, std::move(left));
-            result->query = std::move(rows);
-            result->all = all;
-            return result;
-        }
+    if (!at("ANY") && !at("SOME") && !at("ALL")) {
         ExpressionPtr right = joinedTexts();
         return node(ExpressionKind::Compare, start, sign, std::move(left), std::move(right));
     }
-    if (accept("IS")) {
-        const bool negated = accept("NOT");
-        expect("NULL");
-        ExpressionPtr result = node(ExpressionKind::IsNull, start, "IS", std::move(left));
-        result->negated = negated;
-        return result;
-    }
-    const bool negated = at("NOT") && (at("LIKE", 1) || at("ALIKE", 1) || at("IN", 1) || at("BETWEEN", 1));
-    if (negated)
-        take();
+    const bool all = at("ALL");
+    take();
+    expect("(");
+    QueryPtr rows = query();
+    expect(")");
+    ExpressionPtr result = node(ExpressionKind::Quantified, start, sign, std::move(left));
+    result->query = std::move(rows);
+    result->all = all;
+    return result;
+}
+
+ExpressionPtr Parser::nullTest(ExpressionPtr left, std::size_t start)
+{
+    const bool negated = accept("NOT");
+    expect("NULL");
+    ExpressionPtr result = node(ExpressionKind::IsNull, start, "IS", std::move(left));
+    result->negated = negated;
+    return result;
+}
+
+ExpressionPtr Parser::membership(ExpressionPtr left, std::size_t start)
+{
+    const bool negated = accept("NOT");
     ExpressionPtr result;
-    if (accept("LIKE") || accept("ALIKE")) {
-        ExpressionPtr pattern = joinedTexts();
-        result = node(ExpressionKind::Like, start, "LIKE", std::move(left), std::move(pattern));
-    } else if (accept("BETWEEN")) {
+    if (accept("BETWEEN")) {
         ExpressionPtr low = joinedTexts();
         expect("AND");
         ExpressionPtr high = joinedTexts();
         result =
             node(ExpressionKind::Between, start, "BETWEEN", std::move(left), std::move(low), std::move(high));
-    } else if (accept("IN")) {
-        expect("(");
-        if (at("SELECT") || at("TABLE")) {
-            QueryPtr rows = query();
-            result = node(ExpressionKind::InQuery, start, "IN", std::move(left));
-            result->query = std::move(rows);
-        } else {
-            result = node(ExpressionKind::InList, start, "IN", std::move(left));
-            const DepthGuard depth(*this);
-            do
-                add(*result, logic(0));
-            while (accept(","));
-        }
-        expect(")");
-    } else {
-        done = true;
-        return left;
+    } else if (accept("IN"))
+        result = listed(std::move(left), start);
+    else {
+        take();
+        ExpressionPtr pattern = joinedTexts();
+        result = node(ExpressionKind::Like, start, "LIKE", std::move(left), std::move(pattern));
     }
     result->negated = negated;
     result->text = textFrom(start);
+    return result;
+}
+
+ExpressionPtr Parser::listed(ExpressionPtr left, std::size_t start)
+{
+    ExpressionPtr result;
+    expect("(");
+    if (at("SELECT") || at("TABLE")) {
+        QueryPtr rows = query();
+        result = node(ExpressionKind::InQuery, start, "IN", std::move(left));
+        result->query = std::move(rows);
+    } else {
+        result = node(ExpressionKind::InList, start, "IN", std::move(left));
+        const DepthGuard depth(*this);
+        do
+            add(*result, logic(0));
+        while (accept(","));
+    }
+    expect(")");
     return result;
 }
 
@@ -213,6 +230,10 @@ ExpressionPtr Parser::arithmetic(std::size_t level)
 ExpressionPtr Parser::sign()
 {
     const std::size_t start = peek().offset;
+    // Two hyphens begin a comment elsewhere; here they are nothing.
+    if (at("-") && m_at > 0 && m_tokens[m_at - 1].kind == TokenKind::Symbol &&
+        m_tokens[m_at - 1].text == "-" && m_tokens[m_at - 1].end == start)
+        fail();
     if (accept("+")) {
         const DepthGuard depth(*this);
         return sign();
@@ -234,12 +255,12 @@ ExpressionPtr Parser::power()
     ExpressionPtr left = primary();
     while (accept("^")) {
         const std::size_t exponent = peek().offset;
-        ExpressionPtr right;
-        if (accept("-")) {
-            right = primary();
+        const bool negated = accept("-");
+        if (!negated)
+            accept("+");
+        ExpressionPtr right = primary();
+        if (negated)
             right = node(ExpressionKind::Negate, exponent, "-", std::move(right));
-        } else
-            right = primary();
         left = node(ExpressionKind::Arithmetic, start, "^", std::move(left), std::move(right));
     }
     return left;
@@ -297,7 +318,8 @@ ExpressionPtr Parser::nameOrCall()
 {
     const Token token = peek();
     const std::size_t start = token.offset;
-    if (!atIdentifier())
+    // ON may be the constant where it cannot begin the condition of a join.
+    if (!atIdentifier() && !at("ON"))
         fail();
     take();
     if (token.kind == TokenKind::Name && sameWord(token.text, "@@IDENTITY"))

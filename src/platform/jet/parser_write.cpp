@@ -146,7 +146,7 @@ ColumnDefinition Parser::columnDefinition(CreateTable &table)
         const Token width = peek();
         if (width.kind != TokenKind::Integer)
             fail();
-        const double characters = m_lexer.literals()[std::size_t(width.literal)].number;
+        const double characters = m_literals[std::size_t(width.literal)].number;
         if (characters < 1 || characters > widestText)
             failAt("Size of field '" + std::string(column.name) + "' is too " +
                        (characters < 1 ? "short" : "long"),

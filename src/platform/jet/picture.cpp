@@ -5,28 +5,52 @@
 #include "platform/jet/words.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace jet {
 
 namespace {
 
-struct NamedKind
+struct NamedPicture
 {
     std::string_view name;
+    std::string_view picture;
     bool forDates;
 };
 
-constexpr std::array namedKinds{
-    NamedKind{"General Number", false}, NamedKind{"Currency", false},   NamedKind{"Fixed", false},
-    NamedKind{"Standard", false},       NamedKind{"Percent", false},    NamedKind{"Scientific", false},
-    NamedKind{"Yes/No", false},         NamedKind{"True/False", false}, NamedKind{"On/Off", false},
-    NamedKind{"General Date", true},    NamedKind{"Long Date", true},   NamedKind{"Medium Date", true},
-    NamedKind{"Short Date", true},      NamedKind{"Long Time", true},   NamedKind{"Medium Time", true},
-    NamedKind{"Short Time", true},
+constexpr NamedPicture namedPictures[] = {
+    {"General Number", generalNumber, false},
+    {"Currency", "$#,##0.00;($#,##0.00)", false},
+    {"Fixed", "0.00", false},
+    {"Standard", "#,##0.00", false},
+    {"Percent", "0.00%", false},
+    {"Scientific", "0.00E+00", false},
+    {"Yes/No", "\"Yes\";\"Yes\";\"No\"", false},
+    {"True/False", "\"True\";\"True\";\"False\"", false},
+    {"On/Off", "\"On\";\"On\";\"Off\"", false},
+    {"General Date", "c", true},
+    {"Long Date", longDate, true},
+    {"Medium Date", "dd-mmm-yy", true},
+    {"Short Date", shortDate, true},
+    {"Long Time", longTime, true},
+    {"Medium Time", "hh:nn AM/PM", true},
+    {"Short Time", "hh:nn", true},
 };
 
+const NamedPicture *findNamed(std::string_view name)
+{
+    const auto row =
+        std::ranges::find_if(namedPictures, [&](const NamedPicture &r) { return sameWord(r.name, name); });
+    return row == std::end(namedPictures) ? nullptr : row;
+}
+
 } // namespace
+
+std::string_view pictureOf(std::string_view name)
+{
+    const NamedPicture *named = findNamed(name);
+    return named ? named->picture : name;
+}
 
 std::vector<PictureItem> pictureItems(std::string_view picture)
 {
@@ -64,9 +88,7 @@ std::vector<std::string_view> pictureSections(std::string_view picture)
 
 PictureKinds kindsOf(std::string_view picture)
 {
-    const auto named =
-        std::ranges::find_if(namedKinds, [&](const NamedKind &row) { return sameWord(row.name, picture); });
-    if (named != namedKinds.end())
+    if (const NamedPicture *named = findNamed(picture))
         return {.forNumbers = !named->forDates, .forDates = named->forDates};
     constexpr std::string_view dateLetters = "dmyhnsqwcDMYHNSQWC:/";
     PictureKinds kinds;

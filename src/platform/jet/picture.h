@@ -6,6 +6,14 @@
 
 namespace jet {
 
+inline constexpr std::string_view generalNumber = "General Number";
+inline constexpr std::string_view shortDate = "m/d/yyyy";
+inline constexpr std::string_view longDate = "dddd, mmmm d, yyyy";
+inline constexpr std::string_view longTime = "h:nn:ss AM/PM";
+
+/// The picture that a name like "Long Date" stands for; any other text as it is.
+[[nodiscard]] std::string_view pictureOf(std::string_view name);
+
 /// One step of the picture of a format: a character that stands for itself, or one that may be
 /// a placeholder.
 struct PictureItem

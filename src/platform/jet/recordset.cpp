@@ -42,6 +42,23 @@ Value variantAt(sqlite3_stmt *statement, int column)
     }
 }
 
+[[noreturn]] void raiseOpen()
+{
+    raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+}
+
+[[noreturn]] void raiseNotWritable()
+{
+    raise(Failure, u"Operation must use an updatable query."_s);
+}
+
+[[noreturn]] void raiseNoItem(const QString &item)
+{
+    raise(ItemNotFound,
+          "Item cannot be found in the collection corresponding to the requested name or ordinal. ("_L1 +
+              item + u')');
+}
+
 void setNumber(std::vector<double> &numbers, std::vector<bool> &set, std::size_t row, double number)
 {
     if (row >= numbers.size()) {
@@ -131,7 +148,7 @@ void Recordset::open(const QString &sql, Connection &connection, int cursor, int
     Q_UNUSED(lock);
     Q_UNUSED(options);
     if (m_open)
-        raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+        raiseOpen();
     clearRows();
     Filler filler(*this);
     try {
@@ -146,7 +163,7 @@ void Recordset::open(const QString &sql, Connection &connection, int cursor, int
 void Recordset::open()
 {
     if (m_open)
-        raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+        raiseOpen();
     clearRows();
     m_columns.resize(m_header ? m_header->size() : 0); // a statement without rows leaves none
     m_open = true;
@@ -202,7 +219,7 @@ void Recordset::addNew()
 {
     requireOpen();
     if (!m_writable)
-        raise(Failure, u"Operation must use an updatable query."_s);
+        raiseNotWritable();
     m_current = m_rows++;
 }
 
@@ -302,7 +319,7 @@ void Field::setValue(const Value &value)
 {
     m_recordset->requireRecord();
     if (!m_recordset->m_writable)
-        raise(Failure, u"Operation must use an updatable query."_s);
+        raiseNotWritable();
     m_recordset->setValueAt(m_recordset->m_current, m_index, value);
 }
 
@@ -323,10 +340,7 @@ int Fields::indexOf(QStringView name) const
 Field Fields::item(int index) const
 {
     if (index < 0 || index >= count())
-        raise(
-            ItemNotFound,
-            "Item cannot be found in the collection corresponding to the requested name or ordinal. (item "_L1 +
-                QString::number(index) + ')'_L1);
+        raiseNoItem("item "_L1 + QString::number(index));
     return Field(m_recordset, std::size_t(index));
 }
 
@@ -334,17 +348,23 @@ Field Fields::item(QStringView name) const
 {
     const int index = indexOf(name);
     if (index < 0)
-        raise(ItemNotFound,
-              "Item cannot be found in the collection corresponding to the requested name or ordinal. ('"_L1 +
-                  name + "')"_L1);
+        raiseNoItem(u'\'' + name + u'\'');
     return Field(m_recordset, std::size_t(index));
+}
+
+void Fields::clear()
+{
+    if (m_recordset->m_open)
+        raiseOpen();
+    m_recordset->m_header.reset();
+    m_recordset->m_columns.clear();
 }
 
 void Fields::append(const QString &name, FieldType type, int size, int attributes)
 {
     Q_UNUSED(attributes);
     if (m_recordset->m_open)
-        raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+        raiseOpen();
     auto header = std::make_shared<std::vector<HeaderField>>();
     if (m_recordset->m_header)
         *header = *m_recordset->m_header;

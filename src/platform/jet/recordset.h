@@ -2,6 +2,7 @@
 
 #include "base/textcolumn.h"
 #include "base/value.h"
+#include "platform/jet/fieldtype.h"
 
 #include <QString>
 
@@ -13,22 +14,6 @@ namespace jet {
 class Connection;
 class Recordset;
 struct HeaderField;
-
-/// The type numbers that fields report.
-enum class FieldType {
-    Short = 2,
-    Long = 3,
-    Single = 4,
-    Double = 5,
-    Currency = 6,
-    Date = 7,
-    Boolean = 11,
-    Variant = 12,
-    Byte = 17,
-    VarChar = 200,
-    Text = 202,
-    Memo = 203,
-};
 
 /// One field of the current record. A light reference: valid while its recordset is open.
 class Field final
@@ -61,6 +46,8 @@ public:
     [[nodiscard]] int indexOf(QStringView name) const;
     /// Adds a field to a closed recordset that is being made in memory.
     void append(const QString &name, FieldType type, int size, int attributes = -1);
+    /// Drops the fields of a closed recordset.
+    void clear();
 
 private:
     friend class Recordset;
@@ -74,6 +61,7 @@ private:
 class Recordset final
 {
 public:
+    // Rows are always a disconnected copy: these are kept for callers that state them, and never read.
     int cursorType = 0;
     int cursorLocation = 3;
     int lockType = 1;

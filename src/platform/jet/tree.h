@@ -18,8 +18,8 @@ using ExpressionPtr = std::unique_ptr<Expression>;
 using QueryPtr = std::unique_ptr<Query>;
 
 enum class ExpressionKind {
-    Literal,    ///< `literal`
-    Null,       ///<
+    Literal, ///< `literal`
+    Null,
     Boolean,    ///< `number`: -1 or 0
     Column,     ///< `qualifier` . `name`
     Negate,     ///< - a
@@ -99,7 +99,7 @@ struct Select
     ExpressionPtr where;
     std::vector<ExpressionPtr> groupBy;
     ExpressionPtr having;
-    std::vector<OrderItem> orderBy; ///< of a branch that is not the last
+    std::vector<OrderItem> orderBy; ///< of its own, for its TOP; that of all rows stands in the query
 };
 
 /// One or more SELECTs joined by UNION.

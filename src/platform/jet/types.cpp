@@ -2,6 +2,8 @@
 
 #include "platform/jet/words.h"
 
+#include <iterator>
+
 namespace jet {
 namespace {
 
@@ -15,8 +17,8 @@ struct TypeRow
 
 constexpr int MemoSize = 1073741823;
 
-// The declared names are chosen so that SQLite gives every one of them numeric affinity, but
-// the texts, and none of them integer primary key behaviour.
+// By the number of the type. SQLite gives the declared names numeric affinity, but the texts; only a
+// counter is declared as what it takes for a row id.
 constexpr TypeRow types[] = {
     {DataType::Unknown, FieldType::Text, widestText, ""},
     {DataType::Boolean, FieldType::Boolean, 2, "YESNO"},
@@ -32,6 +34,16 @@ constexpr TypeRow types[] = {
     {DataType::Text, FieldType::Text, widestText, "TEXT"},
     {DataType::Memo, FieldType::Memo, MemoSize, "TEXT"},
 };
+
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < std::size(types); ++i) {
+            if (types[i].type != static_cast<DataType>(i))
+                return false;
+        }
+        return std::size(types) == static_cast<std::size_t>(DataType::Memo) + 1;
+    }(),
+    "a row for each type, in the order of DataType");
 
 struct TypeName
 {

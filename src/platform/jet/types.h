@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/jet/recordset.h"
+#include "platform/jet/fieldtype.h"
 
 #include <string>
 #include <string_view>

@@ -60,6 +60,13 @@ inline void append(std::string &text, char32_t code)
     }
 }
 
+[[nodiscard]] inline std::string encoded(char32_t code)
+{
+    std::string text;
+    append(text, code);
+    return text;
+}
+
 /// Whether no byte is 0x80 or above.
 [[nodiscard]] bool isAscii(std::string_view text);
 /// The number of characters.
