@@ -359,8 +359,11 @@ void Emitter::write(const CreateTable &table, EmittedStatement &result)
     const bool onCounter = table.primaryKey.size() == 1 && sameName(table.primaryKey[0], counter);
     if (!table.primaryKey.empty() && !onCounter) {
         std::string key;
-        for (const std::string_view column : table.primaryKey)
-            key += (key.empty() ? "" : ", ") + quotedName(column);
+        for (const std::string_view name : table.primaryKey) {
+            const auto column = std::ranges::find_if(
+                table.columns, [&](const ColumnDefinition &other) { return sameName(other.name, name); });
+            key += (key.empty() ? "" : ", ") + quotedName(column->name);
+        }
         columns += (counter.empty() ? ", PRIMARY KEY (" : ", UNIQUE (") + key + ')';
     }
     result.sql = "CREATE TABLE " + quotedName(table.table) + " (" + columns + ')';
@@ -377,8 +380,9 @@ void Emitter::write(const CreateIndex &index, EmittedStatement &result)
                                 std::string(index.index) + "'.");
     std::string columns;
     for (const auto &[name, descending] : index.columns) {
-        (void)requireColumn(table, name);
-        columns += (columns.empty() ? "" : ", ") + quotedName(name) + (descending ? " DESC" : "");
+        // SQLite does not fold the case of accented letters: only the name of the definition will do.
+        columns += (columns.empty() ? "" : ", ") + quotedName(requireColumn(table, name)->name) +
+                   (descending ? " DESC" : "");
     }
     result.sql = std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
                  quotedName(m_catalog.freeIndexName(table, index.index)) + " ON " + quotedName(table.name) +

@@ -10,6 +10,9 @@ void registerDialect(sqlite3 *handle)
 {
     registerCollation(handle);
     registerFunctions(handle);
+    // A name in quotes that is no column is an error, never a text.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
 }
 
 void applyPragmas(sqlite3 *handle)
