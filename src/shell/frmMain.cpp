@@ -148,8 +148,11 @@ QToolBar &frmMain::toolbar(Toolbar which)
 bool frmMain::event(QEvent *event)
 {
     const bool handled = QMainWindow::event(event);
+    // Only once Qt is through with it: the events that this lets through may delete the window that was
+    // active before, which Qt still holds.
     if (event->type() == QEvent::WindowActivate)
-        guarded([this] { activate(); });
+        QMetaObject::invokeMethod(
+            this, [this] { guarded([this] { activate(); }); }, Qt::QueuedConnection);
     return handled;
 }
 

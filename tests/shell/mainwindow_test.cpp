@@ -1,4 +1,5 @@
 #include "exchange/frmImport.h"
+#include "messages/modProgress.h"
 #include "platform/jet/recordset.h"
 #include "session/modRegistry.h"
 #include "shelltest.h"
@@ -47,6 +48,21 @@ const QStringList ownMenus{u"mnuUsers"_s, u"mnuTools"_s, u"mnuHelp"_s};
 const QStringList menusWithView{u"mnuUsers"_s, u"mnuTools"_s, u"mnuWindow"_s, u"mnuHelp"_s};
 
 } // namespace
+
+// The window that was active before goes while Qt hands the main window its place. The fault shows under
+// the address sanitizer: what is left of the progress window is read.
+TEST_F(MainWindowTest, BecomesActiveAsTheProgressWindowGoes)
+{
+    start();
+    for (int i = 0; i < 3; ++i) {
+        startProgress(1, 3, u"Batch"_s, true, true);
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow() != &mainForm(); }));
+        endProgress();
+        mainForm().activateWindow();
+        settle();
+        EXPECT_EQ(QApplication::activeWindow(), &mainForm());
+    }
+}
 
 TEST_F(MainWindowTest, NoKeepsTheSessionAsItIs)
 {

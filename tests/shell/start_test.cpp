@@ -60,6 +60,7 @@ TEST_F(StartTest, AKnownNetworkIsNotWarnedAbout)
 {
     net::installApi(std::make_unique<Workstation>(u"HEADOFFICE"_s, u"\\\\CENTRAL"_s));
     startMain();
+    settle();
     EXPECT_EQ(panel(3), u"PDC: CENTRAL Domain: HEADOFFICE"_s);
 }
 
@@ -108,6 +109,7 @@ TEST_F(StartTest, SettingsCountFromTheNextActivation)
     ASSERT_TRUE(waitFor([&] { return other.isActiveWindow(); }));
     window.activateWindow();
     ASSERT_TRUE(waitFor([&] { return window.isActiveWindow(); }));
+    settle();
     EXPECT_EQ(panel(2), u"/srv/other.mdb"_s);
     EXPECT_EQ(panel(3), u"PDC: BACKUP Domain: "_s);
 }
