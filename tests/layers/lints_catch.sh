@@ -61,8 +61,6 @@ caught check-layers src/messages/modProgress.cpp 'QCoreApplication::processEvent
 caught check-layers src/store/modUsers.cpp 'run("SELECT * FROM Tbl_Users"_L1);' 'SQL belongs'
 caught check-layers src/views/frmDisplay.cpp 'run("UPDATE Tbl_Users SET UserID = 1"_L1);' 'SQL belongs'
 caught check-layers src/shell/frmMain.cpp 'run("DELETE * FROM Tbl_Users"_L1);' 'SQL belongs'
-caught check-layers docs/store.md "as Pa""rt 2.3 tells" 'forbidden words'
-caught check-layers src/base/text.cpp "// see /wor""k/shared" 'forbidden words'
 caught check-docs docs/architecture.md "The engine is in \`src/platform/jet/absent.cpp\`." 'absent.cpp'
 caught check-docs docs/architecture.md '![A window](pictures/absent.png)' 'absent.png'
 
