@@ -39,8 +39,8 @@ void writeHWUsers(StoreSession &store, int id, std::span<const int> users);
 void writeHWSoftware(StoreSession &store, int id, std::span<const int> software);
 
 /// All that reads and writes Tbl_HW and the hardware's side of Tbl_RoomHW, Tbl_UserHW and
-/// Tbl_SWHW. An item is known by its type and serial number; it stands in one room or with one
-/// user, never both.
+/// Tbl_SWHW. An item is known by its type and serial number. addRooms takes it from its users
+/// and addUsers from its rooms, so one in both comes from elsewhere.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Items whose type
 /// is gone show in none. Nothing is escaped. Every method raises the store's error.
@@ -72,10 +72,10 @@ public:
     void getUsage(const QString &connectionString, jet::Recordset &result);
     /// Raises RuleViolation when another item of the type has the serial number.
     void update(const QString &connectionString, int id, const HWRecord &item);
-    /// The rows of the relationship tables stay, and show in no list any more.
+    /// The rows of the relationship tables stay.
     void Delete(const QString &connectionString, int id);
     void getAll(const QString &connectionString, jet::Recordset &result);
-    /// The items in no room and with no user.
+    /// The items without a row in Tbl_RoomHW and in Tbl_UserHW, even one whose other end is gone.
     void getUnAssigned(const QString &connectionString, jet::Recordset &result);
     /// The items that contain the five texts, a Null being as good as any. A type of 0 stands
     /// for all types.

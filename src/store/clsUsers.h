@@ -46,6 +46,8 @@ public:
     /// in the failed text. Raises RuleViolation for a user who is not in the store.
     void addFoldersBatch(const QString &connectionString, const QString &userName, jet::Recordset &records,
                          QString &failed);
+    /// The rows of the relationship tables stay. The next new user takes a deleted id if it was
+    /// the highest, and with it what stayed.
     void Delete(const QString &connectionString, std::span<const int> ids);
     void RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids);
     /// The fields of the result are the template of recordsets made in memory.
@@ -53,8 +55,9 @@ public:
     void getAll(const QString &connectionString, jet::Recordset &result);
     void getByUserNameAndServer(const QString &connectionString, jet::Recordset &result, const QString &name,
                                 const QString &server);
-    /// A UserID of 0 is replaced by the next free one; another is used without a test. Raises
-    /// RuleViolation when name and server are taken. Nothing is escaped.
+    /// A UserID of 0 is replaced by the next free one, also when the user is then refused;
+    /// another is used without a test and may be taken. Raises RuleViolation when name and server
+    /// are taken. Nothing is escaped.
     void Add(const QString &connectionString, UserRecord &user);
     /// Opens the store and closes it.
     void TestConnection(const QString &connectionString);
@@ -91,6 +94,7 @@ public:
     void getHW(const QString &connectionString, jet::Recordset &result, int id);
     /// The given items become the user's only ones and are taken from any other user.
     void addHW(const QString &connectionString, int id, std::span<const int> items);
-    /// Replaces Tbl_Users by the named rows of Tbl_Remote_Users.
+    /// Replaces Tbl_Users by the rows of Tbl_Remote_Users that have a name. The new table has the
+    /// columns and their types, but no index, and its columns accept Null.
     void Import(const QString &connectionString);
 };

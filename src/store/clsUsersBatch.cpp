@@ -82,8 +82,11 @@ public:
 
     void writeRecord(StoreSession &store)
     {
-        if (m_values.front().toInt() == 0)
-            m_values.front() = QString::number(nextUserId(store));
+        QString &id = m_values.front();
+        // What is no number is left to the store, which refuses the record.
+        bool isNumber = true;
+        if (id.isEmpty() || (id.toDouble(&isNumber) == 0 && isNumber))
+            id = QString::number(nextUserId(store));
 
         if (m_found.state() != jet::StateClosed)
             m_found.close();

@@ -24,7 +24,7 @@ Value folderId(StoreSession &store, const QString &path)
         return store.scalar(lookup);
     } catch (const Error &error) {
         // Only a text can be wrong with one folder; what is wrong with the store ends the batch.
-        if (error.number() == jet::Failure)
+        if (error.number() == jet::Failure || error.number() == jet::MissingTable)
             throw;
         return {};
     }

@@ -227,6 +227,36 @@ TEST_P(FailingStoreTest, WhatIsNotWrittenIsTold)
     EXPECT_TRUE(everFailed);
 }
 
+class FailingLookupTest : public CompanyTest
+{
+};
+
+TEST_F(FailingLookupTest, AFolderThatCannotBeReadOnceIsLookedForAgain)
+{
+    failingvfs::Installed disk;
+    int mended = 0;
+    bool failed = true;
+    for (int call = 1; failed && call < 200; ++call) {
+        disk.plan({failingvfs::Kind::Read, call, SQLITE_IOERR_READ});
+        QString errors;
+        bool raised = false;
+        try {
+            clsFolders().AddPermissionsBatch(connection, {u"D:\\Admin"_s}, {u"anna"_s}, {u"SRV01"_s},
+                                             {QString::number(call)}, errors);
+        } catch (const Error &) {
+            raised = true;
+        }
+        failed = disk.hasFailed();
+        disk.plan({});
+        EXPECT_FALSE(errors.contains(u"not in DB")) << errors.toStdString() << " at call " << call;
+        const bool written = content("Tbl_UserFolderPermission").contains(u"13|43|%1"_s.arg(call));
+        EXPECT_EQ(written, errors.isEmpty() && !raised) << "call " << call;
+        mended += failed && written;
+    }
+    EXPECT_FALSE(failed);
+    EXPECT_GT(mended, 0) << "no call failed in the first look";
+}
+
 INSTANTIATE_TEST_SUITE_P(Disk, FailingStoreTest,
                          testing::Combine(testing::ValuesIn(faults), testing::ValuesIn(writers)),
                          [](const testing::TestParamInfo<Case> &info) {

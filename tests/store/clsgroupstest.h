@@ -46,11 +46,6 @@ template <typename Groups>
 class GroupTwins : public CompanyTest
 {
 protected:
-    Rows all()
-    {
-        return rowsFrom([this](jet::Recordset &result) { groups.getAll(connection, result); });
-    }
-
     /// Group and user of each row, the group by its place in the company: 1 for Staff.
     Rows memberships() { return byPlace(names.users); }
 

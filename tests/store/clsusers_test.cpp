@@ -116,6 +116,13 @@ TEST_F(UsersTest, Add_AllocatesIdsAboveTheHighest)
     UserRecord next = account(u"next"_s, u"SRV01"_s);
     users.Add(connection, next);
     EXPECT_EQ(next.UserID, 501);
+    UserRecord refused = account(u"next"_s, u"SRV01"_s);
+    EXPECT_EQ(errorOf([&] { users.Add(connection, refused); }).number, RuleViolation);
+    EXPECT_EQ(refused.UserID, 502);
+    UserRecord taken = account(u"taken"_s, u"SRV01"_s, 501);
+    users.Add(connection, taken);
+    EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users WHERE UserID = 501 ORDER BY UserName"_s),
+              (Rows{u"next"_s, u"taken"_s}));
 
     UserRecord highest = account(u"highest"_s, u"SRV01"_s, std::numeric_limits<int>::max());
     users.Add(connection, highest);

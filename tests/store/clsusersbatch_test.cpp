@@ -93,6 +93,29 @@ TEST_F(UserBatchTest, TakenIdIsReplacedAndCountsAsNewAndAsError)
               (Rows{u"500|SRV01"_s, u"501|SRV02"_s}));
 }
 
+TEST_F(UserBatchTest, TakenIdIsNotTestedForAKnownUser)
+{
+    const QList<QHash<QString, QString>> accounts = {
+        {{u"UserID"_s, u"500"_s}, {u"UserName"_s, u"anna"_s}, {u"ServerName"_s, u"SRV01"_s}},
+        {{u"UserID"_s, u"500"_s}, {u"UserName"_s, u"anna"_s}, {u"ServerName"_s, u"SRV02"_s}}};
+    importLive(accounts);
+    importLive(accounts);
+    expectCounts(2, 2, 1);
+    EXPECT_EQ(rows(u"SELECT UserID, ServerName FROM Tbl_Users ORDER BY ServerName"_s),
+              (Rows{u"500|SRV01"_s, u"500|SRV02"_s}));
+}
+
+TEST_F(UserBatchTest, AnIdIsNewForZeroAndNothingAndRefusedForWhatIsNoId)
+{
+    importLines({fileLine(u"0"_s, u"anna"_s, u"S"_s), fileLine({}, u"bert"_s, u"S"_s),
+                 fileLine(u"abc"_s, u"cleo"_s, u"S"_s), fileLine(u"3000000000"_s, u"dora"_s, u"S"_s),
+                 fileLine(u" 0 "_s, u"emil"_s, u"S"_s)});
+    expectCounts(3, 0, 2);
+    EXPECT_EQ(rows(u"SELECT UserID, UserName FROM Tbl_Users ORDER BY UserID"_s),
+              (Rows{u"1|anna"_s, u"2|bert"_s, u"3|emil"_s}));
+    EXPECT_TRUE(text.contains(u"S\\cleo ") && text.contains(u"S\\dora ")) << text.toStdString();
+}
+
 TEST_F(UserBatchTest, LeaveExisting_PassesKnownUsersOverUncounted)
 {
     importLines({fileLine(u"0"_s, u"anna"_s, u"SRV01"_s, u"first"_s)});
@@ -151,6 +174,20 @@ TEST_F(UserBatchTest, ChangedId_MovesTheRelationshipsExceptLocalGroups)
     EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users WHERE UserName = 'anna'"_s), Rows{u"1105"_s});
 }
 
+TEST_F(UserBatchTest, ChangedId_MovesWhatItCanWhenATableIsMissing)
+{
+    importLines({fileLine(u"0"_s, u"anna"_s, u"SRV01"_s)});
+    run(u"INSERT INTO Tbl_GlobalGroupsUsers (GlobalGroupID, UserID) VALUES (10, 1)"_s);
+    run(u"INSERT INTO Tbl_UserFolderPermission (FolderID, UserID) VALUES (10, 1)"_s);
+    run(u"DROP TABLE Tbl_RoomUsers"_s);
+    importLive({{{u"UserID"_s, u"1105"_s}, {u"UserName"_s, u"anna"_s}, {u"ServerName"_s, u"SRV01"_s}}});
+    expectCounts(1, 1, 0);
+    EXPECT_EQ(text, QString());
+    EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_GlobalGroupsUsers UNION ALL "
+                   "SELECT UserID FROM Tbl_UserFolderPermission"_s),
+              (Rows{u"1105"_s, u"1105"_s}));
+}
+
 TEST_F(UserBatchTest, FileLineOfAKnownUserGetsAGeneratedId)
 {
     importLines({fileLine(u"0"_s, u"anna"_s, u"SRV01"_s), fileLine(u"0"_s, u"bert"_s, u"SRV01"_s)});
@@ -178,6 +215,14 @@ TEST_F(UserBatchTest, Apostrophe_IsKeptInTheFourEscapedValuesOfAddBatchOnly)
     importLive({unescaped});
     expectCounts(1, 1, 1);
     EXPECT_TRUE(text.startsWith(heading + "SRV01\\bert "_L1)) << text.toStdString();
+    EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users"_s), Rows{u"anna"_s});
+
+    // The look-up of the account is not escaped.
+    unescaped[u"UserName"_s] = u"o'brien"_s;
+    unescaped[u"Profile"_s] = QString();
+    importLive({unescaped});
+    expectCounts(1, 1, 2);
+    EXPECT_TRUE(text.contains(u"SRV01\\o'brien ")) << text.toStdString();
     EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users"_s), Rows{u"anna"_s});
 }
 

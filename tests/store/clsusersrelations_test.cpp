@@ -103,6 +103,45 @@ TEST_F(UserRelationsTest, AddFoldersBatch_AddsMissingFoldersAndNamesTheImpossibl
     EXPECT_EQ(error.description, u"The specified User does not exist in your Database"_s);
 }
 
+TEST_F(UserRelationsTest, AddFoldersBatch_EndsWhereTheFoldersAreGone)
+{
+    jet::Recordset records;
+    makeRecords(records, {u"Name"_s, u"Permission"_s}, {{u"D:\\New\\"_s, u"R"_s}});
+    run(u"DROP TABLE Tbl_Folders"_s);
+    const Rows before = content("Tbl_UserFolderPermission");
+    QString failed;
+    const CurrentError error =
+        errorOf([&] { users.addFoldersBatch(connection, u"anna"_s, records, failed); });
+    EXPECT_EQ(error.number, jet::MissingTable);
+    EXPECT_TRUE(error.description.contains(u"Tbl_Folders")) << error.description.toStdString();
+    EXPECT_EQ(failed, QString());
+    EXPECT_EQ(content("Tbl_UserFolderPermission"), before);
+}
+
+TEST_F(UserRelationsTest, Delete_LeavesTheRelationshipsBehind)
+{
+    const auto relationships = [this] {
+        Rows all;
+        for (const char *table : {"Tbl_GlobalGroupsUsers", "Tbl_LocalGroupsUsers", "Tbl_RoomUsers",
+                                  "Tbl_UserHW", "Tbl_UserFolderPermission"})
+            all += content(table);
+        return all;
+    };
+    const Rows before = relationships();
+    users.Delete(connection, QList<int>{11, 13});
+    EXPECT_EQ(content("Tbl_Users").size(), 1);
+    EXPECT_EQ(relationships(), before);
+
+    // The highest id is free again, and what stayed is the new user's.
+    UserRecord next;
+    next.UserName = u"dora"_s;
+    next.ServerName = u"SRV01"_s;
+    users.Add(connection, next);
+    EXPECT_EQ(next.UserID, 13);
+    EXPECT_EQ(rowsFrom([&](auto &result) { users.getGlobalGroups(connection, result, 13); }),
+              Rows{globalAdmins});
+}
+
 TEST_F(UserRelationsTest, GroupsRoomsAndHardwareBecomeTheOnlyOnes)
 {
     users.addGlobalGroups(connection, 12, QList<int>{23, 23});
