@@ -39,6 +39,7 @@ TEST_F(FormatTest, Dates)
         {"jet_format('d', 38367, '0.0')", "'38367.0'"},
         {"jet_format('n', 38367, 'yyyy')", "'2005'"},
         {"jet_format('t', '1/15/2005', 'yyyy/mm')", "'2005/01'"},
+        {"jet_format('d', 38367, 't\"\"t')", "'tt'"},
         {"jet_format('t', 'never', 'yyyy')", "'never'"},
         {"jet_format('d', " MOMENT ", 'ww', 8)", INVALID},
     }});

@@ -40,12 +40,14 @@ struct BadFile
 {
     const char *name;
     std::function<void(const QString &)> make;
+    const char *told = ""; ///< what the text says besides the name
 };
 
 const BadFile badFiles[] = {
-    {"Missing", [](const QString &) {}},
-    {"InAMissingFolder", [](const QString &path) { QDir().rmdir(QFileInfo(path).path()); }},
-    {"AFolder", [](const QString &path) { QDir().mkpath(path); }},
+    {"Missing", [](const QString &) {}, "Could not find file"},
+    {"InAMissingFolder", [](const QString &path) { QDir().rmdir(QFileInfo(path).path()); },
+     "is not a valid path"},
+    {"AFolder", [](const QString &path) { QDir().mkpath(path); }, "is not a valid path"},
     {"Empty", [](const QString &path) { writeFile(path, ""); }},
     {"AText", [](const QString &path) { writeFile(path, QByteArray("Dear diary,\n").repeated(2000)); }},
     {"AnotherKindOfDatabase", makeForeignDatabase},
@@ -89,6 +91,7 @@ TEST_P(BadFileTest, IsRefusedByNameAndLeftAlone)
     ASSERT_TRUE(error) << "was opened and written";
     EXPECT_EQ(error->number(), jet::Failure) << error->what();
     EXPECT_TRUE(error->description().contains("plan.mdb"_L1)) << error->what();
+    EXPECT_TRUE(error->description().contains(QLatin1StringView(GetParam().told))) << error->what();
     EXPECT_EQ(contentOf(path), before);
     EXPECT_EQ(QDir(folder.filePath("in"_L1)).entryList(), filesBefore);
 }

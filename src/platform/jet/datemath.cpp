@@ -33,6 +33,11 @@ std::optional<double> dateOf(std::string_view text)
     return oledate::parse(QString::fromUtf8(text.data(), qsizetype(text.size())));
 }
 
+std::int64_t floorDivide(std::int64_t number, std::int64_t by)
+{
+    return number / by - (number % by < 0 ? 1 : 0);
+}
+
 bool inCalendar(double date)
 {
     return date > double(oledate::smallestDay) - 1 && date < double(oledate::largestDay) + 1;
@@ -75,11 +80,15 @@ std::optional<std::int64_t> normalizedDay(std::int64_t year, std::int64_t month,
 {
     constexpr std::int64_t months = 12;
     const std::int64_t total = year * months + month - 1;
-    const std::int64_t wholeYear = total >= 0 ? total / months : (total - months + 1) / months;
-    if (wholeYear < 100 || wholeYear > 9999)
-        return {};
-    const auto first = oledate::fromParts({int(wholeYear), int(total - wholeYear * months) + 1, 1, 0, 0, 0});
-    const std::int64_t result = std::int64_t(*first) + day - 1;
+    const std::int64_t wholeYear = floorDivide(total, months);
+    // The calendar repeats every 400 years. The month may lie outside of it while the day asked for does not.
+    constexpr std::int64_t cycle = 400;
+    constexpr std::int64_t daysOfCycle = 146097;
+    constexpr std::int64_t knownYear = 2000;
+    const std::int64_t cycles = floorDivide(wholeYear - knownYear, cycle);
+    const auto first = oledate::fromParts(
+        {int(wholeYear - cycles * cycle), int(total - wholeYear * months) + 1, 1, 0, 0, 0});
+    const std::int64_t result = std::int64_t(*first) + cycles * daysOfCycle + day - 1;
     if (result < oledate::smallestDay || result > oledate::largestDay)
         return {};
     return result;

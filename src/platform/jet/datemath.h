@@ -9,6 +9,9 @@ namespace jet {
 /// Reads a text in UTF-8 as oledate::parse() does.
 [[nodiscard]] std::optional<double> dateOf(std::string_view text);
 
+/// The quotient rounded down. The divisor is positive.
+[[nodiscard]] std::int64_t floorDivide(std::int64_t number, std::int64_t by);
+
 /// Whether the point in time lies on a day of the calendar.
 [[nodiscard]] bool inCalendar(double date);
 

@@ -90,4 +90,21 @@ double Decimal::toDouble() const
     return number;
 }
 
+double roundedToEven(double number, int decimals)
+{
+    Decimal decimal(number);
+    if (decimal.round(decimals, Decimal::Halves::ToEven))
+        return decimal.toDouble();
+    // Whole numbers and what has more than 15 digits before the places asked for are told exactly here.
+    constexpr std::size_t digitsOfLargest = 309;
+    constexpr std::size_t mostDecimals = 22;
+    std::array<char, digitsOfLargest + mostDecimals + 2> buffer;
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                            std::chars_format::fixed, decimals);
+    double rounded = number;
+    if (error == std::errc())
+        std::from_chars(buffer.data(), end, rounded);
+    return rounded;
+}
+
 } // namespace jet

@@ -13,8 +13,7 @@ public:
 
     explicit Decimal(double number);
 
-    /// To so many digits behind the point. Tells whether any were dropped; when none were, the
-    /// number it was made of is exact where this is not.
+    /// To so many digits behind the point. Tells whether any were dropped.
     bool round(int decimals, Halves halves);
     /// Moves the point to the right.
     void shift(int places) { m_point += places; }
@@ -35,5 +34,10 @@ private:
     std::string m_digits; // 0.DIGITS times ten to the point, without zeros at either end
     int m_point = 0;
 };
+
+/// The number nearest to what is left of it with so many digits behind the point, halves to even. A number
+/// that shows no more digits than those loses what its double holds behind them, so that 0.1 + 0.2 rounds
+/// to 0.3.
+[[nodiscard]] double roundedToEven(double number, int decimals);
 
 } // namespace jet

@@ -128,8 +128,7 @@ private:
         case 'c':
             return oledate::toText(m_date).toStdString();
         case 't':
-            return token.count == 5 ? write(longTime)
-                                    : std::string(token.text.data(), std::size_t(token.count));
+            return token.count == 5 ? write(longTime) : std::string(std::size_t(token.count), 't');
         case 'a':
             return halfText(token.text);
         default:

@@ -1,5 +1,6 @@
 #include "platform/jet/functioncall.h"
 
+#include "base/oledate.h"
 #include "platform/jet/collation.h"
 #include "platform/jet/datemath.h"
 #include "platform/jet/decimal.h"
@@ -98,8 +99,7 @@ std::optional<double> currency(double number)
     if (!(std::abs(number) <= largest))
         return {};
     constexpr int decimals = 4;
-    Decimal amount(number);
-    return amount.round(decimals, Decimal::Halves::ToEven) ? amount.toDouble() : number;
+    return roundedToEven(number, decimals);
 }
 
 void resultError(sqlite3_context *context, int number, std::string_view text)
@@ -250,6 +250,11 @@ void Call::giveNumber(double number)
 void Call::giveWhole(std::int64_t number)
 {
     sqlite3_result_int64(m_context, number);
+}
+
+void Call::giveDate(double days)
+{
+    giveNumber(oledate::fromMoment(oledate::toMoment(days)));
 }
 
 void Call::giveArgument(int index)

@@ -76,6 +76,7 @@ public:
     void give(std::string_view text);
     void giveNumber(double number); ///< raises Failure "Overflow" for what is not finite
     void giveWhole(std::int64_t number);
+    void giveDate(double days); ///< in whole seconds
     void giveBoolean(bool value) { giveWhole(value ? -1 : 0); }
     void giveArgument(int index);
 

@@ -129,7 +129,7 @@ void toDateColumn(Call &call)
     const double days = call.isText(0) ? call.date(0) : call.number(0);
     if (!inCalendar(days))
         raiseFieldOverflow();
-    call.giveNumber(days);
+    call.giveDate(days);
 }
 
 void toBooleanColumn(Call &call)

@@ -47,11 +47,6 @@ WeekRule ruleOf(const Call &call, int index)
     return *rule;
 }
 
-std::int64_t floorDivide(std::int64_t number, std::int64_t by)
-{
-    return number / by - (number % by < 0 ? 1 : 0);
-}
-
 Parts partsOf(const Call &call)
 {
     return oledate::toParts(call.date(0));

@@ -106,10 +106,7 @@ void round(Call &call)
     constexpr int mostDecimals = 22;
     if (decimals < 0 || decimals > mostDecimals)
         raiseInvalidCall();
-    unlessWhole(call, [decimals](double number) {
-        Decimal decimal(number);
-        return decimal.round(decimals, Decimal::Halves::ToEven) ? decimal.toDouble() : number;
-    });
+    unlessWhole(call, [decimals](double number) { return roundedToEven(number, decimals); });
 }
 
 void randomNumber(Call &call)
@@ -160,7 +157,7 @@ void toCurrency(Call &call)
 
 void toDate(Call &call)
 {
-    call.giveNumber(call.date(0));
+    call.giveDate(call.date(0));
 }
 
 void toText(Call &call)

@@ -5,6 +5,7 @@
 #include "platform/jet/sqlite.h"
 #include "platform/jet/sqlitesetup.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
@@ -24,6 +25,14 @@ quint32 numberAt(const QByteArray &header, qsizetype offset)
     return qFromBigEndian<quint32>(header.constData() + offset);
 }
 
+[[noreturn]] void raiseInvalidPath(const QString &path)
+{
+    raise(Failure,
+          "'"_L1 + path +
+              "' is not a valid path.  Make sure that the path name is spelled correctly and that you are "
+              "connected to the server on which the file resides."_L1);
+}
+
 } // namespace
 
 void checkStoreFile(const QString &path)
@@ -31,14 +40,10 @@ void checkStoreFile(const QString &path)
     if (path.isEmpty())
         raise(Failure, u"Could not find file ''. No store has been chosen."_s);
     const QFileInfo info(path);
-    if (!info.exists())
+    if (!info.exists() && info.dir().exists())
         raise(Failure, "Could not find file '"_L1 + path + "'."_L1);
     if (!info.isFile())
-        raise(
-            Failure,
-            "'"_L1 + path +
-                "' is not a valid path.  Make sure that the path name is spelled correctly and that you are "
-                "connected to the server on which the file resides."_L1);
+        raiseInvalidPath(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         raise(Failure, "Could not read file '"_L1 + path + "': "_L1 + file.errorString() + '.'_L1);

@@ -11,7 +11,7 @@ inline constexpr std::uint32_t ApplicationId = 0x4B564C4E;
 inline constexpr std::uint32_t FileVersion = 1;
 
 /// Raises Failure with a text that names the file unless it is a store this program can
-/// read: missing, a folder, no store at all, made by a newer version. Looks only.
+/// read: missing, in a missing folder, a folder, no store at all, made by a newer version. Looks only.
 void checkStoreFile(const QString &path);
 
 /// Makes an empty store. Raises Failure when the path is taken or cannot be made.
