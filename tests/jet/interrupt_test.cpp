@@ -2,10 +2,14 @@
 
 #include "base/error.h"
 #include "platform/jet/errors.h"
+#include "platform/jet/inspection.h"
 #include "platform/jet/interrupt.h"
 #include "platform/jet/recordset.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -67,20 +71,57 @@ TEST_F(InterruptTest, UndoesALongUpdateAndNothingElse)
 
 TEST_F(InterruptTest, RefusesTheStoreToEventsThatRunMeanwhile)
 {
-    int refused = 0;
+    struct Use
+    {
+        const char *name;
+        std::function<void(jet::Connection &)> use;
+    };
+    const Use uses[] = {
+        {"a query", [](auto &second) { second.execute(u"SELECT * FROM Tbl_Rooms"_s); }},
+        {"a write", [](auto &second) { second.execute(u"DELETE FROM Tbl_Rooms"_s); }},
+        {"the list of tables",
+         [](auto &second) {
+             jet::Recordset tables;
+             second.openSchema(jet::SchemaTables, tables);
+         }},
+        {"the columns", [](auto &second) { (void)jet::storedTables(second); }},
+        {"a check", [](auto &second) { (void)jet::brokenPlaces(second); }},
+        {"a close", [](auto &second) { second.close(); }},
+        {"the close of the one that asks", [this](auto &) { connection.close(); }},
+    };
+    QStringList refused;
     const jet::Interruptible interruptible([&] {
         jet::Connection second;
-        try {
-            second.open(jet::connectionString(path));
-            second.execute(u"SELECT * FROM Tbl_Rooms"_s);
-        } catch (const Error &error) {
-            refused += error.description().contains("busy"_L1) ? 1 : 0;
+        second.open(jet::connectionString(path));
+        for (const Use &use : uses) {
+            try {
+                use.use(second);
+            } catch (const Error &error) {
+                if (error.description().contains("busy"_L1))
+                    refused.append(QLatin1StringView(use.name));
+            }
         }
         jet::flushPendingWrites();
         return true;
     });
     EXPECT_THROW(connection.execute(longSelect), Error);
-    EXPECT_EQ(refused, 1);
+    for (const Use &use : uses)
+        EXPECT_TRUE(refused.contains(QLatin1StringView(use.name))) << use.name;
+    EXPECT_EQ(number(u"SELECT COUNT(*) FROM Tbl_Rooms"_s), 300);
+}
+
+TEST_F(InterruptTest, TheLastConnectionMayGoWhileItsStatementAsks)
+{
+    connection.close();
+    auto last = std::make_unique<jet::Connection>();
+    last->open(jet::connectionString(path));
+    const jet::Interruptible interruptible([&last] {
+        last.reset();
+        return true;
+    });
+    EXPECT_THROW(last->execute(longSelect), Error);
+    connection.open(jet::connectionString(path));
+    EXPECT_EQ(integrityOf(connection), "ok");
 }
 
 TEST_F(InterruptTest, AFailingQuestionEndsTheStatement)

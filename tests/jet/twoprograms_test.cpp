@@ -67,7 +67,18 @@ private:
     pid_t m_process = 0;
 };
 
-using TwoPrograms = OpenStore;
+class TwoPrograms : public OpenStore
+{
+protected:
+    /// Another name of the file: by its own a child would find the handle that came along with the fork.
+    [[nodiscard]] QString link() const
+    {
+        const QString name = folder.filePath("link.mdb"_L1);
+        (void)::link(path.toUtf8().constData(), name.toUtf8().constData());
+        return name;
+    }
+};
+
 using TwoConnections = OpenStore;
 using VanishedFile = OpenStore;
 
@@ -103,13 +114,10 @@ TEST_F(TwoPrograms, LookingAtAnOpenFileKeepsItsLocks)
         second.open(jet::connectionString(path));
     }
     // Were the locks gone, a child could write now.
-    // The parent's handle comes along with the fork; this file is reached by another name.
-    const QString link = folder.filePath("link.mdb"_L1);
-    ASSERT_TRUE(::link(path.toUtf8().constData(), link.toUtf8().constData()) == 0);
     const auto write = [&] {
         try {
             jet::Connection other;
-            other.open(jet::connectionString(link));
+            other.open(jet::connectionString(link()));
             other.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('theirs')"_s);
         } catch (const Error &error) {
             return error.description().contains("locked"_L1) || error.description().contains("in use"_L1) ? 0
@@ -118,6 +126,55 @@ TEST_F(TwoPrograms, LookingAtAnOpenFileKeepsItsLocks)
         return 1;
     };
     EXPECT_EQ(inAnotherProcess(write), 0);
+}
+
+TEST_F(TwoPrograms, AStatementFollowsTheTablesThatTheOtherChanges)
+{
+    const auto read = [this] {
+        jet::Recordset rows;
+        rows.open(u"SELECT A FROM T"_s, connection);
+        return rows.eof() ? u"none"_s
+                          : rows.value(0).toText() + QString::number(int(rows.fields().item(0).type()));
+    };
+    const auto inTheOther = [this](const QStringList &statements) {
+        EXPECT_EQ(inAnotherProcess([&] {
+                      try {
+                          jet::Connection other;
+                          other.open(jet::connectionString(link()));
+                          for (const QString &statement : statements)
+                              other.execute(statement);
+                          other.close();
+                          return 0;
+                      } catch (const Error &) {
+                          return 1;
+                      }
+                  }),
+                  0);
+    };
+    connection.execute(u"CREATE TABLE T (A TEXT)"_s);
+    connection.execute(u"INSERT INTO T (A) VALUES ('7')"_s);
+    jet::flushPendingWrites();
+    EXPECT_EQ(read(), "7"_L1 + QString::number(int(jet::FieldType::Memo)));
+
+    inTheOther({u"DROP TABLE T"_s, u"CREATE TABLE T (B LONG, A LONG)"_s, u"INSERT INTO T (A) VALUES (8)"_s});
+    EXPECT_EQ(read(), "8"_L1 + QString::number(int(jet::FieldType::Long)));
+
+    inTheOther({u"DROP TABLE T"_s});
+    try {
+        read();
+        FAIL() << "read a table that is gone";
+    } catch (const Error &error) {
+        EXPECT_EQ(error.number(), jet::MissingTable) << error.what();
+    }
+}
+
+TEST_F(TwoPrograms, AWidthIsTheOneOfTheStatementThatSucceeds)
+{
+    OtherProgram other(path);
+    EXPECT_THROW(connection.execute(u"CREATE TABLE T (A TEXT(50))"_s), Error);
+    other.finish();
+    connection.execute(u"CREATE TABLE T (A TEXT(5))"_s);
+    EXPECT_THROW(connection.execute(u"INSERT INTO T (A) VALUES ('0123456789')"_s), Error);
 }
 
 TEST_F(TwoConnections, OneReadsWhatTheOtherHasJustWritten)

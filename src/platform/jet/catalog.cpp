@@ -62,12 +62,8 @@ std::string_view rowIdName(const Table &table)
                             "' has columns named RowID, OID and _RowID_.");
 }
 
-void Catalog::refresh()
+void Catalog::forget()
 {
-    const long long version = queryNumber(m_handle, "PRAGMA schema_version");
-    if (version == m_version)
-        return;
-    m_version = version;
     m_tables.clear();
     m_names.clear();
 }

@@ -32,14 +32,14 @@ struct Table
 /// A name of the row id of SQLite that no column of the table has taken. Raises Failure when all are taken.
 [[nodiscard]] std::string_view rowIdName(const Table &table);
 
-/// The tables of one open file. Read when first asked for, forgotten when the schema changes.
+/// The tables of one open file. Read when first asked for.
 class Catalog final
 {
 public:
     explicit Catalog(sqlite3 *handle) : m_handle(handle), m_lastCounter(handle) {}
 
-    /// Forgets what another program may have changed. Called before a statement is parsed.
-    void refresh();
+    /// To be told when the tables have changed.
+    void forget();
     /// The name that an index of the table has in the file, empty when the table has no such index. Indexes
     /// of two tables may have one name, while SQLite knows every name once: the second is called TABLE.INDEX
     /// there.
@@ -48,15 +48,15 @@ public:
     [[nodiscard]] bool isTaken(std::string_view name);
     /// What a new index is to be called in the file.
     [[nodiscard]] std::string freeIndexName(const Table &table, std::string_view index);
-    /// The tables live until the next refresh(). Raises MissingTable with the nearest known name.
+    /// The tables live until the next forget(). Raises MissingTable with the nearest known name.
     [[nodiscard]] const Table &table(std::string_view name);
     [[nodiscard]] const Table *find(std::string_view name);
     [[nodiscard]] std::vector<std::string> tableNames();
+    [[nodiscard]] LastCounter &lastCounter() { return m_lastCounter; }
 
 private:
     sqlite3 *m_handle;
     LastCounter m_lastCounter;
-    long long m_version = -1;
     std::unordered_map<std::string, std::string> m_names; ///< of all tables, by the folded name
     std::unordered_map<std::string, std::unique_ptr<Table>> m_tables;
 };

@@ -6,7 +6,7 @@
 #include "platform/jet/recordset.h"
 #include "platform/jet/storefile.h"
 
-#include <QStringList>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -103,9 +103,9 @@ void Connection::close()
 {
     if (!m_database)
         raise(ObjectClosed, u"Operation is not allowed when the object is closed."_s);
-    const std::shared_ptr<Database> database = std::move(m_database);
-    m_database.reset();
-    database->flushAtClose(database.use_count() == 1);
+    m_database->requireIdle();
+    const std::shared_ptr<Database> database = std::exchange(m_database, nullptr);
+    database->close(database.use_count() == 1);
 }
 
 Database &Connection::database() const
@@ -128,7 +128,6 @@ void Connection::openSchema(int schema, Recordset &recordset)
         raise(Failure, u"Object or provider is not capable of performing requested operation."_s);
     constexpr int nameSize = 64;
     Database &open = database();
-    open.catalog().refresh();
     recordset.fields().clear();
     recordset.fields().append(u"TABLE_NAME"_s, FieldType::VarChar, nameSize);
     recordset.fields().append(u"TABLE_TYPE"_s, FieldType::VarChar, nameSize);

@@ -8,30 +8,19 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <exception>
 #include <map>
 
 namespace jet {
 namespace {
 
-constexpr int groupLimit = 20000;
-constexpr auto groupAge = std::chrono::milliseconds(250);
 constexpr std::size_t cacheLimit = 500; // the program has some hundred shapes; the rest people type
 
 std::map<QString, std::weak_ptr<Database>> &openDatabases()
 {
     static std::map<QString, std::weak_ptr<Database>> databases;
     return databases;
-}
-
-void stepToEnd(sqlite3 *handle, sqlite3_stmt *statement)
-{
-    const StatementReset reset(statement);
-    int result = SQLITE_ROW;
-    while ((result = sqlite3_step(statement)) == SQLITE_ROW) {
-    }
-    if (result != SQLITE_DONE)
-        raiseSqlite(handle, result);
 }
 
 HeaderPtr headerOf(const std::vector<OutputColumn> &columns)
@@ -50,22 +39,29 @@ HeaderPtr headerOf(const std::vector<OutputColumn> &columns)
 
 } // namespace
 
-/// Lets a long statement ask whether it is to end, where someone wants to be asked.
+/// Lets a long statement ask whether it is to end, where someone wants to be asked. Whoever answers may
+/// let go of the last connection to the file: it is closed behind the statement then.
 class Database::ProgressWatch final
 {
 public:
-    explicit ProgressWatch(Database &database) : m_handle(database.m_handle)
+    explicit ProgressWatch(Database &database)
     {
+        if (!Interruptible::active())
+            return;
         constexpr int stepsBetweenQuestions = 5000;
-        if (Interruptible::active())
-            sqlite3_progress_handler(m_handle, stepsBetweenQuestions, onProgress, &database);
+        m_database = database.shared_from_this();
+        sqlite3_progress_handler(database.m_handle.get(), stepsBetweenQuestions, onProgress, &database);
     }
-    ~ProgressWatch() { sqlite3_progress_handler(m_handle, 0, nullptr, nullptr); }
+    ~ProgressWatch()
+    {
+        if (m_database)
+            sqlite3_progress_handler(m_database->m_handle.get(), 0, nullptr, nullptr);
+    }
     ProgressWatch(const ProgressWatch &) = delete;
     ProgressWatch &operator=(const ProgressWatch &) = delete;
 
 private:
-    sqlite3 *m_handle;
+    std::shared_ptr<Database> m_database;
 };
 
 std::shared_ptr<Database> Database::open(const QString &path)
@@ -118,24 +114,66 @@ void Database::flushAll()
 }
 
 Database::Database(Handle handle)
-    : m_owner(std::move(handle))
-    , m_handle(m_owner.get())
-    , m_catalog(m_handle)
-    , m_begin(prepareSqlite(m_handle, "BEGIN IMMEDIATE"))
-    , m_commit(prepareSqlite(m_handle, "COMMIT"))
+    : m_handle(std::move(handle))
+    , m_catalog(m_handle.get())
+    , m_group(m_handle.get())
+    , m_readVersion(prepareSqlite(m_handle.get(), "PRAGMA schema_version"))
 {
 }
 
 Database::~Database()
 {
     try {
-        flush();
+        m_group.commit();
         // The emptied journal goes too: a store at rest is one file.
-        if (m_written)
-            sqlite3_exec(m_handle, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
+        if (m_group.wasEverOpen())
+            sqlite3_exec(m_handle.get(), "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
     } catch (...) {
         // Whoever closes by hand has heard of it; a destructor has no one to tell.
     }
+}
+
+void Database::requireIdle() const
+{
+    if (m_asking)
+        raise(Failure, QStringLiteral("The store is busy with another statement."));
+}
+
+Catalog &Database::catalog()
+{
+    requireIdle();
+    forgetWhatOthersChanged();
+    return m_catalog;
+}
+
+sqlite3 *Database::handle() const
+{
+    requireIdle();
+    return m_handle.get();
+}
+
+// While a group is open nobody else can change the tables.
+void Database::forgetWhatOthersChanged()
+{
+    if (m_group.isOpen())
+        return;
+    sqlite3_int64 version = 0;
+    const StatementReset reset(m_readVersion.get());
+    forEachRow(m_handle.get(), m_readVersion.get(),
+               [&version](sqlite3_stmt *row) { version = sqlite3_column_int64(row, 0); });
+    if (version == m_version)
+        return;
+    forget();
+    m_version = version;
+}
+
+// With the version: a group that changes the tables and is then lost takes the new version back, and another
+// program may give it anew.
+void Database::forget()
+{
+    m_prepared.clear();
+    m_catalog.forget();
+    m_version = unknownVersion;
 }
 
 bool Database::fits(const Prepared &prepared) const
@@ -149,16 +187,19 @@ bool Database::fits(const Prepared &prepared) const
 
 Database::Prepared &Database::prepare(const QString &sql)
 {
-    if (m_asking)
-        raise(Failure, QStringLiteral("The store is busy with another statement."));
+    requireIdle();
+    forgetWhatOthersChanged();
     m_text = sql.toUtf8();
     liftLiterals({m_text.constData(), std::size_t(m_text.size())}, m_lifted);
     const auto known = m_prepared.find(m_lifted.shape);
     if (known != m_prepared.end() && fits(known->second))
         return known->second;
+    Prepared compiled = compile();
+    if (compiled.changesSchema) // runs once by nature
+        return m_schemaChange = std::move(compiled);
     if (m_prepared.size() >= cacheLimit)
         m_prepared.clear();
-    return m_prepared.insert_or_assign(m_lifted.shape, compile()).first->second;
+    return m_prepared.insert_or_assign(m_lifted.shape, std::move(compiled)).first->second;
 }
 
 Database::Prepared Database::compile()
@@ -166,31 +207,28 @@ Database::Prepared Database::compile()
     const std::string_view text(m_text.constData(), std::size_t(m_text.size()));
     if (text.find_first_not_of(" \t\r\n") == std::string_view::npos)
         raiseError(EmptyCommand, "Command text was not set for the command object.");
-    m_catalog.refresh();
     Parser parser(text);
     const Statement tree = parser.parse();
     EmittedStatement emitted = Emitter(m_catalog, parser.literals()).emit(tree);
 
     Prepared prepared;
-    prepared.before = std::move(emitted.before);
+    prepared.setup = std::move(emitted.before);
     prepared.header = headerOf(emitted.columns);
     prepared.writes = emitted.writes;
     prepared.changesSchema = emitted.changesSchema;
-    prepared.mayFailMidway = emitted.mayFailMidway;
     for (const int literal : emitted.pinned)
         prepared.pinned.emplace_back(literal, parser.literals()[std::size_t(literal)].text);
-    if (prepared.before.empty()) {
-        prepared.statement = prepareSqlite(m_handle, emitted.sql);
-        prepared.parameters = sqlite3_bind_parameter_count(prepared.statement.get());
-    } else
-        prepared.behind = std::move(emitted.sql);
+    prepared.sql = std::move(emitted.sql);
+    if (prepared.setup.empty())
+        prepared.statement = prepareSqlite(m_handle.get(), prepared.sql);
     return prepared;
 }
 
 void Database::bind(const Prepared &prepared)
 {
     sqlite3_stmt *statement = prepared.statement.get();
-    const int count = std::min(prepared.parameters, static_cast<int>(m_lifted.literals.size()));
+    const int count =
+        std::min(sqlite3_bind_parameter_count(statement), static_cast<int>(m_lifted.literals.size()));
     for (int i = 0; i < count; ++i) {
         const Literal &literal = m_lifted.literals[std::size_t(i)];
         switch (literal.kind) {
@@ -225,7 +263,7 @@ void Database::execute(const QString &sql)
         void takeHeader(const HeaderPtr &) override {}
         void takeRow(sqlite3_stmt *) override {}
     } dropped;
-    read(sql, dropped);
+    run(sql, dropped);
 }
 
 int Database::onProgress(void *database)
@@ -243,7 +281,7 @@ int Database::onProgress(void *database)
     return cancelled ? 1 : 0;
 }
 
-bool Database::read(const QString &sql, RowSink &rows)
+bool Database::run(const QString &sql, RowSink &rows)
 {
     Prepared &prepared = prepare(sql);
     const ProgressWatch watch(*this);
@@ -255,11 +293,7 @@ bool Database::read(const QString &sql, RowSink &rows)
     sqlite3_stmt *statement = prepared.statement.get();
     const StatementReset reset(statement);
     rows.takeHeader(prepared.header);
-    int result = SQLITE_ROW;
-    while ((result = sqlite3_step(statement)) == SQLITE_ROW)
-        rows.takeRow(statement);
-    if (result != SQLITE_DONE)
-        raiseSqlite(m_handle, result);
+    forEachRow(m_handle.get(), statement, [&rows](sqlite3_stmt *row) { rows.takeRow(row); });
     return true;
 }
 
@@ -268,145 +302,56 @@ void Database::write(Prepared &prepared)
     // An interrupted write takes its whole transaction along: it gets one for itself.
     const bool alone = Interruptible::active();
     if (alone)
-        flush();
-    beginGroup();
-    // A single row of values is worked out before it is written, and SQLite undoes a row that
-    // its constraints refuse. What can fail with rows written needs a way back of its own.
-    const bool guarded = prepared.mayFailMidway || !prepared.before.empty();
+        m_group.commit();
+    m_group.open();
+    LastCounter &lastCounter = m_catalog.lastCounter();
+    const std::int64_t lastNumber = lastCounter.number();
+    // SQLite itself undoes a statement that fails midway; with others before it, it needs a way back.
+    const bool guarded = !prepared.setup.empty();
     try {
         if (guarded)
-            runSqlite(m_handle, "SAVEPOINT statement");
+            runSqlite(m_handle.get(), "SAVEPOINT statement");
         runWrite(prepared);
         if (guarded)
-            runSqlite(m_handle, "RELEASE statement");
+            runSqlite(m_handle.get(), "RELEASE statement");
     } catch (...) {
-        if (groupLost())
-            raiseGroupLost();
+        lastCounter.putBack(lastNumber);
+        m_group.raiseIfLost();
         if (guarded)
-            sqlite3_exec(m_handle, "ROLLBACK TO statement; RELEASE statement", nullptr, nullptr, nullptr);
+            sqlite3_exec(m_handle.get(), "ROLLBACK TO statement; RELEASE statement", nullptr, nullptr,
+                         nullptr);
         throw;
     }
-    const bool changed = prepared.changesSchema || sqlite3_changes(m_handle) > 0;
     if (prepared.changesSchema)
-        m_prepared.clear(); // the statement itself included
-    m_groupWrites += changed ? 1 : 0;
-    m_writesSinceTry += changed ? 1 : 0;
+        forget();
+    m_group.take(prepared.changesSchema || sqlite3_changes(m_handle.get()) > 0);
     if (alone)
-        flush();
-    else
-        commitWhenDue();
+        m_group.commit();
 }
 
 void Database::runWrite(Prepared &prepared)
 {
-    if (prepared.before.empty()) {
-        bind(prepared);
-        stepToEnd(m_handle, prepared.statement.get());
-        return;
+    if (!prepared.setup.empty()) {
+        for (const std::string &sql : prepared.setup)
+            runSqlite(m_handle.get(), sql.c_str());
+        prepared.statement = prepareSqlite(m_handle.get(), prepared.sql);
     }
-    for (const std::string &sql : prepared.before)
-        runSqlite(m_handle, sql.c_str());
-    prepared.statement = prepareSqlite(m_handle, prepared.behind);
-    prepared.parameters = sqlite3_bind_parameter_count(prepared.statement.get());
     bind(prepared);
-    stepToEnd(m_handle, prepared.statement.get());
+    runToEnd(m_handle.get(), prepared.statement.get());
 }
 
-void Database::beginGroup()
-{
-    if (m_inGroup)
-        return;
-    requireFileInPlace();
-    stepToEnd(m_handle, m_begin.get());
-    m_inGroup = true;
-    m_written = true;
-    m_groupWrites = 0;
-    m_writesSinceTry = 0;
-    m_groupStart = std::chrono::steady_clock::now();
-}
-
-// Writes to a file that has lost its name would be gone with it.
-void Database::requireFileInPlace() const
-{
-    int moved = 0;
-    sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
-    if (moved != 0)
-        raise(Failure, QStringLiteral("Could not find file '%1'. It was moved or deleted while it was open.")
-                           .arg(QString::fromUtf8(sqlite3_db_filename(m_handle, "main"))));
-}
-
-void Database::commitWhenDue()
-{
-    if (m_writesSinceTry >= groupLimit || std::chrono::steady_clock::now() - m_groupStart >= groupAge)
-        flushUnlessRead();
-}
-
-// While another program reads the file, what is written waits for the end of the next group;
-// only the close of the connection has to tell.
 void Database::flushUnlessRead()
 {
-    try {
-        flush();
-    } catch (const Error &) {
-        if (!m_inGroup)
-            throw;
-        m_writesSinceTry = 0;
-        m_groupStart = std::chrono::steady_clock::now();
-    }
+    if (!m_asking)
+        m_group.commitUnlessRead();
 }
 
-// On a full disk and the like SQLite gives up the whole transaction by itself.
-bool Database::groupLost() const
+void Database::close(bool last)
 {
-    return m_inGroup && sqlite3_get_autocommit(m_handle) != 0;
-}
-
-// Called where an exception is being handled: the cause.
-void Database::raiseGroupLost()
-{
-    m_inGroup = false;
-    if (m_groupWrites == 0)
-        throw;
-    try {
-        throw;
-    } catch (const Error &cause) {
-        throw ChangesLost(cause.number(),
-                          cause.description() +
-                              QStringLiteral(" The last %1 change(s) are lost.").arg(m_groupWrites));
-    }
-}
-
-void Database::flush()
-{
-    if (!m_inGroup || m_asking)
-        return;
-    try {
-        stepToEnd(m_handle, m_commit.get());
-        m_inGroup = false;
-    } catch (const Error &) {
-        // A commit that has to wait for a reader can be tried again; any other is lost.
-        if (!groupLost() && (sqlite3_errcode(m_handle) & 0xff) == SQLITE_BUSY)
-            throw;
-        if (!groupLost())
-            sqlite3_exec(m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
-        raiseGroupLost();
-    }
-}
-
-void Database::flushAtClose(bool last)
-{
-    if (!last) {
-        flushUnlessRead();
-        return;
-    }
-    try {
-        flush();
-    } catch (const Error &) {
-        if (!m_inGroup)
-            throw;
-        sqlite3_exec(m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
-        raiseGroupLost();
-    }
+    if (last)
+        m_group.commitOrLose();
+    else
+        m_group.commitUnlessRead();
 }
 
 } // namespace jet

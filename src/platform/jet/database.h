@@ -5,11 +5,10 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/lexer.h"
 #include "platform/jet/recordheader.h"
-#include "platform/jet/sqlite.h"
+#include "platform/jet/writegroup.h"
 
 #include <QString>
 
-#include <chrono>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -28,15 +27,18 @@ protected:
 };
 
 /// One open store file, shared by all connections of the process to it. Statements are
-/// compiled once for each shape and kept; writes are grouped into transactions of bounded
-/// size and age, so that a batch does not pay for the disk row by row.
-class Database final
+/// compiled once for each shape and kept until the tables change. One thread only may use the engine.
+///
+/// A statement that runs for long may let events run (interrupt.h). Whoever turns to the same file from
+/// there is refused with a Failure, but for flushAll(), which leaves the file alone.
+class Database final : public std::enable_shared_from_this<Database>
 {
 public:
     /// Opens the file, or joins those that have it open. Raises Failure with a text that
     /// names the file when it is missing, a folder, unreadable or no store.
     [[nodiscard]] static std::shared_ptr<Database> open(const QString &path);
-    /// Commits the pending writes of every open file.
+    /// Commits the pending writes of every open file that no other program reads. Raises the first
+    /// ChangesLost.
     static void flushAll();
 
     ~Database();
@@ -46,31 +48,30 @@ public:
     /// Runs a statement; rows it returns are dropped.
     void execute(const QString &sql);
 
-    /// Runs a statement and hands its rows over. Returns false for one that returns none.
-    bool read(const QString &sql, RowSink &rows);
+    /// Runs a statement and hands over the rows it returns. Returns false for one that returns none.
+    bool run(const QString &sql, RowSink &rows);
 
-    /// Ends the group of writes at hand. Raises ChangesLost when that fails, or Failure while another
-    /// program's reading holds it up: the group stays then, to be tried again.
-    void flush();
-    /// The same at the close of a connection. Held up, the group is given up with the last connection, as
-    /// nobody would try again, and stays silently with any other.
-    void flushAtClose(bool last);
+    /// Commits the pending writes for a connection that closes. While another program's reading holds that
+    /// up, the last connection loses them, as nobody would try again, which raises ChangesLost; with any
+    /// other they go on pending.
+    void close(bool last);
 
-    [[nodiscard]] Catalog &catalog() { return m_catalog; }
-    [[nodiscard]] sqlite3 *handle() const { return m_handle; }
+    /// Raises Failure in the middle of a statement.
+    void requireIdle() const;
+
+    [[nodiscard]] Catalog &catalog();
+    [[nodiscard]] sqlite3 *handle() const;
 
 private:
     struct Prepared
     {
         StatementHandle statement;
-        std::vector<std::string> before;
-        std::string behind; ///< the statement itself, where it can be compiled only behind those
-        HeaderPtr header;   ///< null for a statement that returns no rows
-        std::vector<std::pair<int, std::string>> pinned;
-        int parameters = 0;
+        std::vector<std::string> setup; ///< what runs first; the statement can be compiled only behind it
+        std::string sql;
+        HeaderPtr header;                                ///< null for a statement that returns no rows
+        std::vector<std::pair<int, std::string>> pinned; ///< literals that shaped the SQL, and their texts
         bool writes = false;
         bool changesSchema = false;
-        bool mayFailMidway = false;
     };
 
     struct Closer
@@ -89,32 +90,26 @@ private:
     void bind(const Prepared &prepared);
     void write(Prepared &prepared);
     void runWrite(Prepared &prepared);
-    void beginGroup();
-    void commitWhenDue();
+    void forgetWhatOthersChanged();
+    void forget();
     void flushUnlessRead();
-    void requireFileInPlace() const;
     static int onProgress(void *database);
-    [[nodiscard]] bool groupLost() const;
-    [[noreturn]] void raiseGroupLost();
 
-    Handle m_owner;
-    sqlite3 *m_handle;
+    static constexpr sqlite3_int64 unknownVersion = -1;
+
+    Handle m_handle;
     Catalog m_catalog;
+    WriteGroup m_group;
+    StatementHandle m_readVersion;
+    sqlite3_int64 m_version = unknownVersion; ///< of the tables that the catalog and the statements know
     std::unordered_map<std::string, Prepared> m_prepared;
+    Prepared m_schemaChange;
+    bool m_asking = false; ///< in the middle of a statement, events may run
 
     // The statement at hand; the memory is used again.
     QByteArray m_text;
     LiftedStatement m_lifted;
     std::string m_unquoted;
-
-    StatementHandle m_begin;
-    StatementHandle m_commit;
-    bool m_asking = false; // in the middle of a statement, events may run
-    bool m_inGroup = false;
-    bool m_written = false; ///< whether there ever was a group
-    int m_groupWrites = 0;
-    int m_writesSinceTry = 0; // to commit them
-    std::chrono::steady_clock::time_point m_groupStart;
 };
 
 } // namespace jet

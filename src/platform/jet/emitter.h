@@ -27,8 +27,7 @@ struct EmittedStatement
     std::vector<OutputColumn> columns; ///< of a query; empty for a statement that returns no rows
     bool writes = false;
     bool changesSchema = false;
-    bool mayFailMidway = false; ///< a function can raise when some rows are written already
-    std::vector<int> pinned;    ///< literals whose values shaped the SQL
+    std::vector<int> pinned; ///< literals whose values shaped the SQL
 };
 
 /// Turns a tree into SQLite SQL: resolves every name against the catalog, checks types and
@@ -184,7 +183,6 @@ private:
     Aggregates m_aggregates = Aggregates::Forbidden;
     std::string_view m_clause;
     bool m_literalsAsValues = false;
-    bool m_mayRaise = false;
     int m_subqueries = 0;
     int m_depth = 0;
     int m_steps = 0;

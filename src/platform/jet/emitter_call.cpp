@@ -162,7 +162,6 @@ Emitter::Piece Emitter::branches(const Expression &source, Scope &scope)
             branch(when(*last->arguments[0]), *last->arguments[1]);
         branch(" ELSE ", *last);
     } else if (choose) {
-        m_mayRaise = true;
         sql += " jet_clng(" + asNumber(expression(*arguments[0], scope)) + ')';
         for (std::size_t i = 1; i < count; ++i)
             branch(" WHEN " + std::to_string(i) + " THEN ", *arguments[i]);
@@ -207,7 +206,6 @@ Emitter::Piece Emitter::function(const Expression &source, Scope &scope)
     if (count < info->minimum || (info->maximum >= 0 && count > info->maximum))
         raiseArgumentCount(source);
 
-    m_mayRaise = true;
     Piece result;
     std::string list;
     DataType first = DataType::Unknown;

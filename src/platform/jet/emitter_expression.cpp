@@ -86,7 +86,6 @@ std::string Emitter::asNumber(const Piece &piece)
 {
     if (!isText(piece.type.type) && piece.type.type != DataType::Unknown)
         return value(piece);
-    m_mayRaise = true;
     return "jet_num(" + value(piece) + ')';
 }
 

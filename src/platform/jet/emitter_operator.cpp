@@ -71,7 +71,6 @@ Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
 
     // Functions take both sides as they are: a text is read only where the other is not Null.
     const auto call = [&](const char *name, DataType type) {
-        m_mayRaise = true;
         return Piece{.sql = std::string(name) + '(' + value(left) + ", " + value(right) + ')',
                      .type = {type}};
     };
@@ -109,7 +108,6 @@ std::string Emitter::asBits(const Piece &piece)
 {
     if (isLong(piece.type.type))
         return value(piece);
-    m_mayRaise = true;
     return "jet_clng(" + asNumber(piece) + ')';
 }
 

@@ -67,7 +67,6 @@ Emitter::Piece Emitter::quantified(const Expression &source, Scope &scope)
 Emitter::Piece Emitter::scalar(const Expression &source, Scope &scope)
 {
     const Rows rows = singleColumn(source, scope, true);
-    m_mayRaise = true;
     std::string sql = "(SELECT CASE WHEN COUNT(*) > 1 THEN jet_raise(";
     sql += std::to_string(Failure);
     sql += ", 'At most one record can be returned by this subquery.') ELSE MAX(\"c0\") END FROM (SELECT "

@@ -121,7 +121,6 @@ EmittedStatement Emitter::emit(const Statement &statement)
     std::sort(m_pinned.begin(), m_pinned.end());
     m_pinned.erase(std::unique(m_pinned.begin(), m_pinned.end()), m_pinned.end());
     result.pinned = m_pinned;
-    result.mayFailMidway = m_mayRaise;
     return result;
 }
 
@@ -159,10 +158,7 @@ std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
     const DataType from = piece.type.type;
     const DataType to = column.type.type;
     const std::string sql = value(piece);
-    const auto through = [&](const char *function) {
-        m_mayRaise = true;
-        return std::string(function) + '(' + sql + ')';
-    };
+    const auto through = [&](const char *function) { return std::string(function) + '(' + sql + ')'; };
     switch (to) {
     case DataType::Boolean:
         if (from == DataType::Boolean)
@@ -190,7 +186,6 @@ std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
     case DataType::Memo: {
         if (column.type.width == 0)
             return writtenOut(piece);
-        m_mayRaise = true;
         return "jet_fit(" + writtenOut(piece) + ", " + std::to_string(column.type.width) + ')';
     }
     case DataType::Unknown:

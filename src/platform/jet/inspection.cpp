@@ -80,12 +80,8 @@ std::vector<StoredTable> storedTables(Connection &connection)
 {
     sqlite3 *handle = connection.database().handle();
     std::vector<StoredTable> tables;
-    readRows(handle,
-             "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite!_%' ESCAPE '!' "
-             "ORDER BY name COLLATE JET",
-             {}, [&](sqlite3_stmt *row) {
-                 tables.push_back({textOf(row, 0), {}, {}});
-             });
+    for (const std::string &name : connection.database().catalog().tableNames())
+        tables.push_back({QString::fromStdString(name), {}, {}});
     for (StoredTable &table : tables) {
         readRows(handle, "SELECT name FROM pragma_table_info(?1) ORDER BY cid", table.name,
                  [&](sqlite3_stmt *row) {
@@ -100,6 +96,7 @@ std::vector<StoredTable> storedTables(Connection &connection)
 
 QStringList brokenPlaces(Connection &connection)
 {
+    sqlite3 *handle = connection.database().handle();
     QStringList places;
     const auto take = [&](sqlite3_stmt *row) {
         // A row may tell of a whole page tree, a line each under a heading.
@@ -109,7 +106,7 @@ QStringList brokenPlaces(Connection &connection)
         }
     };
     try {
-        readRows(connection.database().handle(), "PRAGMA integrity_check(100)", {}, take);
+        readRows(handle, "PRAGMA integrity_check(100)", {}, take);
     } catch (const Error &error) {
         places.append(error.description());
     }

@@ -23,6 +23,10 @@ public:
     /// Tells of a table, by the name of its definition, whether it has a counter.
     void watch(const std::string &table, bool hasCounter);
 
+    /// The number it gives now, and the way back to it from rows that were undone.
+    [[nodiscard]] std::int64_t number() const { return m_last; }
+    void putBack(std::int64_t number) { m_last = number; }
+
 private:
     static void rowChanged(void *self, int operation, const char *file, const char *table, long long row);
 

@@ -152,7 +152,7 @@ void Recordset::open(const QString &sql, Connection &connection, int cursor, int
     clearRows();
     Filler filler(*this);
     try {
-        m_open = connection.database().read(sql, filler);
+        m_open = connection.database().run(sql, filler);
     } catch (...) {
         clearRows();
         throw;

@@ -100,6 +100,12 @@ StatementHandle prepareSqlite(sqlite3 *handle, std::string_view sql)
     return StatementHandle(statement);
 }
 
+void runToEnd(sqlite3 *handle, sqlite3_stmt *statement)
+{
+    const StatementReset reset(statement);
+    forEachRow(handle, statement, [](sqlite3_stmt *) {});
+}
+
 std::string_view textAt(sqlite3_stmt *row, int column)
 {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(row, column));

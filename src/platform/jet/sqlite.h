@@ -40,6 +40,9 @@ void forEachRow(sqlite3 *handle, sqlite3_stmt *statement, Take &&take)
         raiseSqlite(handle, result);
 }
 
+/// Runs a statement from its beginning to its end and drops the rows it returns.
+void runToEnd(sqlite3 *handle, sqlite3_stmt *statement);
+
 /// A statement starts over when its reader is done with it, however that ends.
 class StatementReset final
 {
