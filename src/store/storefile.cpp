@@ -3,6 +3,7 @@
 #include "base/error.h"
 #include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
+#include "platform/jet/storefile.h"
 #include "store/storesession.h"
 
 #include <QDir>

@@ -1,6 +1,7 @@
 #include "platform/jet/functions.h"
 
 #include "base/value.h"
+#include "platform/jet/errormark.h"
 #include "platform/jet/errortexts.h"
 #include "platform/jet/numbertext.h"
 #include "sqltest.h"

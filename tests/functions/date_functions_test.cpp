@@ -1,4 +1,4 @@
-#include "platform/jet/functions.h"
+#include "platform/jet/clock.h"
 
 #include "sqltest.h"
 

@@ -7,7 +7,7 @@ namespace {
 using FormatTest = SqlTest;
 
 // A Saturday.
-#define MOMENT "jet_cdate('1/15/2005 14:05:09')"
+#define MOMENT "jet_readdate('1/15/2005 14:05:09')"
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "sqltest.h"
 
 #include "platform/jet/collation.h"
+#include "platform/jet/errormark.h"
 #include "platform/jet/functions.h"
 
 #include <sqlite3.h>

@@ -1,9 +1,9 @@
 // Statements, one a line, run on a small store: each is refused or done, and the store stays whole.
 
 #include "fuzzkit.h"
+#include "platform/jet/clock.h"
 #include "platform/jet/connection.h"
 #include "platform/jet/database.h"
-#include "platform/jet/functions.h"
 #include "platform/jet/recordset.h"
 #include "platform/jet/sqlitesetup.h"
 

@@ -4,6 +4,7 @@
 #include "casefile.h"
 #include "platform/jet/connection.h"
 #include "platform/jet/sqlitesetup.h"
+#include "platform/jet/storefile.h"
 
 #include <QDir>
 #include <QDirIterator>

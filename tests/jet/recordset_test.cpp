@@ -88,6 +88,16 @@ TEST_F(RecordsetTest, KnowsItsFieldsByNameAndPlace)
     EXPECT_EQ(rooms.texts(0), nullptr);
 }
 
+TEST_F(RecordsetTest, AResultWithoutRowsHasTexts)
+{
+    rooms.open(u"SELECT RoomNumber FROM Tbl_Rooms WHERE ID = 0"_s, connection);
+    EXPECT_NE(rooms.texts(0), nullptr);
+    rooms.close();
+    rooms.open(u"SELECT ID, RoomNumber, Description FROM Tbl_Rooms WHERE ID = 0"_s, connection);
+    ASSERT_NE(rooms.texts(2), nullptr);
+    EXPECT_TRUE(rooms.texts(2)->isNull(0));
+}
+
 TEST_F(RecordsetTest, RowsMadeInMemoryNeedNoStore)
 {
     jet::Recordset made;

@@ -11,7 +11,6 @@
 #include <array>
 #include <cstdint>
 #include <sqlite3.h>
-#include <vector>
 
 namespace jet {
 
@@ -324,19 +323,10 @@ std::string sortKey(std::string_view text)
 
 std::string foldCase(std::string_view text)
 {
+    if (!utf8::isAscii(text))
+        return utf8::mapped(text, [](char32_t code) { return char32_t(QChar::toCaseFolded(code)); });
     std::string folded(text);
-    unsigned char all = 0;
-    for (char &c : folded) {
-        all = static_cast<unsigned char>(all | static_cast<unsigned char>(c));
-        c = lowered(c);
-    }
-    if (all < 0x80)
-        return folded;
-    folded.clear();
-    for (const char *at = text.data(), *end = at + text.size(); at != end;) {
-        const char32_t code = utf8::next(at, end);
-        utf8::append(folded, code >= utf8::firstBrokenByte ? code : QChar::toCaseFolded(code));
-    }
+    std::ranges::transform(folded, folded.begin(), lowered);
     return folded;
 }
 

@@ -4,7 +4,6 @@
 #include "platform/jet/database.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
-#include "platform/jet/storefile.h"
 
 #include <utility>
 
@@ -18,14 +17,16 @@ constexpr auto provider = "Microsoft.Jet.OLEDB.4.0"_L1;
 QString takeQuoted(QStringView &rest)
 {
     QString value;
-    qsizetype at = rest.indexOf(u'"') + 1;
-    for (; at < rest.size(); ++at) {
-        if (rest[at] == u'"' && rest.mid(at + 1, 1) != u"\"")
+    rest = rest.mid(rest.indexOf(u'"') + 1);
+    while (!rest.isEmpty()) {
+        const bool isQuote = rest.front() == u'"';
+        const bool isDoubled = isQuote && rest.mid(1).startsWith(u'"');
+        if (isQuote && !isDoubled)
             break;
-        value += rest[at];
-        at += rest[at] == u'"' ? 1 : 0;
+        value += rest.front();
+        rest = rest.mid(isDoubled ? 2 : 1);
     }
-    rest = rest.mid(at + 1);
+    rest = rest.mid(1);
     return value;
 }
 
@@ -71,11 +72,6 @@ QString connectionString(const QString &path)
                        QStringView(path).trimmed().size() == path.size();
     const QString source = plain ? path : u'"' + QString(path).replace(u'"', "\"\""_L1) + u'"';
     return "Provider="_L1 + provider + ";Data Source="_L1 + source;
-}
-
-void createDatabase(const QString &path)
-{
-    createStoreFile(path);
 }
 
 void flushPendingWrites()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/jet/state.h"
+
 #include <QString>
 
 #include <memory>
@@ -9,13 +11,11 @@ namespace jet {
 class Database;
 class Recordset;
 
-inline constexpr int StateClosed = 0;
-inline constexpr int StateOpen = 1;
 inline constexpr int SchemaTables = 20;
 
 /// A session on one store file. Sessions of this process on one file share the handle
 /// below; the file is closed when the last of them closes. Closes itself at the end of
-/// its life; what was written before stays written.
+/// its life, but only close() tells when what was written could not be brought to the disk.
 class Connection final
 {
 public:
@@ -31,7 +31,7 @@ public:
     void open(const QString &connectionString, const QString &user = {}, const QString &password = {},
               int options = -1);
     /// Commits what is pending; what cannot be committed with the last connection to the file is undone and
-    /// raised as ChangesLost. Raises ObjectClosed (3704) when not open.
+    /// raised as ChangesLost. Raises ObjectClosed (3704) when not open, Failure in the middle of a statement.
     void close();
     [[nodiscard]] int state() const { return m_database ? StateOpen : StateClosed; }
 
@@ -53,11 +53,8 @@ private:
 /// The connection text of a store file.
 [[nodiscard]] QString connectionString(const QString &path);
 
-/// Makes a new, empty store file and closes it. Raises Failure when the path exists or
-/// cannot be made; nothing is left behind then.
-void createDatabase(const QString &path);
-
-/// Commits the pending group of writes of every open file of this process. The one
+/// Commits the pending group of writes of every open file of this process that no other program reads; raises
+/// ChangesLost where that fails for good. The one
 /// yield of the program calls this before it lets other events run.
 void flushPendingWrites();
 

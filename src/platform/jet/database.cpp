@@ -91,7 +91,7 @@ std::shared_ptr<Database> Database::open(const QString &path)
     } catch (const Error &error) {
         if (error.description().contains(key))
             throw;
-        raise(error.number(), QStringLiteral("%1 The file is '%2'.").arg(error.description(), path));
+        raise(error.number(), namingFile(error.description(), path));
     }
     std::shared_ptr<Database> shared(new Database(std::move(handle)));
     openDatabases()[key] = shared;

@@ -183,7 +183,8 @@ std::string Emitter::argument(const Piece &piece, char kind)
     case 'n':
         return asNumber(piece);
     case 'd':
-        return isText(type) || type == DataType::Unknown ? "jet_cdate(" + value(piece) + ')' : value(piece);
+        return isText(type) || type == DataType::Unknown ? "jet_readdate(" + value(piece) + ')'
+                                                         : value(piece);
     case 'k': {
         const char *letter = isText(type)                ? "'t', "
                              : type == DataType::Date    ? "'d', "

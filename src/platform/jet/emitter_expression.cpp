@@ -44,7 +44,7 @@ std::string Emitter::value(const Piece &piece)
     if (piece.condition)
         return "(-(" + piece.sql + "))";
     if (piece.mayOverflow)
-        return (piece.type.type == DataType::Date ? "jet_asdate(" : "jet_cdbl(") + piece.sql + ')';
+        return (piece.type.type == DataType::Date ? "jet_cdate(" : "jet_cdbl(") + piece.sql + ')';
     return piece.sql;
 }
 

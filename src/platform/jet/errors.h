@@ -13,7 +13,7 @@ inline constexpr int TypeMismatch = -2147217913;
 inline constexpr int FieldTooSmall = -2147217833;
 inline constexpr int EmptyCommand = -2147217908;
 inline constexpr int Failure = -2147467259;
-inline constexpr int DuplicateValue = -2147467259;
+inline constexpr int DuplicateValue = -2147467259; // a statement does not tell it from a Failure
 
 inline constexpr int NoCurrentRecord = 3021;
 inline constexpr int ItemNotFound = 3265;

@@ -54,21 +54,6 @@ void raiseInExpression(int number, std::string_view what, std::string_view expre
     raiseError(number, std::string(what) + " in query expression '" + excerpt(expression) + "'.");
 }
 
-bool tellsOfLimit(std::string_view sqliteMessage)
-{
-    static constexpr std::string_view limits[] = {
-        "parser stack overflow",
-        "Expression tree is too large",
-        "too many",
-        "at most ",
-        "string or blob too big",
-        "statement too long",
-        "variable number must be",
-    };
-    return std::ranges::any_of(limits,
-                               [&](std::string_view limit) { return sqliteMessage.starts_with(limit); });
-}
-
 std::string suggestion(std::string_view word, const std::vector<std::string_view> &names)
 {
     constexpr std::size_t longestName = 64;

@@ -10,6 +10,8 @@
 namespace jet {
 
 inline constexpr std::string_view queryTooComplex = "Query is too complex.";
+inline constexpr std::string_view dataTypeMismatch = "Data type mismatch in criteria expression.";
+inline constexpr std::string_view notUpdatable = "Operation must use an updatable query.";
 
 /// Raises an Error whose text is UTF-8.
 [[noreturn]] void raiseError(int number, std::string_view text);
@@ -24,9 +26,6 @@ inline constexpr std::string_view queryTooComplex = "Query is too complex.";
 
 /// Raises "WHAT in query expression 'EXPRESSION'."
 [[noreturn]] void raiseInExpression(int number, std::string_view what, std::string_view expression);
-
-/// Whether the message is SQLite's word for a statement beyond its limits.
-[[nodiscard]] bool tellsOfLimit(std::string_view sqliteMessage);
 
 /// " Did you mean 'NAME'?" with the nearest of the names, or nothing when none is near.
 [[nodiscard]] std::string suggestion(std::string_view word, const std::vector<std::string_view> &names);

@@ -25,7 +25,7 @@ std::string_view halfMarkAt(std::string_view text)
 }
 
 /// A letter and how often it stands in a row, or a text as it is.
-struct Token
+struct DateItem
 {
     char letter = 0;
     int count = 0;
@@ -34,9 +34,9 @@ struct Token
 
 constexpr std::string_view letters = "dmyhnsqwct";
 
-std::vector<Token> tokensOf(std::string_view picture)
+std::vector<DateItem> dateItemsOf(std::string_view picture)
 {
-    std::vector<Token> tokens;
+    std::vector<DateItem> dateItems;
     const auto items = pictureItems(picture);
     for (std::size_t i = 0; i < items.size(); ++i) {
         const std::string_view text = items[i].text;
@@ -44,19 +44,19 @@ std::vector<Token> tokensOf(std::string_view picture)
         const std::string_view mark = items[i].literal ? std::string_view() : halfMarkAt(rest);
         const char letter = lowered(text.front());
         if (!mark.empty()) {
-            tokens.push_back({'a', int(mark.size()), mark});
+            dateItems.push_back({'a', int(mark.size()), mark});
             i += mark.size() - 1;
         } else if (items[i].literal || letters.find(letter) == std::string_view::npos) {
-            tokens.push_back({0, 0, text});
+            dateItems.push_back({0, 0, text});
         } else {
             std::size_t end = i + 1;
             while (end < items.size() && !items[end].literal && lowered(items[end].text.front()) == letter)
                 ++end;
-            tokens.push_back({letter, int(end - i), text});
+            dateItems.push_back({letter, int(end - i), text});
             i = end - 1;
         }
     }
-    return tokens;
+    return dateItems;
 }
 
 std::string padded(int number, int width)
@@ -85,54 +85,54 @@ public:
 
     [[nodiscard]] std::string write(std::string_view picture) const
     {
-        const std::vector<Token> tokens = tokensOf(picture);
+        const std::vector<DateItem> dateItems = dateItemsOf(picture);
         const bool twelve =
-            std::ranges::any_of(tokens, [](const Token &token) { return token.letter == 'a'; });
+            std::ranges::any_of(dateItems, [](const DateItem &item) { return item.letter == 'a'; });
         std::string text;
         char before = 0;
-        for (const Token &token : tokens) {
+        for (const DateItem &item : dateItems) {
             // Behind an hour, m is the minute.
             const bool minute =
-                token.letter == 'n' || (token.letter == 'm' && before == 'h' && token.count <= 2);
+                item.letter == 'n' || (item.letter == 'm' && before == 'h' && item.count <= 2);
             if (minute)
-                text += padded(m_parts.minute, token.count);
-            else if (token.letter == 'h')
-                text += padded(twelve ? (m_parts.hour + 11) % 12 + 1 : m_parts.hour, token.count);
+                text += padded(m_parts.minute, item.count);
+            else if (item.letter == 'h')
+                text += padded(twelve ? (m_parts.hour + 11) % 12 + 1 : m_parts.hour, item.count);
             else
-                text += one(token);
-            if (token.letter != 0)
-                before = token.letter;
+                text += one(item);
+            if (item.letter != 0)
+                before = item.letter;
         }
         return text;
     }
 
 private:
-    [[nodiscard]] std::string one(const Token &token) const
+    [[nodiscard]] std::string one(const DateItem &item) const
     {
-        switch (token.letter) {
+        switch (item.letter) {
         case 'd':
-            return dayText(token.count);
+            return dayText(item.count);
         case 'm':
-            return token.count <= 2 ? padded(m_parts.month, token.count)
-                                    : nameOf(oledate::monthName(m_parts.month), token.count > 3);
+            return item.count <= 2 ? padded(m_parts.month, item.count)
+                                   : nameOf(oledate::monthName(m_parts.month), item.count > 3);
         case 'y':
-            return token.count == 1   ? std::to_string(dayOfYear(m_day))
-                   : token.count == 2 ? padded(m_parts.year % 100, 2)
-                                      : padded(m_parts.year, 4);
+            return item.count == 1   ? std::to_string(dayOfYear(m_day))
+                   : item.count == 2 ? padded(m_parts.year % 100, 2)
+                                     : padded(m_parts.year, 4);
         case 's':
-            return padded(m_parts.second, token.count);
+            return padded(m_parts.second, item.count);
         case 'q':
             return std::to_string((m_parts.month + 2) / 3);
         case 'w':
-            return std::to_string(token.count == 1 ? dayOfWeek(m_day, m_rule) : weekOfYear(m_day, m_rule));
+            return std::to_string(item.count == 1 ? dayOfWeek(m_day, m_rule) : weekOfYear(m_day, m_rule));
         case 'c':
             return oledate::toText(m_date).toStdString();
         case 't':
-            return token.count == 5 ? write(longTime) : std::string(std::size_t(token.count), 't');
+            return item.count == 5 ? write(longTime) : std::string(std::size_t(item.count), 't');
         case 'a':
-            return halfText(token.text);
+            return halfText(item.text);
         default:
-            return std::string(token.text);
+            return std::string(item.text);
         }
     }
 

@@ -51,6 +51,9 @@ void sine(Call &call);
 void squareRoot(Call &call);
 void stringOfNumber(Call &call);
 void tangent(Call &call);
+void value(Call &call);
+
+// functions_convert.cpp
 void toBoolean(Call &call);
 void toByte(Call &call);
 void toCurrency(Call &call);
@@ -60,7 +63,6 @@ void toInteger(Call &call);
 void toLong(Call &call);
 void toSingle(Call &call);
 void toText(Call &call);
-void value(Call &call);
 
 // functions_date.cpp
 void dateAdd(Call &call);
@@ -90,6 +92,7 @@ void format(Call &call);
 
 } // namespace bodies
 
+void registerOperators(sqlite3 *handle);
 void registerConversions(sqlite3 *handle);
 void registerAggregates(sqlite3 *handle);
 

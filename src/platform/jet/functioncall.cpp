@@ -2,24 +2,20 @@
 
 #include "base/oledate.h"
 #include "platform/jet/collation.h"
-#include "platform/jet/datemath.h"
 #include "platform/jet/decimal.h"
-#include "platform/jet/errors.h"
+#include "platform/jet/errormark.h"
+#include "platform/jet/errortexts.h"
 #include "platform/jet/numbertext.h"
 #include "platform/jet/utf8.h"
 
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <new>
 #include <sqlite3.h>
 
 namespace jet {
 
 namespace {
-
-// A message of ours is this character, the number, the same character, the text.
-constexpr char numberMark = '\x01';
 
 void run(sqlite3_context *context, int count, sqlite3_value **values)
 {
@@ -41,20 +37,46 @@ void run(sqlite3_context *context, int count, sqlite3_value **values)
     }
 }
 
+/// Halves go to the even neighbour.
+double roundToEven(double number)
+{
+    return std::nearbyint(number);
+}
+
+/// The number as a single holds it: what people see of the single's shortest text.
+double shownSingle(double number)
+{
+    char text[40];
+    const auto end = std::to_chars(std::begin(text), std::end(text), static_cast<float>(number)).ptr;
+    double shown = 0;
+    std::from_chars(text, end, shown);
+    return shown;
+}
+
+/// Rounded to four decimals. Nothing outside of what a currency holds.
+std::optional<double> currency(double number)
+{
+    constexpr double largest = 922337203685477.5807;
+    if (!(std::abs(number) <= largest))
+        return {};
+    constexpr int decimals = 4;
+    return roundedToEven(number, decimals);
+}
+
 } // namespace
 
 void raiseMismatch()
 {
-    throw CallError{TypeMismatch, "Data type mismatch in criteria expression."};
+    throw CallError{TypeMismatch, std::string(dataTypeMismatch)};
 }
 
 void raiseMismatch(std::string_view text, std::string_view wanted)
 {
     constexpr std::size_t shown = 40;
     const std::size_t end = utf8::offset(text, shown);
-    throw CallError{TypeMismatch, "Data type mismatch in criteria expression. '" +
-                                      std::string(text.substr(0, end)) + (end < text.size() ? "..." : "") +
-                                      "' is not " + std::string(wanted) + '.'};
+    throw CallError{TypeMismatch, std::string(dataTypeMismatch) + " '" + std::string(text.substr(0, end)) +
+                                      (end < text.size() ? "..." : "") + "' is not " + std::string(wanted) +
+                                      '.'};
 }
 
 void raiseOverflow()
@@ -79,50 +101,14 @@ void requireRoom(std::size_t bytes)
         throw CallError{Failure, "Out of string space"};
 }
 
-double roundToEven(double number)
+std::string writtenDate(double date)
 {
-    return std::nearbyint(number);
+    return oledate::toText(date).toStdString();
 }
 
-double shownSingle(double number)
+std::string_view writtenBoolean(bool value)
 {
-    char text[40];
-    const auto end = std::to_chars(std::begin(text), std::end(text), static_cast<float>(number)).ptr;
-    double shown = 0;
-    std::from_chars(text, end, shown);
-    return shown;
-}
-
-std::optional<double> currency(double number)
-{
-    constexpr double largest = 922337203685477.5807;
-    if (!(std::abs(number) <= largest))
-        return {};
-    constexpr int decimals = 4;
-    return roundedToEven(number, decimals);
-}
-
-void resultError(sqlite3_context *context, int number, std::string_view text)
-{
-    try {
-        const std::string message = numberMark + std::to_string(number) + numberMark + std::string(text);
-        sqlite3_result_error(context, message.data(), int(message.size()));
-    } catch (const std::bad_alloc &) {
-        sqlite3_result_error_nomem(context);
-    }
-}
-
-int takeErrorNumber(std::string_view &message)
-{
-    if (message.empty() || message.front() != numberMark)
-        return 0;
-    const std::size_t end = message.find(numberMark, 1);
-    int number = 0;
-    if (end == std::string_view::npos ||
-        std::from_chars(message.data() + 1, message.data() + end, number).ec != std::errc())
-        return 0;
-    message.remove_prefix(end + 1);
-    return number;
+    return value ? "True" : "False";
 }
 
 Call::Call(sqlite3_context *context, int count, sqlite3_value **values)
@@ -210,6 +196,8 @@ bool Call::boolean(int index)
             return true;
         if (word == "false" || word == "no" || word == "off")
             return false;
+        if (!parseNumber(ownText(index)))
+            raiseMismatch(ownText(index), "a yes/no value");
     }
     return number(index) != 0;
 }
@@ -263,6 +251,14 @@ void Call::giveArgument(int index)
         sqlite3_result_value(m_context, m_values[index]);
 }
 
+WeekRule ruleOf(const Call &call, int index)
+{
+    const auto rule = weekRule(call.whole(index, 1), call.whole(index + 1, 1));
+    if (!rule)
+        raiseInvalidCall();
+    return *rule;
+}
+
 void giveWithin(Call &call, std::int64_t least, std::int64_t most, void (*tooLarge)())
 {
     const double rounded = roundToEven(call.number(0));
@@ -292,6 +288,12 @@ void bindFunction(sqlite3 *handle, const char *name, const Binding &binding)
     const int flags = SQLITE_UTF8 | (binding.stability == Stability::SameForSame ? SQLITE_DETERMINISTIC : 0);
     sqlite3_create_function_v2(handle, name, -1, flags, const_cast<Binding *>(&binding), run, nullptr,
                                nullptr, nullptr);
+}
+
+void bindFunctions(sqlite3 *handle, std::span<const NamedBinding> functions)
+{
+    for (const NamedBinding &function : functions)
+        bindFunction(handle, function.name, function.binding);
 }
 
 } // namespace jet

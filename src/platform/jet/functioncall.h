@@ -1,14 +1,16 @@
 #pragma once
 
-#include "platform/jet/functions.h"
+#include "platform/jet/datemath.h"
 
 #include <cstdint>
 #include <forward_list>
 #include <limits>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
+struct sqlite3;
+struct sqlite3_context;
 struct sqlite3_value;
 
 namespace jet {
@@ -31,14 +33,9 @@ struct CallError
 /// longer than what it was given asks before it does.
 void requireRoom(std::size_t bytes);
 
-/// Halves go to the even neighbour.
-[[nodiscard]] double roundToEven(double number);
-
-/// The number as a single holds it: what people see of the single's shortest text.
-[[nodiscard]] double shownSingle(double number);
-
-/// Rounded to four decimals, halves to even. Nothing outside of what a currency holds.
-[[nodiscard]] std::optional<double> currency(double number);
+/// A date or a yes/no as the dialect writes it.
+[[nodiscard]] std::string writtenDate(double date);
+[[nodiscard]] std::string_view writtenBoolean(bool value);
 
 /// The arguments of one call, by index from 0, and the place for what it gives. An argument
 /// that was left out reads as Null. A body that gives nothing gives Null.
@@ -91,6 +88,9 @@ private:
     std::forward_list<std::string> m_texts;
 };
 
+/// The rule of weeks that the argument and the one behind it name; raises "Invalid procedure call".
+[[nodiscard]] WeekRule ruleOf(const Call &call, int index);
+
 /// Give the first argument as a whole number between the two, a single or a currency, rounded to what it
 /// holds. What does not fit goes to `tooLarge`, which raises.
 void giveWithin(Call &call, std::int64_t least, std::int64_t most, void (*tooLarge)());
@@ -119,7 +119,14 @@ struct Binding
     Stability stability = Stability::SameForSame;
 };
 
-/// The binding must live as long as the handle.
+struct NamedBinding
+{
+    const char *name; ///< in SQLite
+    Binding binding;
+};
+
+/// The bindings must live as long as the handle.
 void bindFunction(sqlite3 *handle, const char *name, const Binding &binding);
+void bindFunctions(sqlite3 *handle, std::span<const NamedBinding> functions);
 
 } // namespace jet

@@ -32,7 +32,7 @@ constexpr Function functions[] = {
     {{"CBool",        1, 1, "v",      Boolean,  "jet_cbool"},        {bodies::toBoolean}},
     {{"CByte",        1, 1, "n",      Short,    "jet_cbyte"},        {bodies::toByte}},
     {{"CCur",         1, 1, "n",      Currency, "jet_ccur"},         {bodies::toCurrency}},
-    {{"CDate",        1, 1, "d",      Date,     "jet_asdate"},       {bodies::toDate}},
+    {{"CDate",        1, 1, "d",      Date,     "jet_cdate"},        {bodies::toDate}},
     {{"CDbl",         1, 1, "n",      Double,   "jet_cdbl"},         {bodies::toDouble}},
     {{"Chr",          1, 1, "n",      Text,     "jet_chr"},          {bodies::characterOf}},
     {{"ChrW",         1, 1, "n",      Text,     "jet_chrw"},         {bodies::unicodeCharacter}},
@@ -98,12 +98,6 @@ constexpr Function functions[] = {
 };
 // clang-format on
 
-std::function<QDateTime()> &clock()
-{
-    static std::function<QDateTime()> clock = &QDateTime::currentDateTime;
-    return clock;
-}
-
 const FunctionInfo *findExactly(std::string_view name)
 {
     const auto row = std::ranges::find_if(
@@ -129,18 +123,9 @@ std::vector<std::string_view> functionNames()
     return names;
 }
 
-void setClock(std::function<QDateTime()> newClock)
-{
-    clock() = newClock ? std::move(newClock) : &QDateTime::currentDateTime;
-}
-
-QDateTime clockTime()
-{
-    return clock()();
-}
-
 void registerFunctions(sqlite3 *handle)
 {
+    registerOperators(handle);
     registerConversions(handle);
     registerAggregates(handle);
     for (const Function &function : functions)

@@ -1,13 +1,9 @@
 #pragma once
 
-#include <QDateTime>
-
-#include <functional>
 #include <string_view>
 #include <vector>
 
 struct sqlite3;
-struct sqlite3_context;
 
 namespace jet {
 
@@ -54,7 +50,7 @@ struct FunctionInfo
 ///   jet_like(text, pattern) 1, 0 or Null
 ///   jet_text(x)          number to text; jet_datetext(x), jet_booltext(x) ("True"/"False")
 ///   jet_num(x)           text to number, raises TypeMismatch; other values as they are
-///   jet_cdate(x)         text to date, raises TypeMismatch; numbers as they are
+///   jet_readdate(x)      text to date, raises TypeMismatch; numbers as they are
 ///   jet_tolong(x), jet_toshort(x), jet_tobyte(x), jet_todouble(x), jet_tosingle(x),
 ///   jet_tocurrency(x), jet_todate(x), jet_tobool(x): what a column of that type takes; a text that is no
 ///                        such value raises TypeMismatch, a number out of range Failure
@@ -66,17 +62,8 @@ struct FunctionInfo
 ///   jet_div, jet_idiv, jet_mod, jet_pow, jet_bxor   the arithmetic that SQLite lacks
 ///   jet_band, jet_bor    of values that are no whole numbers of 32 bits
 ///   jet_raise(number, text)   raises
+/// The conversions that people may type are used by the emitter, too: jet_cdate, jet_clng, jet_cdbl; and
+/// jet_today.
 void registerFunctions(sqlite3 *handle);
-
-/// Where Date, Now, Time and Timer look; an empty clock is the local time again.
-void setClock(std::function<QDateTime()> clock);
-[[nodiscard]] QDateTime clockTime();
-
-/// Ends a function call with an error that reaches the caller as an Error of that number. Throws
-/// nothing, so that it serves where SQLite is the caller.
-void resultError(sqlite3_context *context, int number, std::string_view text);
-
-/// Takes the number out of a message made by resultError. Returns 0 for other messages.
-int takeErrorNumber(std::string_view &message);
 
 } // namespace jet

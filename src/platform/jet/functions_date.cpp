@@ -2,6 +2,7 @@
 #include "platform/jet/functioncall.h"
 
 #include "base/oledate.h"
+#include "platform/jet/clock.h"
 #include "platform/jet/collation.h"
 #include "platform/jet/datemath.h"
 
@@ -37,14 +38,6 @@ Unit unitOf(Call &call, int index)
     if (row == std::end(intervals))
         raiseInvalidCall();
     return row->unit;
-}
-
-WeekRule ruleOf(const Call &call, int index)
-{
-    const auto rule = weekRule(call.whole(index, 1), call.whole(index + 1, 1));
-    if (!rule)
-        raiseInvalidCall();
-    return *rule;
 }
 
 Parts partsOf(const Call &call)
@@ -133,10 +126,7 @@ void second(Call &call)
 
 void weekday(Call &call)
 {
-    const auto rule = weekRule(call.whole(1, 1), 1);
-    if (!rule)
-        raiseInvalidCall();
-    call.giveWhole(dayOfWeek(oledate::toMoment(call.date(0)).day, *rule));
+    call.giveWhole(dayOfWeek(oledate::toMoment(call.date(0)).day, ruleOf(call, 1)));
 }
 
 void dateValue(Call &call)
@@ -284,10 +274,10 @@ void monthName(Call &call)
 void weekdayName(Call &call)
 {
     const int number = call.whole(0);
-    const auto rule = weekRule(call.whole(2, 1), 1);
-    if (number < 1 || number > 7 || !rule)
+    const WeekRule rule = ruleOf(call, 2);
+    if (number < 1 || number > 7)
         raiseInvalidCall();
-    const QLatin1StringView name = oledate::weekdayName((rule->firstDay + number - 2) % 7);
+    const QLatin1StringView name = oledate::weekdayName((rule.firstDay + number - 2) % 7);
     call.give({name.data(), std::size_t(call.whole(1, 0) != 0 ? 3 : name.size())});
 }
 

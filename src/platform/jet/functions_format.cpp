@@ -1,23 +1,23 @@
 #include "platform/jet/functionbodies.h"
 #include "platform/jet/functioncall.h"
 
-#include "base/oledate.h"
 #include "platform/jet/format.h"
 #include "platform/jet/numbertext.h"
+#include "platform/jet/picture.h"
 
 namespace jet::bodies {
 
 namespace {
 
-enum Argument { Kind, Subject, Picture, FirstDay, FirstWeek };
+enum Argument { Kind, Subject, Picture, FirstDay };
 
 /// The text that a value has without a picture.
 std::string plainText(Call &call, char kind)
 {
     if (kind == 'd')
-        return oledate::toText(call.date(Subject)).toStdString();
+        return writtenDate(call.date(Subject));
     if (kind == 'b')
-        return call.number(Subject) != 0 ? "True" : "False";
+        return std::string(writtenBoolean(call.number(Subject) != 0));
     return std::string(call.text(Subject));
 }
 
@@ -53,18 +53,16 @@ void format(Call &call)
         call.give(plainText(call, kind));
         return;
     }
-    const auto rule = weekRule(call.whole(FirstDay, 1), call.whole(FirstWeek, 1));
-    if (!rule)
-        raiseInvalidCall();
+    const WeekRule rule = ruleOf(call, FirstDay);
     const PictureKinds kinds = kindsOf(picture);
     if (kind == 't')
-        call.give(formatTextValue(call, picture, kinds, *rule));
+        call.give(formatTextValue(call, picture, kinds, rule));
     else if (kinds.forDates && (kind == 'd' || !kinds.forNumbers))
-        call.give(formatDate(call.date(Subject), picture, *rule));
+        call.give(formatDate(call.date(Subject), picture, rule));
     else if (kinds.forTexts && !kinds.forNumbers)
         call.give(formatText(plainText(call, kind), picture));
     else if (kind == 'd' && !kinds.forNumbers)
-        call.give(formatDate(call.date(Subject), picture, *rule));
+        call.give(formatDate(call.date(Subject), picture, rule));
     else
         call.give(formatNumber(call.number(Subject), picture));
 }

@@ -2,7 +2,6 @@
 #include "platform/jet/functioncall.h"
 
 #include "platform/jet/decimal.h"
-#include "platform/jet/errors.h"
 #include "platform/jet/numbertext.h"
 
 #include <charconv>
@@ -118,51 +117,6 @@ void randomNumber(Call &call)
     else
         sqlite3_randomness(sizeof bits, &bits);
     call.giveNumber(double(bits >> 8) / range);
-}
-
-void toBoolean(Call &call)
-{
-    call.giveBoolean(call.boolean(0));
-}
-
-void toByte(Call &call)
-{
-    giveAs<std::uint8_t>(call, raiseOverflow);
-}
-
-void toInteger(Call &call)
-{
-    giveAs<std::int16_t>(call, raiseOverflow);
-}
-
-void toLong(Call &call)
-{
-    giveAs<std::int32_t>(call, raiseOverflow);
-}
-
-void toDouble(Call &call)
-{
-    call.giveNumber(call.number(0));
-}
-
-void toSingle(Call &call)
-{
-    giveSingle(call, raiseOverflow);
-}
-
-void toCurrency(Call &call)
-{
-    giveCurrency(call, raiseOverflow);
-}
-
-void toDate(Call &call)
-{
-    call.giveDate(call.date(0));
-}
-
-void toText(Call &call)
-{
-    call.give(call.text(0));
 }
 
 void value(Call &call)

@@ -2,14 +2,12 @@
 #include "platform/jet/functioncall.h"
 
 #include "platform/jet/collation.h"
-#include "platform/jet/errors.h"
 #include "platform/jet/utf8.h"
 
 #include <QChar>
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace jet::bodies {
 
@@ -55,33 +53,21 @@ struct Search
     std::string needle;
 };
 
-template <typename Change>
-std::string changed(std::string_view text, Change change)
-{
-    std::string result;
-    result.reserve(text.size());
-    for (const char *at = text.data(), *end = at + text.size(); at != end;) {
-        const char32_t code = utf8::next(at, end);
-        utf8::append(result, code >= utf8::firstBrokenByte ? code : change(code));
-    }
-    return result;
-}
-
 std::string upper(std::string_view text)
 {
-    return changed(text, [](char32_t code) { return char32_t(QChar::toUpper(code)); });
+    return utf8::mapped(text, [](char32_t code) { return char32_t(QChar::toUpper(code)); });
 }
 
 std::string lower(std::string_view text)
 {
-    return changed(text, [](char32_t code) { return char32_t(QChar::toLower(code)); });
+    return utf8::mapped(text, [](char32_t code) { return char32_t(QChar::toLower(code)); });
 }
 
 /// Each word begins with a capital letter and goes on in small ones.
 std::string proper(std::string_view text)
 {
     bool inWord = false;
-    return changed(text, [&inWord](char32_t code) {
+    return utf8::mapped(text, [&inWord](char32_t code) {
         const char32_t cased = inWord ? QChar::toLower(code) : QChar::toUpper(code);
         inWord = !(QChar::isSpace(code) || code == 0);
         return cased;

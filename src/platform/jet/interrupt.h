@@ -9,7 +9,8 @@ namespace jet {
 /// changed nothing. Each writing statement is then a transaction of its own.
 ///
 /// The question may let events run. Whoever uses the same store file from there is refused
-/// with an Error: SQLite has its hands full. One at a time; the inner one of two rules.
+/// with an Error: SQLite has its hands full. Where one lives inside of another's life, the inner one is
+/// asked.
 class Interruptible final
 {
 public:
@@ -20,7 +21,7 @@ public:
 
     /// Whether any lives.
     [[nodiscard]] static bool active();
-    /// Asks, unless that was done within the last 50 ms.
+    /// Asks; false without asking where that was done within the last 50 ms.
     [[nodiscard]] static bool cancelled();
 
 private:

@@ -61,10 +61,10 @@ LikePattern::LikePattern(std::string_view pattern)
         const char c = rest.front();
         std::size_t used = 1;
         if (c == '%') {
-            if (m_tokens.empty() || m_tokens.back().kind != Kind::AnyRun)
-                m_tokens.push_back({Kind::AnyRun, {}, {}});
+            if (m_parts.empty() || m_parts.back().kind != Kind::AnyRun)
+                m_parts.push_back({Kind::AnyRun, {}, {}});
         } else if (c == '_') {
-            m_tokens.push_back({Kind::AnyCharacter, {}, {}});
+            m_parts.push_back({Kind::AnyCharacter, {}, {}});
         } else if (const std::size_t set = c == '[' ? addSet(rest.substr(1)) : 0; set > 0) {
             used += set;
         } else {
@@ -73,14 +73,14 @@ LikePattern::LikePattern(std::string_view pattern)
         rest.remove_prefix(used);
     }
 
-    const auto literals = std::ranges::count(m_tokens, Kind::Literal, &Token::kind);
-    const auto runs = std::ranges::count(m_tokens, Kind::AnyRun, &Token::kind);
-    m_plain = literals + runs == std::ptrdiff_t(m_tokens.size()) && literals <= 1;
-    if (m_plain && !m_tokens.empty()) {
-        m_openStart = m_tokens.front().kind == Kind::AnyRun;
-        m_openEnd = m_tokens.back().kind == Kind::AnyRun;
-        if (const auto literal = std::ranges::find(m_tokens, Kind::Literal, &Token::kind);
-            literal != m_tokens.end())
+    const auto literals = std::ranges::count(m_parts, Kind::Literal, &Part::kind);
+    const auto runs = std::ranges::count(m_parts, Kind::AnyRun, &Part::kind);
+    m_plain = literals + runs == std::ptrdiff_t(m_parts.size()) && literals <= 1;
+    if (m_plain && !m_parts.empty()) {
+        m_openStart = m_parts.front().kind == Kind::AnyRun;
+        m_openEnd = m_parts.back().kind == Kind::AnyRun;
+        if (const auto literal = std::ranges::find(m_parts, Kind::Literal, &Part::kind);
+            literal != m_parts.end())
             m_needle = literal->literal;
         m_asciiNeedle = utf8::isAscii(m_needle);
     }
@@ -88,9 +88,9 @@ LikePattern::LikePattern(std::string_view pattern)
 
 void LikePattern::addLiteral(std::string_view text)
 {
-    if (m_tokens.empty() || m_tokens.back().kind != Kind::Literal)
-        m_tokens.push_back({Kind::Literal, {}, {}});
-    m_tokens.back().literal.append(text);
+    if (m_parts.empty() || m_parts.back().kind != Kind::Literal)
+        m_parts.push_back({Kind::Literal, {}, {}});
+    m_parts.back().literal.append(text);
 }
 
 std::size_t LikePattern::addSet(std::string_view rest)
@@ -124,7 +124,7 @@ std::size_t LikePattern::addSet(std::string_view rest)
         if (isRange)
             i += 2;
     }
-    m_tokens.push_back({Kind::Set, {}, std::move(set)});
+    m_parts.push_back({Kind::Set, {}, std::move(set)});
     return close + 1;
 }
 
@@ -149,16 +149,11 @@ bool LikePattern::matches(std::string_view text) const
     if (m_plain && !m_openStart && m_asciiNeedle)
         if (const Answer answer = beginning(text); answer != Answer::LookCloser)
             return answer == Answer::Yes;
-    if (text.size() > shortText)
+    if (text.size() > shortText || !utf8::isAscii(text))
         return matchesFolded(foldCase(text));
     std::array<char, shortText> folded;
-    unsigned char all = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        all = static_cast<unsigned char>(all | static_cast<unsigned char>(c));
-        folded[i] = lowered(c);
-    }
-    return all < 0x80 ? matchesFolded({folded.data(), text.size()}) : matchesFolded(foldCase(text));
+    std::ranges::transform(text, folded.begin(), lowered);
+    return matchesFolded({folded.data(), text.size()});
 }
 
 bool LikePattern::matchesFolded(std::string_view text) const
@@ -174,48 +169,48 @@ bool LikePattern::matchesFolded(std::string_view text) const
     return text == m_needle;
 }
 
-bool LikePattern::step(const Token &token, const char *&at, const char *end) const
+bool LikePattern::step(const Part &part, const char *&at, const char *end) const
 {
-    if (token.kind == Kind::Literal) {
-        if (!std::string_view(at, std::size_t(end - at)).starts_with(token.literal))
+    if (part.kind == Kind::Literal) {
+        if (!std::string_view(at, std::size_t(end - at)).starts_with(part.literal))
             return false;
-        at += token.literal.size();
+        at += part.literal.size();
         return true;
     }
     if (at == end)
         return false;
     const char32_t code = utf8::next(at, end);
-    return token.kind == Kind::AnyCharacter || token.set.contains(code);
+    return part.kind == Kind::AnyCharacter || part.set.contains(code);
 }
 
 bool LikePattern::walk(std::string_view text) const
 {
     const char *at = text.data();
     const char *const end = at + text.size();
-    const std::size_t none = m_tokens.size();
+    const std::size_t none = m_parts.size();
     std::size_t run = none; // the last % that was passed; only that one is ever widened
     const char *runEnd = nullptr;
-    for (std::size_t token = 0;;) {
-        if (token < m_tokens.size() && m_tokens[token].kind == Kind::AnyRun) {
-            run = token++;
+    for (std::size_t part = 0;;) {
+        if (part < m_parts.size() && m_parts[part].kind == Kind::AnyRun) {
+            run = part++;
             runEnd = at;
-            if (token == m_tokens.size())
+            if (part == m_parts.size())
                 return true;
             continue;
         }
-        if (token == m_tokens.size() ? at == end : step(m_tokens[token], at, end)) {
-            if (token == m_tokens.size())
+        if (part == m_parts.size() ? at == end : step(m_parts[part], at, end)) {
+            if (part == m_parts.size())
                 return true;
-            ++token;
+            ++part;
             continue;
         }
         if (run == none || runEnd == end)
             return false;
         (void)utf8::next(runEnd, end);
-        token = run + 1;
-        if (m_tokens[token].kind == Kind::Literal) {
+        part = run + 1;
+        if (m_parts[part].kind == Kind::Literal) {
             const std::string_view behind(runEnd, std::size_t(end - runEnd));
-            const std::size_t found = behind.find(m_tokens[token].literal);
+            const std::size_t found = behind.find(m_parts[part].literal);
             if (found == std::string_view::npos)
                 return false;
             runEnd += found;

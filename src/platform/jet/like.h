@@ -34,7 +34,7 @@ private:
         [[nodiscard]] static bool lies(char32_t folded, const std::pair<char32_t, char32_t> &range);
     };
 
-    struct Token
+    struct Part
     {
         Kind kind = Kind::Literal;
         std::string literal;
@@ -49,9 +49,9 @@ private:
     [[nodiscard]] Answer beginning(std::string_view text) const;
     [[nodiscard]] bool matchesFolded(std::string_view text) const;
     [[nodiscard]] bool walk(std::string_view text) const;
-    [[nodiscard]] bool step(const Token &token, const char *&at, const char *end) const;
+    [[nodiscard]] bool step(const Part &part, const char *&at, const char *end) const;
 
-    std::vector<Token> m_tokens;
+    std::vector<Part> m_parts;
     /// Patterns of one literal, with % at either end or none, need no walk.
     bool m_plain = false;
     bool m_openStart = false;

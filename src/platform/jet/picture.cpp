@@ -1,6 +1,5 @@
 #include "platform/jet/picture.h"
 
-#include "platform/jet/format.h"
 #include "platform/jet/utf8.h"
 #include "platform/jet/words.h"
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -27,5 +26,18 @@ struct PictureItem
 
 /// The sections between the semicolons that are not literal.
 [[nodiscard]] std::vector<std::string_view> pictureSections(std::string_view picture);
+
+/// What a picture is made for, told by its placeholders or its name.
+struct PictureKinds
+{
+    bool forNumbers = false; ///< 0 # or the name of a number format
+    bool forDates = false;   ///< letters of a date or time, or the name of a date format
+    bool forTexts = false;   ///< @ & < > !
+};
+
+[[nodiscard]] PictureKinds kindsOf(std::string_view picture);
+
+/// The section of a picture that is for Null, or empty.
+[[nodiscard]] std::string_view nullSection(std::string_view picture);
 
 } // namespace jet

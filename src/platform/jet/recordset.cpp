@@ -3,7 +3,7 @@
 #include "base/error.h"
 #include "platform/jet/connection.h"
 #include "platform/jet/database.h"
-#include "platform/jet/errors.h"
+#include "platform/jet/errortexts.h"
 #include "platform/jet/recordheader.h"
 #include "platform/jet/words.h"
 
@@ -49,7 +49,7 @@ Value variantAt(sqlite3_stmt *statement, int column)
 
 [[noreturn]] void raiseNotWritable()
 {
-    raise(Failure, u"Operation must use an updatable query."_s);
+    raiseError(Failure, notUpdatable);
 }
 
 [[noreturn]] void raiseNoItem(const QString &item)
@@ -78,7 +78,11 @@ class Recordset::Filler final : public RowSink
 public:
     explicit Filler(Recordset &target) : m_target(target) {}
 
-    void takeHeader(const HeaderPtr &header) override { m_target.m_header = header; }
+    void takeHeader(const HeaderPtr &header) override
+    {
+        m_target.m_header = header;
+        m_target.m_columns.resize(header->size());
+    }
 
     void takeRow(sqlite3_stmt *row) override
     {
@@ -102,7 +106,6 @@ public:
 private:
     void prepare()
     {
-        m_target.m_columns.resize(m_target.m_header->size());
         m_storage.reserve(m_target.m_header->size());
         for (const HeaderField &field : *m_target.m_header)
             m_storage.push_back(storageOf(field.type));
@@ -165,7 +168,6 @@ void Recordset::open()
     if (m_open)
         raiseOpen();
     clearRows();
-    m_columns.resize(m_header ? m_header->size() : 0); // a statement without rows leaves none
     m_open = true;
     m_writable = true;
 }
@@ -223,21 +225,51 @@ void Recordset::addNew()
     m_current = m_rows++;
 }
 
-Value Recordset::value(QStringView name)
+int Recordset::indexOf(QStringView name) const
 {
-    return fields().item(name).value();
+    for (std::size_t i = 0; m_header && i < m_header->size(); ++i) {
+        if (name.compare((*m_header)[i].name, Qt::CaseInsensitive) == 0)
+            return int(i);
+    }
+    return -1;
 }
 
-Value Recordset::value(int index)
+std::size_t Recordset::place(int index) const
 {
-    return fields().item(index).value();
+    if (index < 0 || !m_header || std::size_t(index) >= m_header->size())
+        raiseNoItem("item "_L1 + QString::number(index));
+    return std::size_t(index);
 }
 
-const TextColumn *Recordset::texts(int index)
+std::size_t Recordset::place(QStringView name) const
+{
+    const int index = indexOf(name);
+    if (index < 0)
+        raiseNoItem(u'\'' + name + u'\'');
+    return std::size_t(index);
+}
+
+Value Recordset::value(QStringView name) const
+{
+    return currentValue(place(name));
+}
+
+Value Recordset::value(int index) const
+{
+    return currentValue(place(index));
+}
+
+Value Recordset::currentValue(std::size_t column) const
+{
+    requireRecord();
+    return valueAt(m_current, column);
+}
+
+const TextColumn *Recordset::texts(int index) const
 {
     requireOpen();
-    const FieldType type = fields().item(index).type();
-    return storageOf(type) == Storage::Texts ? &m_columns[std::size_t(index)].texts : nullptr;
+    const std::size_t column = place(index);
+    return storageOf((*m_header)[column].type) == Storage::Texts ? &m_columns[column].texts : nullptr;
 }
 
 Value Recordset::valueAt(std::size_t row, std::size_t column) const
@@ -311,8 +343,7 @@ int Field::definedSize() const
 
 Value Field::value() const
 {
-    m_recordset->requireRecord();
-    return m_recordset->valueAt(m_recordset->m_current, m_index);
+    return m_recordset->currentValue(m_index);
 }
 
 void Field::setValue(const Value &value)
@@ -330,26 +361,17 @@ int Fields::count() const
 
 int Fields::indexOf(QStringView name) const
 {
-    for (int i = 0; i < count(); ++i) {
-        if (name.compare((*m_recordset->m_header)[std::size_t(i)].name, Qt::CaseInsensitive) == 0)
-            return i;
-    }
-    return -1;
+    return m_recordset->indexOf(name);
 }
 
 Field Fields::item(int index) const
 {
-    if (index < 0 || index >= count())
-        raiseNoItem("item "_L1 + QString::number(index));
-    return Field(m_recordset, std::size_t(index));
+    return Field(m_recordset, m_recordset->place(index));
 }
 
 Field Fields::item(QStringView name) const
 {
-    const int index = indexOf(name);
-    if (index < 0)
-        raiseNoItem(u'\'' + name + u'\'');
-    return Field(m_recordset, std::size_t(index));
+    return Field(m_recordset, m_recordset->place(name));
 }
 
 void Fields::clear()

@@ -3,6 +3,7 @@
 #include "base/textcolumn.h"
 #include "base/value.h"
 #include "platform/jet/fieldtype.h"
+#include "platform/jet/state.h"
 
 #include <QString>
 
@@ -15,7 +16,8 @@ class Connection;
 class Recordset;
 struct HeaderField;
 
-/// One field of the current record. A light reference: valid while its recordset is open.
+/// One field of a recordset and its value in the current record. A light reference: valid until the recordset
+/// gets other fields, by being opened anew or by Fields::clear().
 class Field final
 {
 public:
@@ -35,7 +37,7 @@ private:
 };
 
 /// The fields of a recordset, by name without regard to case or by index from 0.
-/// A name or index that is not there raises ItemNotFound (3265).
+/// A name or index that is not there raises ItemNotFound (3265). A name is looked for in all fields.
 class Fields final
 {
 public:
@@ -79,7 +81,7 @@ public:
     void open();
     /// Raises ObjectClosed (3704) when not open.
     void close();
-    [[nodiscard]] int state() const { return m_open ? 1 : 0; }
+    [[nodiscard]] int state() const { return m_open ? StateOpen : StateClosed; }
     /// Rows are always disconnected; kept so that callers can say so.
     void setActiveConnection(std::nullptr_t) {}
 
@@ -95,12 +97,12 @@ public:
 
     [[nodiscard]] Fields fields() { return Fields(this); }
     /// Short for fields().item(name).value().
-    [[nodiscard]] Value value(QStringView name);
+    [[nodiscard]] Value value(QStringView name) const;
     /// Short for fields().item(index).value().
-    [[nodiscard]] Value value(int index);
+    [[nodiscard]] Value value(int index) const;
     /// The texts of all records of a text field, Null as Null; null for a field of another type. Valid
     /// until the recordset is written, opened or closed.
-    [[nodiscard]] const TextColumn *texts(int index);
+    [[nodiscard]] const TextColumn *texts(int index) const;
 
 private:
     friend class Field;
@@ -110,8 +112,9 @@ private:
     struct Column
     {
         TextColumn texts;
-        std::vector<double> numbers; // whole numbers of the store are exact in a double
-        std::vector<bool> set;       // false where a number is Null
+        // Whole numbers of a table are exact in a double; calculated ones of more than 53 bits are rounded.
+        std::vector<double> numbers;
+        std::vector<bool> set; ///< false where a number is Null
         std::vector<Value> variants;
     };
 
@@ -119,6 +122,10 @@ private:
 
     void requireOpen() const;
     void requireRecord() const;
+    [[nodiscard]] int indexOf(QStringView name) const;
+    [[nodiscard]] std::size_t place(int index) const;
+    [[nodiscard]] std::size_t place(QStringView name) const;
+    [[nodiscard]] Value currentValue(std::size_t column) const;
     [[nodiscard]] Value valueAt(std::size_t row, std::size_t column) const;
     void setValueAt(std::size_t row, std::size_t column, const Value &value);
     void clearRows();

@@ -2,10 +2,11 @@
 
 #include "base/error.h"
 
+#include "platform/jet/errormark.h"
 #include "platform/jet/errortexts.h"
-#include "platform/jet/functions.h"
 #include "platform/jet/lockholder.h"
 
+#include <algorithm>
 #include <string>
 
 namespace jet {
@@ -48,15 +49,41 @@ QString fileOf(sqlite3 *handle)
     return QString::fromUtf8(name == nullptr ? "" : name);
 }
 
+[[noreturn]] void raiseOfFile(std::string_view text, sqlite3 *handle)
+{
+    raise(Failure, namingFile(QUtf8StringView(text).toString(), fileOf(handle)));
+}
+
 [[noreturn]] void raiseLocked(sqlite3 *handle)
 {
     const QString path = fileOf(handle);
     const QString holder = lockHolder(path);
-    raise(Failure, QStringLiteral("Could not update; currently locked by %1. The file is '%2'.")
-                       .arg(holder.isEmpty() ? QStringLiteral("another program") : holder, path));
+    const QString by = holder.isEmpty() ? QStringLiteral("another program") : holder;
+    raise(Failure, namingFile(QStringLiteral("Could not update; currently locked by %1.").arg(by), path));
+}
+
+/// Whether the message is SQLite's word for a statement beyond its limits.
+bool tellsOfLimit(std::string_view sqliteMessage)
+{
+    static constexpr std::string_view limits[] = {
+        "parser stack overflow",
+        "Expression tree is too large",
+        "too many",
+        "at most ",
+        "string or blob too big",
+        "statement too long",
+        "variable number must be",
+    };
+    return std::ranges::any_of(limits,
+                               [&](std::string_view limit) { return sqliteMessage.starts_with(limit); });
 }
 
 } // namespace
+
+QString namingFile(const QString &text, const QString &path)
+{
+    return QStringLiteral("%1 The file is '%2'.").arg(text, path);
+}
 
 void raiseSqlite(sqlite3 *handle, int result)
 {
@@ -75,14 +102,13 @@ void raiseSqlite(sqlite3 *handle, int result)
     if ((result & 0xff) == SQLITE_BUSY)
         raiseLocked(handle);
     if ((result & 0xff) == SQLITE_READONLY)
-        raise(Failure, QStringLiteral("Operation must use an updatable query. The file '%1' is read-only.")
-                           .arg(fileOf(handle)));
+        raiseError(Failure, std::string(notUpdatable) + " The file '" + fileOf(handle).toStdString() +
+                                "' is read-only.");
     for (const ErrorRow &row : errors) {
         if (row.result != extended && row.result != (result & 0xff))
             continue;
         if (row.ofFile)
-            raise(row.number,
-                  QStringLiteral("%1 The file is '%2'.").arg(QString::fromUtf8(row.text), fileOf(handle)));
+            raiseOfFile(row.text, handle);
         raiseError(row.number, row.text != nullptr ? row.text : duplicateText);
     }
     if (tellsOfLimit(message))

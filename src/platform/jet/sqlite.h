@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <sqlite3.h>
 
 #include <memory>
@@ -27,6 +29,9 @@ void runSqlite(sqlite3 *handle, const char *sql);
 
 /// Raises what the last call on the handle reported, as an error of the store engine.
 [[noreturn]] void raiseSqlite(sqlite3 *handle, int result);
+
+/// The text of an error with the name of the file behind it.
+[[nodiscard]] QString namingFile(const QString &text, const QString &path);
 
 /// Walks the rows of a statement from where it stands; take gets it standing on each. Raises what SQLite
 /// reports.

@@ -57,7 +57,7 @@ void checkStoreFile(const QString &path)
                            QString::number(FileVersion) + ")."_L1);
 }
 
-void createStoreFile(const QString &path)
+void createDatabase(const QString &path)
 {
     if (path.isEmpty())
         raise(Failure, u"Could not create a store: no file name was given."_s);

@@ -14,7 +14,8 @@ inline constexpr std::uint32_t FileVersion = 1;
 /// read: missing, in a missing folder, a folder, no store at all, made by a newer version. Looks only.
 void checkStoreFile(const QString &path);
 
-/// Makes an empty store. Raises Failure when the path is taken or cannot be made.
-void createStoreFile(const QString &path);
+/// Makes a new, empty store file and closes it. Raises Failure when the path exists or
+/// cannot be made; nothing is left behind then.
+void createDatabase(const QString &path);
 
 } // namespace jet

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -65,6 +64,19 @@ inline void append(std::string &text, char32_t code)
     std::string text;
     append(text, code);
     return text;
+}
+
+/// The text with each of its characters changed; broken bytes stay.
+template <typename Change>
+[[nodiscard]] std::string mapped(std::string_view text, Change change)
+{
+    std::string result;
+    result.reserve(text.size());
+    for (const char *at = text.data(), *end = at + text.size(); at != end;) {
+        const char32_t code = next(at, end);
+        append(result, code >= firstBrokenByte ? code : change(code));
+    }
+    return result;
 }
 
 /// Whether no byte is 0x80 or above.
