@@ -4,6 +4,9 @@
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 
+#include <chrono>
+#include <thread>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -12,13 +15,14 @@ namespace {
 class OtherProgram final
 {
 public:
-    explicit OtherProgram(const QString &path)
+    explicit OtherProgram(const QString &path, const QStringList &statements = {
+                                                   u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('theirs')"_s})
     {
         if (pipe(m_ready) != 0 || pipe(m_go) != 0)
             throw std::runtime_error("no pipe");
         m_process = fork();
         if (m_process == 0)
-            _exit(run(path));
+            _exit(run(path, statements));
         char byte = 0;
         EXPECT_EQ(read(m_ready[0], &byte, 1), 1);
     }
@@ -46,12 +50,13 @@ public:
     }
 
 private:
-    int run(const QString &path)
+    int run(const QString &path, const QStringList &statements)
     {
         try {
             jet::Connection connection;
             connection.open(jet::connectionString(path));
-            connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('theirs')"_s);
+            for (const QString &statement : statements)
+                connection.execute(statement);
             char byte = 'r';
             if (write(m_ready[1], &byte, 1) != 1 || read(m_go[0], &byte, 1) != 1)
                 return 2;
@@ -166,6 +171,25 @@ TEST_F(TwoPrograms, AStatementFollowsTheTablesThatTheOtherChanges)
     } catch (const Error &error) {
         EXPECT_EQ(error.number(), jet::MissingTable) << error.what();
     }
+}
+
+TEST_F(TwoPrograms, AWriteThatWaitedFollowsTheTables)
+{
+    connection.execute(u"CREATE TABLE T (A TEXT)"_s);
+    connection.execute(u"INSERT INTO T (A) VALUES ('x')"_s);
+    jet::flushPendingWrites();
+    OtherProgram other(link(), {u"DROP TABLE T"_s, u"CREATE TABLE T (A LONG)"_s});
+    std::thread later([&other] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        other.finish();
+    });
+    try {
+        connection.execute(u"INSERT INTO T (A) VALUES ('x')"_s);
+        ADD_FAILURE() << "a text in a number column";
+    } catch (const Error &error) {
+        EXPECT_EQ(error.number(), jet::TypeMismatch) << error.what();
+    }
+    later.join();
 }
 
 TEST_F(TwoPrograms, AWidthIsTheOneOfTheStatementThatSucceeds)

@@ -64,6 +64,37 @@ private:
     std::shared_ptr<Database> m_database;
 };
 
+/// Holds the file from the look at the version of its tables to the end of what is read, so that no other
+/// program changes them in between and the file is locked once for both. In a group of writes it is held
+/// anyway.
+class Database::Reading final
+{
+public:
+    explicit Reading(Database &database)
+    {
+        if (database.m_group.isOpen())
+            return;
+        runToEnd(database.m_handle.get(), database.m_beginReading.get());
+        m_end = database.m_endReading.get();
+    }
+    ~Reading() { end(); }
+    Reading(const Reading &) = delete;
+    Reading &operator=(const Reading &) = delete;
+
+    void end()
+    {
+        if (m_end == nullptr)
+            return;
+        // It has nothing to write, so it can only find that SQLite has ended the transaction already.
+        (void)sqlite3_step(m_end);
+        sqlite3_reset(m_end);
+        m_end = nullptr;
+    }
+
+private:
+    sqlite3_stmt *m_end = nullptr;
+};
+
 std::shared_ptr<Database> Database::open(const QString &path)
 {
     // A file that is open already must not be opened and closed once more just to look at it:
@@ -117,6 +148,8 @@ Database::Database(Handle handle)
     : m_handle(std::move(handle))
     , m_catalog(m_handle.get())
     , m_group(m_handle.get())
+    , m_beginReading(prepareSqlite(m_handle.get(), "BEGIN"))
+    , m_endReading(prepareSqlite(m_handle.get(), "COMMIT"))
     , m_readVersion(prepareSqlite(m_handle.get(), "PRAGMA schema_version"))
 {
 }
@@ -142,7 +175,8 @@ void Database::requireIdle() const
 Catalog &Database::catalog()
 {
     requireIdle();
-    forgetWhatOthersChanged();
+    if (!m_group.isOpen())
+        forgetWhatOthersChanged();
     return m_catalog;
 }
 
@@ -152,19 +186,17 @@ sqlite3 *Database::handle() const
     return m_handle.get();
 }
 
-// While a group is open nobody else can change the tables.
-void Database::forgetWhatOthersChanged()
+bool Database::forgetWhatOthersChanged()
 {
-    if (m_group.isOpen())
-        return;
     sqlite3_int64 version = 0;
     const StatementReset reset(m_readVersion.get());
     forEachRow(m_handle.get(), m_readVersion.get(),
                [&version](sqlite3_stmt *row) { version = sqlite3_column_int64(row, 0); });
     if (version == m_version)
-        return;
+        return false;
     forget();
     m_version = version;
+    return true;
 }
 
 // With the version: a group that changes the tables and is then lost takes the new version back, and another
@@ -187,8 +219,6 @@ bool Database::fits(const Prepared &prepared) const
 
 Database::Prepared &Database::prepare(const QString &sql)
 {
-    requireIdle();
-    forgetWhatOthersChanged();
     m_text = sql.toUtf8();
     liftLiterals({m_text.constData(), std::size_t(m_text.size())}, m_lifted);
     const auto known = m_prepared.find(m_lifted.shape);
@@ -283,10 +313,16 @@ int Database::onProgress(void *database)
 
 bool Database::run(const QString &sql, RowSink &rows)
 {
-    Prepared &prepared = prepare(sql);
+    requireIdle();
     const ProgressWatch watch(*this);
+    Reading reading(*this);
+    // While a group is open nobody else can change the tables.
+    if (!m_group.isOpen())
+        forgetWhatOthersChanged();
+    Prepared &prepared = prepare(sql);
     if (prepared.writes) {
-        write(prepared);
+        reading.end();
+        write(sql, prepared);
         return false;
     }
     bind(prepared);
@@ -297,13 +333,22 @@ bool Database::run(const QString &sql, RowSink &rows)
     return true;
 }
 
-void Database::write(Prepared &prepared)
+void Database::write(const QString &sql, Prepared &prepared)
 {
     // An interrupted write takes its whole transaction along: it gets one for itself.
     const bool alone = Interruptible::active();
     if (alone)
         m_group.commit();
-    m_group.open();
+    // Another program that held the file until now may have changed the tables.
+    const bool isOutdated = m_group.open() && forgetWhatOthersChanged();
+    const bool changesSchema = writeInGroup(isOutdated ? prepare(sql) : prepared);
+    m_group.take(changesSchema || sqlite3_changes(m_handle.get()) > 0);
+    if (alone)
+        m_group.commit();
+}
+
+bool Database::writeInGroup(Prepared &prepared)
+{
     LastCounter &lastCounter = m_catalog.lastCounter();
     const std::int64_t lastNumber = lastCounter.number();
     // SQLite itself undoes a statement that fails midway; with others before it, it needs a way back.
@@ -322,11 +367,10 @@ void Database::write(Prepared &prepared)
                          nullptr);
         throw;
     }
-    if (prepared.changesSchema)
+    const bool changesSchema = prepared.changesSchema;
+    if (changesSchema)
         forget();
-    m_group.take(prepared.changesSchema || sqlite3_changes(m_handle.get()) > 0);
-    if (alone)
-        m_group.commit();
+    return changesSchema;
 }
 
 void Database::runWrite(Prepared &prepared)

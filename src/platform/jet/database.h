@@ -81,6 +81,7 @@ private:
     using Handle = std::unique_ptr<sqlite3, Closer>;
 
     class ProgressWatch;
+    class Reading;
 
     explicit Database(Handle handle);
 
@@ -88,9 +89,10 @@ private:
     [[nodiscard]] Prepared compile();
     [[nodiscard]] bool fits(const Prepared &prepared) const;
     void bind(const Prepared &prepared);
-    void write(Prepared &prepared);
+    void write(const QString &sql, Prepared &prepared);
+    bool writeInGroup(Prepared &prepared);
     void runWrite(Prepared &prepared);
-    void forgetWhatOthersChanged();
+    bool forgetWhatOthersChanged();
     void forget();
     void flushUnlessRead();
     static int onProgress(void *database);
@@ -100,6 +102,8 @@ private:
     Handle m_handle;
     Catalog m_catalog;
     WriteGroup m_group;
+    StatementHandle m_beginReading;
+    StatementHandle m_endReading;
     StatementHandle m_readVersion;
     sqlite3_int64 m_version = unknownVersion; ///< of the tables that the catalog and the statements know
     std::unordered_map<std::string, Prepared> m_prepared;

@@ -20,10 +20,10 @@ WriteGroup::WriteGroup(sqlite3 *handle)
 {
 }
 
-void WriteGroup::open()
+bool WriteGroup::open()
 {
     if (m_open)
-        return;
+        return false;
     requireFileInPlace();
     runToEnd(m_handle, m_begin.get());
     m_open = true;
@@ -31,6 +31,7 @@ void WriteGroup::open()
     m_changes = 0;
     m_changesSinceTry = 0;
     m_lastTry = std::chrono::steady_clock::now();
+    return true;
 }
 
 // Writes to a file that has lost its name would be gone with it.

@@ -22,9 +22,9 @@ public:
     /// Whether there ever was one: the file has a journal beside it since, if an empty one.
     [[nodiscard]] bool wasEverOpen() const { return m_wasEverOpen; }
 
-    /// Opens a group unless one is open. Raises Failure when another program writes, or when the file was
-    /// moved or deleted.
-    void open();
+    /// Opens a group unless one is open, and tells whether it did. Raises Failure when another program
+    /// writes, or when the file was moved or deleted.
+    bool open();
     /// To be told of each statement that ran, and whether it changed anything. Commits where that is due and
     /// no other program reads; raises ChangesLost.
     void take(bool changed);
