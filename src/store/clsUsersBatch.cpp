@@ -1,7 +1,9 @@
 #include "store/clsUsers.h"
 
+#include "platform/jet/errors.h"
 #include "store/batchrecords.h"
 #include "store/statement.h"
+#include "store/storesession.h"
 #include "store/userstatements.h"
 
 #include <algorithm>
