@@ -186,14 +186,18 @@ void clsUsers::AddBatch(const QString &connectionString, jet::Recordset &records
                         int &newCount, int &updatedCount, int &errorCount, QString &errorText,
                         const BatchProgress &progress)
 {
-    runBatch(connectionString, records, {liveColumns(), liveUpdateColumns(), Escaping::Batch}, leaveExisting,
-             {newCount, updatedCount, errorCount, errorText}, progress);
+    keepingErrors([&] {
+        runBatch(connectionString, records, {liveColumns(), liveUpdateColumns(), Escaping::Batch},
+                 leaveExisting, {newCount, updatedCount, errorCount, errorText}, progress);
+    });
 }
 
 void clsUsers::AddBatchFromFile(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
                                 int &newCount, int &updatedCount, int &errorCount, QString &errorText,
                                 const BatchProgress &progress)
 {
-    runBatch(connectionString, records, {fileColumns(), fileColumns(), Escaping::None}, leaveExisting,
-             {newCount, updatedCount, errorCount, errorText}, progress);
+    keepingErrors([&] {
+        runBatch(connectionString, records, {fileColumns(), fileColumns(), Escaping::None}, leaveExisting,
+                 {newCount, updatedCount, errorCount, errorText}, progress);
+    });
 }

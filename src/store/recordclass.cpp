@@ -21,9 +21,19 @@ void closeAfter(const Error &failure, StoreSession &store)
 
 } // namespace
 
-void RecordClass::withStore(const QString &connectionString, const std::function<void(StoreSession &)> &work)
+void RecordClass::keepingErrors(const std::function<void()> &work)
 {
     try {
+        work();
+    } catch (const Error &error) {
+        m_error.set(error);
+        throw;
+    }
+}
+
+void RecordClass::withStore(const QString &connectionString, const std::function<void(StoreSession &)> &work)
+{
+    keepingErrors([&] {
         StoreSession store(connectionString);
         try {
             work(store);
@@ -32,10 +42,7 @@ void RecordClass::withStore(const QString &connectionString, const std::function
             throw;
         }
         store.close();
-    } catch (const Error &error) {
-        m_error.set(error);
-        throw;
-    }
+    });
 }
 
 void RecordClass::read(const QString &connectionString, jet::Recordset &result, const QString &sql)

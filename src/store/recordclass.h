@@ -23,8 +23,10 @@ protected:
     RecordClass() = default;
     ~RecordClass() = default;
 
-    /// Runs the work over a new session. A failure, the opening's too, is kept in the two
-    /// error fields and raised again; what was written before it stays.
+    /// Runs the work. A failure is kept in the two error fields and raised again.
+    void keepingErrors(const std::function<void()> &work);
+    /// The same over a new session, whose opening may fail, too; what was written before a failure
+    /// stays.
     void withStore(const QString &connectionString, const std::function<void(StoreSession &)> &work);
 
     // The shapes of the methods.
