@@ -141,11 +141,22 @@ std::vector<std::array<std::string, fields>> linesByHand(int rows)
     return lines;
 }
 
+/// A store with the users of the records, each in a group and a room, with an item and a permission.
 QString storeWith(jet::Recordset &records, int rows)
 {
-    const QString store = workbench::emptyStore();
-    addBatch(store, records, rows, 0);
-    return store;
+    QString path = workbench::emptyStore();
+    addBatch(path, records, rows, 0);
+    const RawStore store(path);
+    for (const char *sql : {
+             "INSERT INTO Tbl_GlobalGroupsUsers (GlobalGroupID, UserID) "
+             "SELECT 1 + UserID % 500, UserID FROM Tbl_Users",
+             "INSERT INTO Tbl_RoomUsers (RoomID, UserID) SELECT 1 + UserID % 3000, UserID FROM Tbl_Users",
+             "INSERT INTO Tbl_UserHW (UserID, HWID) SELECT UserID, UserID FROM Tbl_Users",
+             "INSERT INTO Tbl_UserFolderPermission (UserID, FolderID, Permission) "
+             "SELECT UserID, 1 + UserID % 3000, 'R' FROM Tbl_Users",
+         })
+        RawStatement(store, sql).run();
+    return path;
 }
 
 void ImportNew(benchmark::State &state)

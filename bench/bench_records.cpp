@@ -7,6 +7,7 @@
 #include "platform/jet/connection.h"
 #include "store/clsGlobalGroups.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -26,11 +27,58 @@ std::string handWritten(const Reader &reader)
     return sql;
 }
 
+/// The texts of the rows that a query by hand gives, without the empty ones.
+std::vector<std::string> textsByHand(const Reader &reader, const QString &path, int subject, int &rows)
+{
+    std::vector<std::string> texts;
+    const RawStore store(path);
+    RawStatement query(store, handWritten(reader));
+    if (reader.subject)
+        query.bind(1, qint64(subject));
+    for (rows = 0; query.step(); ++rows)
+        for (int column = 0; column < query.columns(); ++column) {
+            if (!query.isNumber(column) && !query.text(column).empty())
+                texts.emplace_back(query.text(column));
+        }
+    return texts;
+}
+
+/// A floor is one only for the same answer.
+void requireSameAnswer(const Reader &reader, const QString &path, int subject)
+{
+    jet::Recordset result;
+    reader.read(jet::connectionString(path), result, subject);
+    std::vector<std::string> texts;
+    int rows = 0;
+    for (; !result.eof(); result.moveNext(), ++rows)
+        for (int column = 0; column < result.fields().count(); ++column) {
+            const Value value = result.value(column);
+            if (value.isText() && !value.toText().isEmpty())
+                texts.push_back(value.toText().toStdString());
+        }
+    int rowsByHand = 0;
+    std::vector<std::string> expected = textsByHand(reader, path, subject, rowsByHand);
+    std::ranges::sort(texts);
+    std::ranges::sort(expected);
+    if (rows != rowsByHand || texts != expected)
+        raise(1, u"%1 gives %2 rows and %3 texts, %4 and %5 by hand."_s.arg(QLatin1StringView(reader.name))
+                     .arg(rows)
+                     .arg(texts.size())
+                     .arg(rowsByHand)
+                     .arg(expected.size()));
+}
+
 void read(benchmark::State &state, const Reader &reader)
 {
     const QString &path = workbench::sampleStore(int(state.range(0)));
     const QString connectionString = jet::connectionString(path);
     const int subject = subjectOf(reader, path);
+    try {
+        requireSameAnswer(reader, path, subject);
+    } catch (const Error &error) {
+        state.SkipWithError(error.what());
+        return;
+    }
     for (auto _ : state) {
         jet::Recordset result;
         workbench::measure(state, [&] { reader.read(connectionString, result, subject); });

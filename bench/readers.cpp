@@ -387,7 +387,7 @@ constexpr Reader table[] = {
     {"clsSW.getAll", nullptr, plain<&clsSW::getAll>,
      "SELECT * FROM Tbl_SW ORDER BY Type, Manufacturer, Name, Version"},
     {"clsSW.getDisplayNames", nullptr, plain<&clsSW::getDisplayNames>,
-     "SELECT ID, ifnull(Type, '') || ' ' || ifnull(Manufacturer, '') & ' ' & ifnull(Name, '') || ' ' || "
+     "SELECT ID, ifnull(Type, '') || ' ' || ifnull(Manufacturer, '') || ' ' || ifnull(Name, '') || ' ' || "
      "ifnull(Version, '') AS SWDisplayName FROM Tbl_SW ORDER BY Type, Manufacturer, Name, Version"},
     {"clsSW.getHW", "SWID FROM Tbl_SWHW", byId<&clsSW::getHW>,
      "SELECT Tbl_HW.ID, {hwtype} AS HardwareType, Tbl_HW.SerialNumber, Tbl_HW.CompanyPropertyNumber, "

@@ -1,49 +1,20 @@
 #pragma once
 
 #include "platform/jet/recordset.h"
+#include "store/hwrecord.h"
 #include "store/recordclass.h"
 
 #include <QString>
 
 #include <span>
 
-/// One row of Tbl_HW without its id. The members stand in the order of the table's columns.
-struct HWRecord
-{
-    int HWTypeID = 0;
-    QString SerialNumber = {};
-    QString AssetNumber = {};
-    QString WarrantyNumber = {};
-    QString CompanyPropertyNumber = {};
-    QString WorkStationName = {};
-    QString Supplier = {};
-    /// As formatSqlDate() gives it; the store refuses an empty one.
-    QString PurchaseDate = {};
-    QString Usage = {};
-    QString Status = {};
-    int EUCD = 0;
-    QString Comments = {};
-    int Network = 0;
-    QString IPAddress = {};
-    QString IPSubnet = {};
-};
-
-/// The statement that inserts the item. Nothing is escaped.
-[[nodiscard]] QString insertHW(const HWRecord &item);
-
-class StoreSession;
-
-// What they relate to the item is added to what it has.
-void writeHWRooms(StoreSession &store, int id, std::span<const int> rooms);
-void writeHWUsers(StoreSession &store, int id, std::span<const int> users);
-void writeHWSoftware(StoreSession &store, int id, std::span<const int> software);
-
 /// All that reads and writes Tbl_HW and the hardware's side of Tbl_RoomHW, Tbl_UserHW and
 /// Tbl_SWHW. An item is known by its type and serial number. addRooms takes it from its users
 /// and addUsers from its rooms, so one in both comes from elsewhere.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Items whose type
-/// is gone show in none. Nothing is escaped. Every method raises the store's error.
+/// is gone show in none. Nothing is escaped. Every method raises the store's error, and what was
+/// written before it stays.
 class clsHW final : public RecordClass
 {
 public:

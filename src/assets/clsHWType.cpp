@@ -1,5 +1,6 @@
 #include "assets/clsHWType.h"
 
+#include "store/assetstatements.h"
 #include "store/statement.h"
 
 using namespace Qt::StringLiterals;
@@ -12,9 +13,6 @@ constexpr auto alreadyExists =
 // clang-format off
 constexpr auto taken =
     "SELECT ID FROM Tbl_HWType WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Model]='{name}' AND [TypeNumber]='{version}'"_L1;
-constexpr auto insert =
-    "INSERT INTO Tbl_HWType ([Type],[Manufacturer],[Model],[TypeNumber],[Description]) VALUES ('{type}','{manufacturer}','{name}','{version}','{description}')"_L1;
-
 constexpr auto takenByOther =
     "SELECT ID FROM Tbl_HWType WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Model]='{name}' AND [TypeNumber] ='{version}' AND ID <> {id}"_L1;
 constexpr auto change =
@@ -22,11 +20,6 @@ constexpr auto change =
 // clang-format on
 
 } // namespace
-
-QString insertHWType(const CatalogueRow &device)
-{
-    return joined(insert, device);
-}
 
 void clsHWType::Add(const QString &connectionString, const QString &type, const QString &manufacturer,
                     const QString &model, const QString &typeNumber, const QString &description)

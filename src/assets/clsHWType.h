@@ -1,19 +1,15 @@
 #pragma once
 
-#include "assets/clsCatalogue.h"
 #include "platform/jet/recordset.h"
 #include "store/recordclass.h"
 
 #include <QString>
 
-/// The statement that inserts the type. Nothing is escaped.
-[[nodiscard]] QString insertHWType(const CatalogueRow &device);
-
 /// All that reads and writes Tbl_HWType, the catalogue of devices. A type is known by its type,
 /// manufacturer, model and type number; the description is no part of that.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Nothing is
-/// escaped. Every method raises the store's error.
+/// escaped. Every method raises the store's error, and what was written before it stays.
 class clsHWType final : public RecordClass
 {
 public:

@@ -1,7 +1,8 @@
 #include "assets/clsRooms.h"
 
-#include "store/relations.h"
+#include "store/assetstatements.h"
 #include "store/statement.h"
+#include "store/storesession.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,24 +10,7 @@ namespace {
 
 constexpr auto alreadyExists = "A Room with the same Number alredy exists in the Database"_L1;
 
-constexpr RelationStatements usersOfRoom = {
-    "DELETE FROM Tbl_RoomUsers WHERE RoomID={id}"_L1,
-    "SELECT * FROM Tbl_RoomUsers WHERE RoomID ={id} AND  UserID ={item}"_L1,
-    "INSERT INTO Tbl_RoomUsers (RoomID,UserID) VALUES ({id},{item})"_L1,
-};
-
 } // namespace
-
-QString insertRoom(const QString &number, const QString &description)
-{
-    return joined("INSERT INTO Tbl_Rooms (RoomNumber,Description) VALUES ('{number}','{description}')"_L1,
-                  {{"number"_L1, number}, {"description"_L1, description}});
-}
-
-void writeRoomUsers(StoreSession &store, int room, std::span<const int> users, bool clearFirst)
-{
-    writeRelations(store, usersOfRoom, room, users, {}, clearFirst);
-}
 
 void clsRooms::Find(const QString &connectionString, jet::Recordset &result, const QString &number)
 {
@@ -91,7 +75,7 @@ void clsRooms::getNotUsers(const QString &connectionString, jet::Recordset &resu
 
 void clsRooms::addUsers(const QString &connectionString, int id, std::span<const int> users)
 {
-    withStore(connectionString, [&](StoreSession &store) { writeRoomUsers(store, id, users, true); });
+    replaceRelations(connectionString, usersOfRoom, id, users);
 }
 
 void clsRooms::addHW(const QString &connectionString, int id, std::span<const int> items, bool deleteSW)
@@ -126,11 +110,9 @@ void clsRooms::update(const QString &connectionString, int id, const QString &nu
 
 void clsRooms::Delete(const QString &connectionString, int id)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, std::span(&id, 1),
-                       {"DELETE * FROM Tbl_RoomUsers WHERE RoomID= {id}"_L1,
-                        "DELETE * FROM Tbl_Rooms WHERE ID ={id}"_L1});
-    });
+    writeForEach(
+        connectionString, std::span(&id, 1),
+        {"DELETE * FROM Tbl_RoomUsers WHERE RoomID= {id}"_L1, "DELETE * FROM Tbl_Rooms WHERE ID ={id}"_L1});
 }
 
 void clsRooms::getAll(const QString &connectionString, jet::Recordset &result)

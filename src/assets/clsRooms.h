@@ -7,20 +7,11 @@
 
 #include <span>
 
-class StoreSession;
-
-/// The statement that inserts the room. Nothing is escaped.
-[[nodiscard]] QString insertRoom(const QString &number, const QString &description);
-
-/// Relates the users to the room, after all others have been taken away if so told. A repeated
-/// id counts once.
-void writeRoomUsers(StoreSession &store, int room, std::span<const int> users, bool clearFirst);
-
 /// All that reads and writes Tbl_Rooms and the room's side of Tbl_RoomUsers and Tbl_RoomHW. A
 /// room is known by its number.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Nothing is
-/// escaped. Every method raises the store's error.
+/// escaped. Every method raises the store's error, and what was written before it stays.
 class clsRooms final : public RecordClass
 {
 public:

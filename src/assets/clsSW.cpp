@@ -1,6 +1,6 @@
 #include "assets/clsSW.h"
 
-#include "store/relations.h"
+#include "store/assetstatements.h"
 #include "store/statement.h"
 
 using namespace Qt::StringLiterals;
@@ -12,27 +12,19 @@ constexpr auto alreadyExists = "A Software with the same charachteristics alread
 // clang-format off
 constexpr auto taken =
     "SELECT ID FROM Tbl_SW WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Name]='{name}' AND [Version]='{version}'"_L1;
-constexpr auto insert =
-    "INSERT INTO Tbl_SW ([Type],[Manufacturer],[Name],[Version],[Description]) VALUES ('{type}','{manufacturer}','{name}','{version}','{description}')"_L1;
-
 constexpr auto takenByOther =
     "SELECT ID FROM Tbl_SW WHERE [Type]='{type}' AND [Manufacturer] = '{manufacturer}'  AND [Name]='{name}' AND [Version] ='{version}' AND ID <> {id}"_L1;
 constexpr auto change =
     "UPDATE Tbl_SW SET [Type]='{type}',[Manufacturer]='{manufacturer}',[Name]='{name}',[Version]='{version}',[Description]='{description}' WHERE ID = {id}"_L1;
 // clang-format on
 
-constexpr RelationStatements hardware = {
+constexpr RelationStatements itemsOfSoftware = {
     "DELETE FROM Tbl_SWHW WHERE SWID={id}"_L1,
     {},
     "INSERT INTO Tbl_SWHW (SWID,HWID) VALUES ({id},{item})"_L1,
 };
 
 } // namespace
-
-QString insertSW(const CatalogueRow &product)
-{
-    return joined(insert, product);
-}
 
 void clsSW::getManufacturers(const QString &connectionString, jet::Recordset &result)
 {
@@ -62,8 +54,7 @@ void clsSW::getDisplayNames(const QString &connectionString, jet::Recordset &res
 
 void clsSW::addHW(const QString &connectionString, int id, std::span<const int> items)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeRelations(store, hardware, id, items, {}, true); });
+    replaceRelations(connectionString, itemsOfSoftware, id, items);
 }
 
 void clsSW::getHW(const QString &connectionString, jet::Recordset &result, int id)

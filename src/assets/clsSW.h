@@ -1,6 +1,5 @@
 #pragma once
 
-#include "assets/clsCatalogue.h"
 #include "platform/jet/recordset.h"
 #include "store/recordclass.h"
 
@@ -8,15 +7,12 @@
 
 #include <span>
 
-/// The statement that inserts the software. Nothing is escaped.
-[[nodiscard]] QString insertSW(const CatalogueRow &product);
-
 /// All that reads and writes Tbl_SW, the catalogue of software, and the software's side of
 /// Tbl_SWHW. A product is known by its type, manufacturer, name and version; the description is
 /// no part of that.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Nothing is
-/// escaped. Every method raises the store's error.
+/// escaped. Every method raises the store's error, and what was written before it stays.
 class clsSW final : public RecordClass
 {
 public:

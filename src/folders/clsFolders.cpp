@@ -1,7 +1,6 @@
 #include "folders/clsFolders.h"
 
-#include "folders/clsFoldersPaths.h"
-#include "store/relations.h"
+#include "store/folderstatements.h"
 #include "store/statement.h"
 
 using namespace Qt::StringLiterals;
@@ -12,19 +11,6 @@ constexpr auto folderExists = "The specified Folder already exists in the Databa
 constexpr auto defaultPermissionExists = "The specified Default Permission already exists in the Database"_L1;
 
 } // namespace
-
-QString insertFolder(const QString &path, const QString &description)
-{
-    return joined("INSERT INTO Tbl_Folders (FolderName,Description) VALUES ('{path}','{description}')"_L1,
-                  {{"path"_L1, path}, {"description"_L1, description}});
-}
-
-QString insertDefaultFolderPermission(const QString &account, const QString &permission)
-{
-    return joined("INSERT INTO Tbl_FolderDefaultPermissions ([Account],[Permission]) "
-                  "VALUES ('{account}','{permission}')"_L1,
-                  {{"account"_L1, account}, {"permission"_L1, permission}});
-}
 
 void clsFolders::Add(const QString &connectionString, const QString &path, const QString &description)
 {
@@ -50,22 +36,18 @@ void clsFolders::update(const QString &connectionString, int id, const QString &
 
 void clsFolders::Delete(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids,
-                       {"DELETE * FROM Tbl_UserFolderPermission WHERE FolderID ={id}"_L1,
-                        "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE FolderID ={id}"_L1,
-                        "DELETE * FROM Tbl_Folders WHERE ID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids,
+                 {"DELETE * FROM Tbl_UserFolderPermission WHERE FolderID ={id}"_L1,
+                  "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE FolderID ={id}"_L1,
+                  "DELETE * FROM Tbl_Folders WHERE ID ={id}"_L1});
 }
 
 void clsFolders::RemoveAllPermissions(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids,
-                       {"DELETE * FROM Tbl_UserFolderPermission WHERE FolderID ={id}"_L1,
-                        "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE FolderID ={id}"_L1,
-                        "DELETE * FROM Tbl_GlobalGroupFolderPermission WHERE FolderID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids,
+                 {"DELETE * FROM Tbl_UserFolderPermission WHERE FolderID ={id}"_L1,
+                  "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE FolderID ={id}"_L1,
+                  "DELETE * FROM Tbl_GlobalGroupFolderPermission WHERE FolderID ={id}"_L1});
 }
 
 void clsFolders::AddDefaultFolderPermission(const QString &connectionString, const QString &account,
@@ -93,9 +75,7 @@ void clsFolders::updateDefaultFolderPermission(const QString &connectionString, 
 
 void clsFolders::DeleteDefaultFolderPermissions(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids, {"DELETE * FROM Tbl_FolderDefaultPermissions WHERE ID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids, {"DELETE * FROM Tbl_FolderDefaultPermissions WHERE ID ={id}"_L1});
 }
 
 void clsFolders::getAll(const QString &connectionString, jet::Recordset &result)

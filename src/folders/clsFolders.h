@@ -9,11 +9,6 @@
 
 #include <span>
 
-/// The statements that insert a folder, of the path as it stands, and a default permission.
-/// Nothing is escaped.
-[[nodiscard]] QString insertFolder(const QString &path, const QString &description);
-[[nodiscard]] QString insertDefaultFolderPermission(const QString &account, const QString &permission);
-
 /// All that reads and writes Tbl_Folders, Tbl_FolderDefaultPermissions and the folder's side
 /// of the three permission tables. A folder is known by its full path, which ends in a
 /// backslash: it is added to paths that lack it, unless told otherwise.
@@ -38,14 +33,15 @@ public:
     void AddBatch(const QString &connectionString, const QStringList &paths, const QStringList &descriptions,
                   bool keepExisting, QString &errors, const Breath &breath = {});
     /// Gives a local group or, when there is none of that name and server, a user a permission
-    /// on a folder in place of the one it has.
+    /// on a folder in place of the one it has. What could not be looked up is told as not there.
     void AddPermissionsBatch(const QString &connectionString, const QStringList &paths,
                              const QStringList &names, const QStringList &servers,
                              const QStringList &permissions, QString &errors);
     /// Replaces all permissions on a folder by those of the records, fields Name, Server and
-    /// Permission. The path is used as it stands. Returns the accounts that are neither a user
-    /// nor a group nor a default permission, each with a comma. Raises RuleViolation for a
-    /// folder that is not in the store.
+    /// Permission, users first and global groups last. The path is used as it stands. Returns the
+    /// accounts that are neither a user nor a group nor a default permission, each with a comma. An
+    /// account given twice is in twice. Raises RuleViolation for a folder that is not in the store.
+    /// After a failure some of the old permissions are gone without the new ones.
     [[nodiscard]] QString addPermittedObjects(const QString &connectionString, const QString &folderName,
                                               jet::Recordset &objects);
     /// One permission a user, in the same order. Without deleteFirst the rows are added to

@@ -1,8 +1,9 @@
 #include "folders/clsFolders.h"
 
-#include "folders/clsFoldersPaths.h"
 #include "platform/jet/errors.h"
+#include "store/folderstatements.h"
 #include "store/statement.h"
+#include "store/storesession.h"
 
 #include <optional>
 

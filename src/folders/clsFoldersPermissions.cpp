@@ -1,7 +1,9 @@
 #include "folders/clsFolders.h"
 
+#include "store/batchrecords.h"
 #include "store/relations.h"
 #include "store/statement.h"
+#include "store/storesession.h"
 
 #include <array>
 
@@ -80,9 +82,12 @@ QString clsFolders::addPermittedObjects(const QString &connectionString, const Q
             if (!takeAccount(store, name, server, batch.text(Permission), permitted))
                 unknown += server + u'\\' + name + u',';
         }
-        for (std::size_t kind = 0; kind < permitted.size(); ++kind)
-            writeRelations(store, accountKinds[kind].permissions, int(folder.toInteger()),
-                           permitted[kind].ids, permitted[kind].permissions, true);
+        const int id = int(folder.toInteger());
+        for (std::size_t kind = 0; kind < permitted.size(); ++kind) {
+            clearRelations(store, accountKinds[kind].permissions, id);
+            addRelations(store, accountKinds[kind].permissions, id, permitted[kind].ids,
+                         permitted[kind].permissions);
+        }
     });
     return unknown;
 }
@@ -90,23 +95,17 @@ QString clsFolders::addPermittedObjects(const QString &connectionString, const Q
 void clsFolders::addUsers(const QString &connectionString, int folder, std::span<const int> users,
                           const QStringList &permissions, bool deleteFirst)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        writeRelations(store, userPermissions, folder, users, permissions, deleteFirst);
-    });
+    writeRelations(connectionString, userPermissions, folder, users, permissions, deleteFirst);
 }
 
 void clsFolders::addLocalGroups(const QString &connectionString, int folder, std::span<const int> groups,
                                 const QStringList &permissions, bool deleteFirst)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        writeRelations(store, localGroupPermissions, folder, groups, permissions, deleteFirst);
-    });
+    writeRelations(connectionString, localGroupPermissions, folder, groups, permissions, deleteFirst);
 }
 
 void clsFolders::addGlobalGroups(const QString &connectionString, int folder, std::span<const int> groups,
                                  const QStringList &permissions, bool deleteFirst)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        writeRelations(store, globalGroupPermissions, folder, groups, permissions, deleteFirst);
-    });
+    writeRelations(connectionString, globalGroupPermissions, folder, groups, permissions, deleteFirst);
 }

@@ -22,8 +22,9 @@ public:
              const QString &statement);
     /// Opens the caller's recordset; its rows need no store any more.
     void getAll(const QString &connectionString, jet::Recordset &result);
-    /// Runs a statement of the user's. One that begins with "select" opens the recordset; any
-    /// other leaves it closed.
+    /// Runs a statement of the user's. One whose first six letters are "select" opens the recordset
+    /// if it gives rows, as SELECT INTO does not; any other leaves it closed, also a SELECT behind a
+    /// blank.
     void Execute(const QString &connectionString, jet::Recordset &result, const QString &statement);
     void Delete(const QString &connectionString, int id);
     /// Raises RuleViolation when another query has the name.

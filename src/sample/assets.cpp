@@ -1,11 +1,8 @@
 #include "sample/company.h"
 
-#include "assets/clsHW.h"
-#include "assets/clsHWType.h"
-#include "assets/clsRooms.h"
-#include "assets/clsSW.h"
 #include "base/oledate.h"
 #include "base/text.h"
+#include "store/assetstatements.h"
 #include "store/storesession.h"
 
 using namespace Qt::StringLiterals;
@@ -105,17 +102,17 @@ int fillRooms(StoreSession &store, const QList<User> &users)
     const int count = ceilingOf(int(users.size()), usersPerRoom);
     QList<QList<int>> seats(count + 1);
     for (int i = 0; i < users.size(); ++i) {
-        Draws draw(i, Draw::Seat);
+        Draws draw(i, Purpose::Seat);
         seats[roomOn(users[i].site, count, draw)].append(users[i].id);
     }
     for (int i = 0; i < count; ++i) {
-        Draws draw(i, Draw::Room);
+        Draws draw(i, Purpose::Room);
         const int door = i / siteCount;
         const QString number = u"%1 %2.%3"_s.arg(QString(sites[i % siteCount].server.first(3)))
                                    .arg(door / doorsPerFloor)
                                    .arg(door % doorsPerFloor + 1, 2, 10, QChar(u'0'));
         store.execute(insertRoom(number, escapeQuotes(draw.from(roomKinds))));
-        writeRoomUsers(store, i + 1, seats[i + 1], false);
+        addRelations(store, usersOfRoom, i + 1, seats[i + 1]);
     }
     return count;
 }
@@ -173,7 +170,7 @@ void fillHardware(StoreSession &store, const QList<User> &users, int rooms)
 {
     const int count = int(users.size());
     for (int i = 0; i < count; ++i) {
-        Draws draw(i, Draw::Item);
+        Draws draw(i, Purpose::Item);
         const User &user = users[draw.oneIn(3) ? draw.below(count) : i];
         const int device = drawDevice(draw);
         HWRecord item = hardwareItem(i, device, user.site, draw);
@@ -183,13 +180,13 @@ void fillHardware(StoreSession &store, const QList<User> &users, int rooms)
 
         const int id = i + 1;
         if (devices[device].computer)
-            writeHWSoftware(store, id, drawProducts(draw));
+            addRelations(store, softwareOfItem, id, drawProducts(draw));
         if (inStock)
             continue;
         if (devices[device].use == Use::Personal)
-            writeHWUsers(store, id, {{user.id}});
+            addRelations(store, usersOfItem, id, {{user.id}});
         else
-            writeHWRooms(store, id, {{roomOn(user.site, rooms, draw)}});
+            addRelations(store, roomsOfItem, id, {{roomOn(user.site, rooms, draw)}});
     }
 }
 

@@ -13,7 +13,7 @@ class StoreSession;
 /// drawn is drawn from the number of the object it belongs to.
 ///
 /// All write into a new store, whose counters begin at 1: the n-th row of a table has the id n.
-/// They write over one session, as a method of a record class would have to commit each row.
+/// They write over one session, as a method of a record class would commit each row.
 namespace sample {
 
 using Qt::Literals::StringLiterals::operator""_L1;
@@ -61,8 +61,8 @@ constexpr int ceilingOf(int users, int share)
     return (users + share - 1) / share;
 }
 
-/// What is drawn for.
-enum class Draw : quint32 {
+/// What is drawn for. Another number gives another sample company.
+enum class Purpose : quint32 {
     User = 0,
     Membership = 1,
     LocalGroup = 2,
@@ -72,12 +72,12 @@ enum class Draw : quint32 {
     Item = 13
 };
 
-/// The draws of one object, a function of its number and its kind.
+/// The draws of one object, a function of its number and their purpose.
 class Draws final
 {
 public:
-    explicit Draws(int number, Draw kind = Draw::User)
-        : m_state(quint32(number) * 0x9e3779b9u + 0x7f4a7c15u + quint32(kind) * 0x85ebca6bu)
+    explicit Draws(int number, Purpose purpose = Purpose::User)
+        : m_state(quint32(number) * 0x9e3779b9u + 0x7f4a7c15u + quint32(purpose) * 0x85ebca6bu)
     {
     }
 

@@ -1,11 +1,10 @@
 #include "sample/company.h"
 
-#include "folders/clsFolders.h"
-#include "store/clsLocalGroups.h"
-#include "store/clsUsers.h"
+#include "store/folderstatements.h"
 #include "store/groups.h"
 #include "store/relations.h"
 #include "store/storesession.h"
+#include "store/userstatements.h"
 
 #include <map>
 
@@ -66,7 +65,7 @@ int fillGlobalGroups(StoreSession &store, const QList<User> &users)
     QList<QList<int>> members(count);
     for (int i = 0; i < users.size(); ++i) {
         const User &user = users[i];
-        Draws draw(i, Draw::Membership);
+        Draws draw(i, Purpose::Membership);
         const int own = anyOf(user.site, user.department, count, draw).index(count);
         const int other = anyOf(user.site, draw.below(departmentCount), count, draw).index(count);
         members[own].append(user.id);
@@ -79,7 +78,7 @@ int fillGlobalGroups(StoreSession &store, const QList<User> &users)
         addGroup(store, GroupKind::Global, place.server(), numbered(place.departmentName(), place.number),
                  "Staff of "_L1 + place.departmentName() + ", "_L1 + sites[place.site].division.toString(),
                  id);
-        writeGroupUsers(store, GroupKind::Global, id, members[i]);
+        addRelations(store, usersOfGroup(GroupKind::Global), id, members[i]);
     }
     return count;
 }
@@ -105,16 +104,16 @@ int fillLocalGroups(StoreSession &store, const QList<User> &users, int globalGro
         int id = 0;
         addGroup(store, GroupKind::Local, place.server(), numbered(name, place.number / localGroupKindCount),
                  "Permission "_L1 + kind.permission + " on the folders of "_L1 + place.departmentName(), id);
-        Draws draw(i, Draw::LocalGroup);
+        Draws draw(i, Purpose::LocalGroup);
         QList<int> memberGroups;
         for (int member = 0; member < globalGroupsEach; ++member)
             addUnlessThere(memberGroups,
                            1 + anyOf(place.site, place.department, globalGroups, draw).index(globalGroups));
-        writeGlobalGroupMembers(store, id, memberGroups, false);
+        addRelations(store, globalGroupsOfGroup(), id, memberGroups);
         QList<int> members;
         for (int member = 0; member < usersEach; ++member)
             addUnlessThere(members, users[draw.below(int(users.size()))].id);
-        writeGroupUsers(store, GroupKind::Local, id, members);
+        addRelations(store, usersOfGroup(GroupKind::Local), id, members);
     }
     return count;
 }
@@ -143,11 +142,11 @@ public:
         for (int i = 0; i < m_users.size(); i += usersPerHome)
             m_ofUsers[m_users[i].id].add(addFolder(m_users[i].home, {}), u"Full Control"_s);
         for (const auto &[user, given] : m_ofUsers)
-            writeUserFolders(m_store, user, given.ids, given.permissions, false);
+            addRelations(m_store, foldersOfUser(), user, given.ids, given.permissions);
         for (const auto &[group, given] : m_ofLocalGroups)
-            writeGroupFolders(m_store, GroupKind::Local, group, given.ids, given.permissions, false);
+            addRelations(m_store, foldersOfGroup(GroupKind::Local), group, given.ids, given.permissions);
         for (const auto &[group, given] : m_ofGlobalGroups)
-            writeGroupFolders(m_store, GroupKind::Global, group, given.ids, given.permissions, false);
+            addRelations(m_store, foldersOfGroup(GroupKind::Global), group, given.ids, given.permissions);
         for (const QString &account :
              {u"Administrators"_s, u"SYSTEM"_s, QString(sites[0].server + "\\Domain Admins"_L1)})
             m_store.execute(insertDefaultFolderPermission(account, u"Full Control"_s));
@@ -156,7 +155,7 @@ public:
 private:
     int addFolder(const QString &path, const QString &description)
     {
-        m_store.execute(insertFolder(path + u'\\', description));
+        m_store.execute(insertFolder(folderPath(path), description));
         return ++m_lastId;
     }
 
@@ -173,7 +172,7 @@ private:
         }
         const int folder = addFolder(path, description);
 
-        Draws draw(index, Draw::SharedFolder);
+        Draws draw(index, Purpose::SharedFolder);
         const int pair = draw.below(ceilingOf(m_localGroups, placeCount * localGroupKindCount));
         for (int kind = 0; kind < localGroupKindCount; ++kind) {
             const Place group = {place.site, place.department, pair * localGroupKindCount + kind};

@@ -19,6 +19,9 @@ using Breath = std::function<void()>;
 ///
 ///     for (BatchRecords batch(records, {"Name"_L1, "Server"_L1}); batch.next();)
 ///         use(batch.text(0), batch.text(1));
+///
+/// The records must outlive the walk, stand on the one that next() has come to and are left
+/// at their end. text() is of that record.
 class BatchRecords final
 {
 public:

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr RelationStatements localGroups = {
+constexpr RelationStatements localGroupsOfGroup = {
     "DELETE FROM Tbl_LocalGroupsGlobalGroups WHERE GlobalGroupID={id}"_L1,
     "SELECT * FROM Tbl_LocalGroupsGlobalGroups WHERE GlobalGroupID ={id} AND  LocalGroupID ={item}"_L1,
     "INSERT INTO Tbl_LocalGroupsGlobalGroups (GlobalGroupID,LocalGroupID) VALUES ({id},{item})"_L1,
@@ -18,18 +18,14 @@ constexpr RelationStatements localGroups = {
 
 void clsGlobalGroups::Delete(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids,
-                       {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE GlobalGroupID ={id}"_L1,
-                        "DELETE * FROM Tbl_GlobalGroups WHERE ID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids,
+                 {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE GlobalGroupID ={id}"_L1,
+                  "DELETE * FROM Tbl_GlobalGroups WHERE ID ={id}"_L1});
 }
 
 void clsGlobalGroups::RemoveUsers(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids, {"DELETE * FROM Tbl_GlobalGroupsUsers WHERE GlobalGroupID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids, {"DELETE * FROM Tbl_GlobalGroupsUsers WHERE GlobalGroupID ={id}"_L1});
 }
 
 void clsGlobalGroups::getAll(const QString &connectionString, jet::Recordset &result)
@@ -40,9 +36,7 @@ void clsGlobalGroups::getAll(const QString &connectionString, jet::Recordset &re
 void clsGlobalGroups::addFolders(const QString &connectionString, int id, std::span<const int> folders,
                                  const QStringList &permissions, bool clearFirst)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        writeGroupFolders(store, GroupKind::Global, id, folders, permissions, clearFirst);
-    });
+    writeRelations(connectionString, foldersOfGroup(GroupKind::Global), id, folders, permissions, clearFirst);
 }
 
 void clsGlobalGroups::getAllGlobalGroupNames(const QString &connectionString, jet::Recordset &result)
@@ -90,15 +84,13 @@ void clsGlobalGroups::update(const QString &connectionString, int id, const QStr
 
 void clsGlobalGroups::addUsers(const QString &connectionString, int id, std::span<const int> users)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeGroupUsers(store, GroupKind::Global, id, users); });
+    replaceRelations(connectionString, usersOfGroup(GroupKind::Global), id, users);
 }
 
 void clsGlobalGroups::addLocalGroups(const QString &connectionString, int id,
-                                     std::span<const int> localGroupIds)
+                                     std::span<const int> localGroups)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeRelations(store, localGroups, id, localGroupIds, {}, true); });
+    replaceRelations(connectionString, localGroupsOfGroup, id, localGroups);
 }
 
 void clsGlobalGroups::getNotLocalGroupMembers(const QString &connectionString, jet::Recordset &result,

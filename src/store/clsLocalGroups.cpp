@@ -3,6 +3,7 @@
 #include "store/groups.h"
 #include "store/relations.h"
 #include "store/statement.h"
+#include "store/storesession.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,19 +11,7 @@ namespace {
 
 constexpr auto unknownGroup = "The specified Local Group does not exist in your Database"_L1;
 
-constexpr RelationStatements globalGroups = {
-    "DELETE FROM Tbl_LocalGroupsGlobalGroups WHERE LocalGroupID={id}"_L1,
-    {},
-    "INSERT INTO Tbl_LocalGroupsGlobalGroups(LocalGroupID,GlobalGroupID) VALUES ({id},{item})"_L1,
-};
-
 } // namespace
-
-void writeGlobalGroupMembers(StoreSession &store, int group, std::span<const int> globalGroupIds,
-                             bool clearFirst)
-{
-    writeRelations(store, globalGroups, group, globalGroupIds, {}, clearFirst);
-}
 
 void clsLocalGroups::AddUsersBatch(const QString &connectionString, jet::Recordset &records,
                                    QString &errorText, const Breath &breath)
@@ -34,8 +23,7 @@ void clsLocalGroups::AddUsersBatch(const QString &connectionString, jet::Records
 
 void clsLocalGroups::addUsers(const QString &connectionString, int id, std::span<const int> users)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeGroupUsers(store, GroupKind::Local, id, users); });
+    replaceRelations(connectionString, usersOfGroup(GroupKind::Local), id, users);
 }
 
 void clsLocalGroups::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting)
@@ -53,12 +41,10 @@ void clsLocalGroups::Find(const QString &connectionString, jet::Recordset &resul
 
 void clsLocalGroups::Delete(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids,
-                       {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE LocalGroupID ={id}"_L1,
-                        "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID ={id}"_L1,
-                        "DELETE * FROM Tbl_LocalGroups WHERE ID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids,
+                 {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE LocalGroupID ={id}"_L1,
+                  "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID ={id}"_L1,
+                  "DELETE * FROM Tbl_LocalGroups WHERE ID ={id}"_L1});
 }
 
 void clsLocalGroups::getAll(const QString &connectionString, jet::Recordset &result)
@@ -95,9 +81,7 @@ void clsLocalGroups::getUsers(const QString &connectionString, int id, jet::Reco
 
 void clsLocalGroups::RemoveUsers(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids, {"DELETE * FROM Tbl_LocalGroupsUsers WHERE LocalGroupID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids, {"DELETE * FROM Tbl_LocalGroupsUsers WHERE LocalGroupID ={id}"_L1});
 }
 
 void clsLocalGroups::getFolders(const QString &connectionString, jet::Recordset &result, int id)
@@ -113,10 +97,8 @@ void clsLocalGroups::getFolders(const QString &connectionString, jet::Recordset 
 
 void clsLocalGroups::RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids,
-                       {"DELETE * FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids,
+                 {"DELETE * FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID ={id}"_L1});
 }
 
 void clsLocalGroups::update(const QString &connectionString, int id, const QString &server,
@@ -135,10 +117,9 @@ void clsLocalGroups::Add(const QString &connectionString, const QString &server,
 }
 
 void clsLocalGroups::addGlobalGroups(const QString &connectionString, int id,
-                                     std::span<const int> globalGroupIds)
+                                     std::span<const int> globalGroups)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeGlobalGroupMembers(store, id, globalGroupIds, true); });
+    replaceRelations(connectionString, globalGroupsOfGroup(), id, globalGroups);
 }
 
 void clsLocalGroups::AddGlobalGroupsBatch(const QString &connectionString, jet::Recordset &records,
@@ -150,17 +131,14 @@ void clsLocalGroups::AddGlobalGroupsBatch(const QString &connectionString, jet::
 
 void clsLocalGroups::RemoveGlobalGroups(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids, {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE LocalGroupID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids,
+                 {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE LocalGroupID ={id}"_L1});
 }
 
 void clsLocalGroups::addFolders(const QString &connectionString, int id, std::span<const int> folders,
                                 const QStringList &permissions, bool clearFirst)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        writeGroupFolders(store, GroupKind::Local, id, folders, permissions, clearFirst);
-    });
+    writeRelations(connectionString, foldersOfGroup(GroupKind::Local), id, folders, permissions, clearFirst);
 }
 
 void clsLocalGroups::addFoldersBatch(const QString &connectionString, const QString &groupName,
@@ -171,8 +149,8 @@ void clsLocalGroups::addFoldersBatch(const QString &connectionString, const QStr
             joined("SELECT ID from Tbl_LocalGroups WHERE [Name]='{name}'"_L1, {{"name"_L1, groupName}}));
         if (group.isNull())
             raise(RuleViolation, unknownGroup);
-        const Permissions taken = takeFolderPermissions(store, records, failed);
-        writeGroupFolders(store, GroupKind::Local, int(group.toInteger()), taken.ids, taken.permissions,
-                          false);
+        const Permissions taken = findOrAddFolders(store, records, failed);
+        addRelations(store, foldersOfGroup(GroupKind::Local), int(group.toInteger()), taken.ids,
+                     taken.permissions);
     });
 }

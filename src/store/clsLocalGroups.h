@@ -9,11 +9,6 @@
 
 #include <span>
 
-/// Makes the global groups members of the group, after all others have been taken out if so
-/// told; one given twice is in twice.
-void writeGlobalGroupMembers(StoreSession &store, int group, std::span<const int> globalGroupIds,
-                             bool clearFirst);
-
 /// All that reads and writes Tbl_LocalGroups and the local group's side of the relationship
 /// tables: the twin of clsGlobalGroups, with global groups as a second kind of member.
 ///
@@ -61,9 +56,9 @@ public:
     void addFolders(const QString &connectionString, int id, std::span<const int> folders,
                     const QStringList &permissions, bool clearFirst);
     /// Gives the group the permissions of the records, fields Name (path of a folder) and
-    /// Permission. A folder not known yet is added; one that cannot be is named, with a comma,
-    /// in the failed text. Of groups of one name on several servers any may be taken. Raises
-    /// RuleViolation for a group that is not in the store.
+    /// Permission. The path is used as it stands. A folder not known yet is added; one that cannot be is
+    /// named, with a comma, in the failed text. Of groups of one name on several servers any may be taken.
+    /// Raises RuleViolation for a group that is not in the store.
     void addFoldersBatch(const QString &connectionString, const QString &groupName, jet::Recordset &records,
                          QString &failed);
 };

@@ -1,7 +1,7 @@
 #include "store/clsUsers.h"
 
-#include "store/relations.h"
 #include "store/statement.h"
+#include "store/storesession.h"
 #include "store/userstatements.h"
 
 using namespace Qt::StringLiterals;
@@ -83,16 +83,12 @@ void clsUsers::update(const QString &connectionString, const UserRecord &user)
 
 void clsUsers::Delete(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids, {"DELETE * FROM Tbl_Users WHERE UserID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids, {"DELETE * FROM Tbl_Users WHERE UserID ={id}"_L1});
 }
 
 void clsUsers::RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        executeForEach(store, ids, {"DELETE * FROM Tbl_UserFolderPermission WHERE UserID ={id}"_L1});
-    });
+    writeForEach(connectionString, ids, {"DELETE * FROM Tbl_UserFolderPermission WHERE UserID ={id}"_L1});
 }
 
 void clsUsers::TestConnection(const QString &connectionString)

@@ -4,7 +4,6 @@
 #include "store/recordclass.h"
 #include "store/userrecord.h"
 
-#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -14,11 +13,6 @@
 /// Told after each record of a batch how many are done; false ends the batch there. An Error
 /// it raises, as a yield does that cannot write what is pending, is counted and told.
 using BatchProgress = std::function<bool(int done)>;
-
-/// Gives the user one permission a folder, in the same order, after all others have been taken
-/// away if so told. One that the user has on a folder is overwritten.
-void writeUserFolders(StoreSession &store, int user, std::span<const int> folders,
-                      const QStringList &permissions, bool clearFirst);
 
 /// All that reads and writes Tbl_Users and the user's side of the relationship tables.
 /// A user is known by UserID in the store and by name and server everywhere else; only
@@ -30,10 +24,13 @@ class clsUsers final : public RecordClass
 {
 public:
     /// Writes the records, whose fields are named as the columns, by name and server: a new
-    /// account is inserted, a known one is updated (its contact columns stay as they are) or,
-    /// with leaveExisting, passed over without being counted. A UserID of 0 asks for the next
-    /// free one. Never stops and never raises for a record, nor for a store that does not open:
-    /// what fails is counted and gets a line of the error text. Counters and text are added to.
+    /// account is inserted, a known one is updated (its contact columns stay as they are, and it
+    /// takes the UserID of the record even when another user has it) or, with leaveExisting,
+    /// passed over without being counted. A UserID of 0 or nothing asks for the next free one.
+    /// Never stops and never raises for a record, nor for a store that does not open: what fails
+    /// is counted and gets a line of the error text. The counters are added to, and count what the
+    /// store accepted, also if it was lost later, which is told. The error text is added to, and
+    /// gets a heading in front when it is not empty.
     /// Raises jet::ItemNotFound, before anything is written, for records that lack a field.
     void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting, int &newCount,
                   int &updatedCount, int &errorCount, QString &errorText, const BatchProgress &progress = {});
@@ -42,15 +39,16 @@ public:
                           int &newCount, int &updatedCount, int &errorCount, QString &errorText,
                           const BatchProgress &progress = {});
     /// Gives the user the permissions of the records, fields Name (path of a folder) and
-    /// Permission. A folder not known yet is added; one that cannot be is named, with a comma,
-    /// in the failed text. Raises RuleViolation for a user who is not in the store.
+    /// Permission. The path is used as it stands. A folder not known yet is added; one that cannot
+    /// be is named, with a comma, in the failed text. Of users of one name on several servers any
+    /// may be taken. Raises RuleViolation for a user who is not in the store.
     void addFoldersBatch(const QString &connectionString, const QString &userName, jet::Recordset &records,
                          QString &failed);
     /// The rows of the relationship tables stay. The next new user takes a deleted id if it was
     /// the highest, and with it what stayed.
     void Delete(const QString &connectionString, std::span<const int> ids);
     void RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids);
-    /// The fields of the result are the template of recordsets made in memory.
+    /// The fields of the result are the template of recordsets made in memory; a row means nothing.
     void getStructure(const QString &connectionString, jet::Recordset &result);
     void getAll(const QString &connectionString, jet::Recordset &result);
     void getByUserNameAndServer(const QString &connectionString, jet::Recordset &result, const QString &name,
@@ -94,7 +92,8 @@ public:
     void getHW(const QString &connectionString, jet::Recordset &result, int id);
     /// The given items become the user's only ones and are taken from any other user.
     void addHW(const QString &connectionString, int id, std::span<const int> items);
-    /// Replaces Tbl_Users by the rows of Tbl_Remote_Users that have a name. The new table has the
+    /// Replaces Tbl_Users by the rows of Tbl_Remote_Users that have a name; if that fails, there is
+    /// no Tbl_Users any more until a second try succeeds. The new table has the
     /// columns and their types, but no index, and its columns accept Null.
     void Import(const QString &connectionString);
 };

@@ -1,7 +1,9 @@
 #include "store/clsUsers.h"
 
+#include "platform/jet/errors.h"
 #include "store/batchrecords.h"
 #include "store/statement.h"
+#include "store/storesession.h"
 #include "store/userstatements.h"
 
 #include <algorithm>
@@ -184,14 +186,18 @@ void clsUsers::AddBatch(const QString &connectionString, jet::Recordset &records
                         int &newCount, int &updatedCount, int &errorCount, QString &errorText,
                         const BatchProgress &progress)
 {
-    runBatch(connectionString, records, {liveColumns(), liveUpdateColumns(), Escaping::Batch}, leaveExisting,
-             {newCount, updatedCount, errorCount, errorText}, progress);
+    keepingErrors([&] {
+        runBatch(connectionString, records, {liveColumns(), liveUpdateColumns(), Escaping::Batch},
+                 leaveExisting, {newCount, updatedCount, errorCount, errorText}, progress);
+    });
 }
 
 void clsUsers::AddBatchFromFile(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
                                 int &newCount, int &updatedCount, int &errorCount, QString &errorText,
                                 const BatchProgress &progress)
 {
-    runBatch(connectionString, records, {fileColumns(), fileColumns(), Escaping::None}, leaveExisting,
-             {newCount, updatedCount, errorCount, errorText}, progress);
+    keepingErrors([&] {
+        runBatch(connectionString, records, {fileColumns(), fileColumns(), Escaping::None}, leaveExisting,
+                 {newCount, updatedCount, errorCount, errorText}, progress);
+    });
 }

@@ -2,6 +2,8 @@
 
 #include "store/relations.h"
 #include "store/statement.h"
+#include "store/storesession.h"
+#include "store/userstatements.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,18 +12,12 @@ namespace {
 constexpr auto unknownUser = "The specified User does not exist in your Database"_L1;
 
 // clang-format off
-constexpr RelationStatements folders = {
-    "DELETE FROM Tbl_UserFolderPermission WHERE UserID={id}"_L1,
-    "SELECT Permission FROM Tbl_UserFolderPermission WHERE UserID = {id} AND FolderID= {item}"_L1,
-    "INSERT INTO Tbl_UserFolderPermission(UserID,FolderID,Permission) VALUES ({id},{item},'{permission}')"_L1,
-    "UPDATE Tbl_UserFolderPermission SET Permission ='{permission}' WHERE UserID = {id} AND FolderID = {item}"_L1,
-};
-constexpr RelationStatements globalGroups = {
+constexpr RelationStatements groupsOfUser = {
     "DELETE FROM Tbl_GlobalGroupsUsers WHERE UserID={id}"_L1,
     "SELECT * FROM Tbl_GlobalGroupsUsers WHERE UserID ={id} AND  GlobalGroupID ={item}"_L1,
     "INSERT INTO Tbl_GlobalgroupsUsers (UserID,GlobalGroupID) VALUES ({id},{item})"_L1,
 };
-constexpr RelationStatements rooms = {
+constexpr RelationStatements roomsOfUser = {
     "DELETE FROM Tbl_RoomUsers WHERE UserID={id}"_L1,
     {},
     "INSERT INTO Tbl_RoomUsers(UserID,RoomID) VALUES ({id},{item})"_L1,
@@ -30,17 +26,10 @@ constexpr RelationStatements rooms = {
 
 } // namespace
 
-void writeUserFolders(StoreSession &store, int user, std::span<const int> folderIds,
-                      const QStringList &permissions, bool clearFirst)
-{
-    writeRelations(store, folders, user, folderIds, permissions, clearFirst);
-}
-
-void clsUsers::addFolders(const QString &connectionString, int id, std::span<const int> folderIds,
+void clsUsers::addFolders(const QString &connectionString, int id, std::span<const int> folders,
                           const QStringList &permissions, bool clearFirst)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeUserFolders(store, id, folderIds, permissions, clearFirst); });
+    writeRelations(connectionString, foldersOfUser(), id, folders, permissions, clearFirst);
 }
 
 void clsUsers::addFoldersBatch(const QString &connectionString, const QString &userName,
@@ -51,21 +40,19 @@ void clsUsers::addFoldersBatch(const QString &connectionString, const QString &u
             joined("SELECT UserID FROM Tbl_Users WHERE [UserName]='{name}'"_L1, {{"name"_L1, userName}}));
         if (user.isNull())
             raise(RuleViolation, unknownUser);
-        const Permissions taken = takeFolderPermissions(store, records, failed);
-        writeUserFolders(store, int(user.toInteger()), taken.ids, taken.permissions, false);
+        const Permissions taken = findOrAddFolders(store, records, failed);
+        addRelations(store, foldersOfUser(), int(user.toInteger()), taken.ids, taken.permissions);
     });
 }
 
 void clsUsers::addGlobalGroups(const QString &connectionString, int id, std::span<const int> groups)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeRelations(store, globalGroups, id, groups, {}, true); });
+    replaceRelations(connectionString, groupsOfUser, id, groups);
 }
 
-void clsUsers::addRooms(const QString &connectionString, int id, std::span<const int> roomIds)
+void clsUsers::addRooms(const QString &connectionString, int id, std::span<const int> rooms)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { writeRelations(store, rooms, id, roomIds, {}, true); });
+    replaceRelations(connectionString, roomsOfUser, id, rooms);
 }
 
 void clsUsers::addHW(const QString &connectionString, int id, std::span<const int> items)

@@ -1,7 +1,6 @@
 #include "store/groups.h"
 
 #include "base/error.h"
-#include "store/relations.h"
 #include "store/statement.h"
 #include "store/storesession.h"
 
@@ -87,6 +86,12 @@ constexpr Twin<RelationStatements> groupFolders = {
         "INSERT INTO Tbl_LocalGroupFolderPermission(LocalGroupID,FolderID,Permission) VALUES ({id},{item},'{permission}')"_L1,
         "UPDATE Tbl_LocalGroupFolderPermission SET Permission ='{permission}' WHERE FolderID ={item} AND LocalGroupID ={id}"_L1,
     },
+};
+
+constexpr RelationStatements groupGlobalGroups = {
+    "DELETE FROM Tbl_LocalGroupsGlobalGroups WHERE LocalGroupID={id}"_L1,
+    {},
+    "INSERT INTO Tbl_LocalGroupsGlobalGroups(LocalGroupID,GlobalGroupID) VALUES ({id},{item})"_L1,
 };
 
 /// A batch of memberships by name: the fields of its records, its statements and what it says
@@ -189,9 +194,7 @@ void addGroup(StoreSession &store, GroupKind kind, const QString &server, const 
         raise(RuleViolation, alreadyExists[kind]);
     store.execute(
         joined(insert[kind], {{"name"_L1, name}, {"server"_L1, server}, {"description"_L1, description}}));
-    const Value newId = store.scalar(newest[kind]);
-    if (!newId.isNull())
-        id = int(newId.toInteger());
+    id = int(store.scalar(newest[kind]).toInteger());
 }
 
 void updateGroup(StoreSession &store, GroupKind kind, int id, const QString &server, const QString &name,
@@ -225,15 +228,19 @@ void addGroups(StoreSession &store, GroupKind kind, jet::Recordset &records, boo
     }
 }
 
-void writeGroupUsers(StoreSession &store, GroupKind kind, int id, std::span<const int> users)
+const RelationStatements &usersOfGroup(GroupKind kind)
 {
-    writeRelations(store, groupUsers[kind], id, users, {}, true);
+    return groupUsers[kind];
 }
 
-void writeGroupFolders(StoreSession &store, GroupKind kind, int id, std::span<const int> folders,
-                       const QStringList &permissions, bool clearFirst)
+const RelationStatements &foldersOfGroup(GroupKind kind)
 {
-    writeRelations(store, groupFolders[kind], id, folders, permissions, clearFirst);
+    return groupFolders[kind];
+}
+
+const RelationStatements &globalGroupsOfGroup()
+{
+    return groupGlobalGroups;
 }
 
 void addGroupUsers(StoreSession &store, GroupKind kind, jet::Recordset &records, QString &errorText,

@@ -1,17 +1,15 @@
 #pragma once
 
 #include "store/batchrecords.h"
+#include "store/relations.h"
 
-#include <QLatin1StringView>
 #include <QString>
-#include <QStringList>
-
-#include <span>
 
 class StoreSession;
 
-/// Global and local groups take the same steps over tables of their own. The steps are told
-/// here once, with the statements and messages of the two side by side.
+// Global and local groups take the same steps over tables of their own. The steps are told
+// here once, with the statements and messages of the two side by side.
+
 enum class GroupKind { Global, Local };
 
 /// Raises RuleViolation when name and server are taken. The id of the new group is handed back.
@@ -24,9 +22,12 @@ void updateGroup(StoreSession &store, GroupKind kind, int id, const QString &ser
 /// one gets the description unless existing ones are left. Ends at the first failure.
 void addGroups(StoreSession &store, GroupKind kind, jet::Recordset &records, bool leaveExisting);
 
-void writeGroupUsers(StoreSession &store, GroupKind kind, int id, std::span<const int> users);
-void writeGroupFolders(StoreSession &store, GroupKind kind, int id, std::span<const int> folders,
-                       const QStringList &permissions, bool clearFirst);
+/// Users and permissions from the side of a group. A repeated user counts once; a permission that is there is
+/// overwritten.
+[[nodiscard]] const RelationStatements &usersOfGroup(GroupKind kind);
+[[nodiscard]] const RelationStatements &foldersOfGroup(GroupKind kind);
+/// The global groups in a local group.
+[[nodiscard]] const RelationStatements &globalGroupsOfGroup();
 
 /// Adds users to groups, both by name and server: fields UserName, UserServer, GroupName and
 /// GroupServer. What is not in the store gets an entry of the error text; ends at the first

@@ -1,10 +1,103 @@
 #include "store/recordclass.h"
 
-void RecordClass::closeAfter(const Error &failure, StoreSession &store)
+#include "platform/jet/errors.h"
+#include "platform/jet/recordset.h"
+#include "store/statement.h"
+#include "store/storesession.h"
+
+namespace {
+
+/// Keeps what was written before a failure; that it could not is told along with it.
+void closeAfter(const Error &failure, StoreSession &store)
 {
     try {
         store.close();
+    } catch (const jet::ChangesLost &second) {
+        throw jet::ChangesLost(failure.number(), failure.description() + u' ' + second.description());
     } catch (const Error &second) {
         raise(failure.number(), failure.description() + u' ' + second.description());
     }
+}
+
+} // namespace
+
+void RecordClass::keepingErrors(const std::function<void()> &work)
+{
+    try {
+        work();
+    } catch (const Error &error) {
+        m_error.set(error);
+        throw;
+    }
+}
+
+void RecordClass::withStore(const QString &connectionString, const std::function<void(StoreSession &)> &work)
+{
+    keepingErrors([&] {
+        StoreSession store(connectionString);
+        try {
+            work(store);
+        } catch (const Error &error) {
+            closeAfter(error, store);
+            throw;
+        }
+        store.close();
+    });
+}
+
+void RecordClass::read(const QString &connectionString, jet::Recordset &result, const QString &sql)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        store.open(sql, result);
+        try {
+            store.close();
+        } catch (const Error &) {
+            // The rows may be of changes that are lost.
+            result.close();
+            throw;
+        }
+    });
+}
+
+void RecordClass::write(const QString &connectionString, const QString &sql)
+{
+    withStore(connectionString, [&](StoreSession &store) { store.execute(sql); });
+}
+
+void RecordClass::writeUnlessFound(const QString &connectionString, const QString &test,
+                                   QLatin1StringView refusal, const QString &statement)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        if (store.exists(test))
+            raise(RuleViolation, refusal);
+        store.execute(statement);
+    });
+}
+
+void RecordClass::writeForEach(const QString &connectionString, std::span<const int> ids,
+                               std::initializer_list<QLatin1StringView> statements)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        for (const int id : ids) {
+            for (const QLatin1StringView statement : statements)
+                store.execute(withId(statement, id));
+        }
+    });
+}
+
+void RecordClass::writeRelations(const QString &connectionString, const RelationStatements &statements,
+                                 int id, std::span<const int> items, const QStringList &permissions,
+                                 bool clearFirst)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        if (clearFirst)
+            clearRelations(store, statements, id);
+        addRelations(store, statements, id, items, permissions);
+    });
+}
+
+void RecordClass::replaceRelations(const QString &connectionString, const RelationStatements &statements,
+                                   int id, std::span<const int> items)
+{
+    writeRelations(connectionString, statements, id, items, {}, true);
 }

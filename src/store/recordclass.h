@@ -1,15 +1,21 @@
 #pragma once
 
 #include "base/error.h"
-#include "store/storesession.h"
+#include "store/relations.h"
 
 #include <QLatin1StringView>
+#include <QString>
+
+#include <functional>
+#include <initializer_list>
+#include <span>
 
 /// What the record classes have in common: they hold nothing between calls but the last
 /// failure, and each method visits the store once, with a connection of its own.
 class RecordClass
 {
 public:
+    /// Of the last failure: a later success leaves them as they are.
     [[nodiscard]] int errorNumber() const { return m_error.number; }
     [[nodiscard]] const QString &errorDescription() const { return m_error.description; }
 
@@ -17,61 +23,32 @@ protected:
     RecordClass() = default;
     ~RecordClass() = default;
 
-    /// Runs the work over a new session. A failure, the opening's too, is kept in the two
-    /// error fields and raised again.
-    template <typename Work>
-    void withStore(const QString &connectionString, Work &&work)
-    {
-        try {
-            StoreSession store(connectionString);
-            try {
-                work(store);
-            } catch (const Error &error) {
-                closeAfter(error, store);
-                throw;
-            }
-            store.close();
-        } catch (const Error &error) {
-            m_error.set(error);
-            throw;
-        }
-    }
+    /// Runs the work. A failure is kept in the two error fields and raised again.
+    void keepingErrors(const std::function<void()> &work);
+    /// The same over a new session, whose opening may fail, too; what was written before a failure
+    /// stays.
+    void withStore(const QString &connectionString, const std::function<void(StoreSession &)> &work);
 
-    /// The shape of a reading method.
-    void read(const QString &connectionString, jet::Recordset &result, const QString &sql)
-    {
-        withStore(connectionString, [&](StoreSession &store) {
-            store.open(sql, result);
-            try {
-                store.close();
-            } catch (const Error &) {
-                result.close();
-                throw;
-            }
-        });
-    }
+    // The shapes of the methods.
 
-    /// The shape of a method that runs one statement, whatever the store holds.
-    void write(const QString &connectionString, const QString &sql)
-    {
-        withStore(connectionString, [&](StoreSession &store) { store.execute(sql); });
-    }
-
-    /// The shape of a method that writes one row under a rule: raises RuleViolation with the
-    /// refusal, and writes nothing, when the test finds a row.
+    /// Opens the caller's recordset, which is closed again when the method fails.
+    void read(const QString &connectionString, jet::Recordset &result, const QString &sql);
+    /// One statement, whatever the store holds.
+    void write(const QString &connectionString, const QString &sql);
+    /// One row under a rule: raises RuleViolation with the refusal, and writes nothing, when the
+    /// test finds a row.
     void writeUnlessFound(const QString &connectionString, const QString &test, QLatin1StringView refusal,
-                          const QString &statement)
-    {
-        withStore(connectionString, [&](StoreSession &store) {
-            if (store.exists(test))
-                raise(RuleViolation, refusal);
-            store.execute(statement);
-        });
-    }
+                          const QString &statement);
+    /// The statements, whose one marker is {id}, in their order for one id after the other.
+    void writeForEach(const QString &connectionString, std::span<const int> ids,
+                      std::initializer_list<QLatin1StringView> statements);
+    /// One permission an item. The object keeps its other rows unless they are cleared first.
+    void writeRelations(const QString &connectionString, const RelationStatements &statements, int id,
+                        std::span<const int> items, const QStringList &permissions, bool clearFirst);
+    /// The items become the object's only ones.
+    void replaceRelations(const QString &connectionString, const RelationStatements &statements, int id,
+                          std::span<const int> items);
 
 private:
-    /// What was written before a failure stays; that it could not is told along with it.
-    static void closeAfter(const Error &failure, StoreSession &store);
-
     CurrentError m_error;
 };

@@ -32,13 +32,16 @@ Value folderId(StoreSession &store, const QString &path)
 
 } // namespace
 
-void writeRelations(StoreSession &store, const RelationStatements &statements, int id,
-                    std::span<const int> items, const QStringList &permissions, bool clearFirst)
+void clearRelations(StoreSession &store, const RelationStatements &statements, int id)
+{
+    store.execute(withId(statements.clear, id));
+}
+
+void addRelations(StoreSession &store, const RelationStatements &statements, int id,
+                  std::span<const int> items, const QStringList &permissions)
 {
     Q_ASSERT(permissions.size() == qsizetype(items.size()) || !statements.insert.contains("{permission}"_L1));
     const QString object = QString::number(id);
-    if (clearFirst)
-        store.execute(joined(statements.clear, {{"id"_L1, object}}));
     for (std::size_t i = 0; i < items.size(); ++i) {
         const QString item = QString::number(items[i]);
         const QString permission = permissions.value(qsizetype(i));
@@ -52,16 +55,7 @@ void writeRelations(StoreSession &store, const RelationStatements &statements, i
     }
 }
 
-void executeForEach(StoreSession &store, std::span<const int> ids,
-                    std::initializer_list<QLatin1StringView> statements)
-{
-    for (const int id : ids) {
-        for (const QLatin1StringView statement : statements)
-            store.execute(withId(statement, id));
-    }
-}
-
-Permissions takeFolderPermissions(StoreSession &store, jet::Recordset &records, QString &failed)
+Permissions findOrAddFolders(StoreSession &store, jet::Recordset &records, QString &failed)
 {
     enum { Name, Permission };
     Permissions taken;

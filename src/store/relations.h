@@ -5,7 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <initializer_list>
 #include <span>
 
 namespace jet {
@@ -23,15 +22,12 @@ struct RelationStatements
     QLatin1StringView update{}; ///< empty: a row that is there stays as it is
 };
 
-/// Relates the items to the object, in their order, after its rows have been cleared if so
-/// told. The permissions, where the table has them, are as many as the items.
-void writeRelations(StoreSession &store, const RelationStatements &statements, int id,
-                    std::span<const int> items, const QStringList &permissions, bool clearFirst);
-
-/// Runs the statements, whose one marker is {id}, in their order for one id after the other.
-void executeForEach(StoreSession &store, std::span<const int> ids,
-                    std::initializer_list<QLatin1StringView> statements);
-
+/// Takes all rows of the object away.
+void clearRelations(StoreSession &store, const RelationStatements &statements, int id);
+/// Relates the items to the object, in their order, beside what it has. The permissions, where
+/// the table has them, are as many as the items.
+void addRelations(StoreSession &store, const RelationStatements &statements, int id,
+                  std::span<const int> items, const QStringList &permissions = {});
 /// Folders or accounts by id, and a permission for each.
 struct Permissions
 {
@@ -45,7 +41,7 @@ struct Permissions
     }
 };
 
-/// Takes the records, fields Name (path of a folder) and Permission. A folder not known yet is
-/// added; one that cannot be is named, with a comma, in the failed text and left out.
-[[nodiscard]] Permissions takeFolderPermissions(StoreSession &store, jet::Recordset &records,
-                                                QString &failed);
+/// The folders and permissions of the records, fields Name (path of a folder, as it stands) and
+/// Permission. A folder not known yet is added to the store; one that cannot be is named, with a
+/// comma, in the failed text and left out. Raises what is wrong with the store.
+[[nodiscard]] Permissions findOrAddFolders(StoreSession &store, jet::Recordset &records, QString &failed);

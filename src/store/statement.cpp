@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-QString joined(QLatin1StringView text, std::initializer_list<Filling> fillings)
+QString joined(QLatin1StringView text, std::span<const Filling> fillings)
 {
     qsizetype size = text.size();
     for (const Filling &filling : fillings)
@@ -25,6 +25,11 @@ QString joined(QLatin1StringView text, std::initializer_list<Filling> fillings)
     }
     sql += text.sliced(from);
     return sql;
+}
+
+QString joined(QLatin1StringView text, std::initializer_list<Filling> fillings)
+{
+    return joined(text, std::span(fillings.begin(), fillings.size()));
 }
 
 QString withId(QLatin1StringView text, qint64 id)

@@ -5,6 +5,7 @@
 #include <QStringView>
 
 #include <initializer_list>
+#include <span>
 
 /// A value and the marker it takes the place of.
 struct Filling
@@ -17,6 +18,7 @@ struct Filling
 /// by its value as it stands: nothing is escaped, and a value is not looked into for markers.
 /// All statements made of one text differ in their literals alone, so the store compiles
 /// them once.
+[[nodiscard]] QString joined(QLatin1StringView text, std::span<const Filling> fillings);
 [[nodiscard]] QString joined(QLatin1StringView text, std::initializer_list<Filling> fillings);
 
 /// The same for a statement whose only marker is {id}.

@@ -10,6 +10,9 @@
 
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <initializer_list>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -47,6 +50,28 @@ constexpr Relationship relationships[] = {
     {"Tbl_HW"_L1, "HWTypeID"_L1, "Tbl_HWType"_L1, "ID"_L1},
 };
 
+/// What tells the rows of a table from each other. No index holds the store to it: the rules are tested
+/// before each write, which two programs may do at the same moment.
+struct Key
+{
+    QLatin1StringView table;
+    std::initializer_list<QLatin1StringView> columns;
+};
+
+const Key keys[] = {
+    {"Tbl_Users"_L1, {"UserID"_L1}},
+    {"Tbl_Users"_L1, {"UserName"_L1, "ServerName"_L1}},
+    {"Tbl_GlobalGroups"_L1, {"Name"_L1, "Server"_L1}},
+    {"Tbl_LocalGroups"_L1, {"Name"_L1, "Server"_L1}},
+    {"Tbl_Folders"_L1, {"FolderName"_L1}},
+    {"Tbl_FolderDefaultPermissions"_L1, {"Account"_L1}},
+    {"Tbl_HWType"_L1, {"Type"_L1, "Manufacturer"_L1, "Model"_L1, "TypeNumber"_L1}},
+    {"Tbl_HW"_L1, {"SerialNumber"_L1, "HWTypeID"_L1}},
+    {"Tbl_SW"_L1, {"Type"_L1, "Manufacturer"_L1, "Name"_L1, "Version"_L1}},
+    {"Tbl_Rooms"_L1, {"RoomNumber"_L1}},
+    {"Tbl_CustomQuery"_L1, {"Name"_L1}},
+};
+
 /// By name without regard to case; null when there is none.
 template <typename Named>
 const Named *named(const std::vector<Named> &all, QStringView name)
@@ -63,7 +88,7 @@ std::vector<jet::StoredTable> expectedTables()
 {
     const QTemporaryDir folder;
     if (!folder.isValid())
-        raise(FileAccessError, "A store to compare with could not be made: "_L1 + folder.errorString());
+        raise(FileAccessError, folder.errorString());
     const QString path = folder.filePath(u"new.mdb"_s);
     createStore(path);
     jet::Connection connection;
@@ -86,7 +111,15 @@ void compareParts(QLatin1StringView kind, const QString &table, const std::vecto
 
 void compareTables(const std::vector<jet::StoredTable> &found, QStringList &findings)
 {
-    for (const jet::StoredTable &table : expectedTables()) {
+    std::vector<jet::StoredTable> expected;
+    try {
+        expected = expectedTables();
+    } catch (const Error &error) {
+        findings.append("The tables could not be compared with those of a new store: "_L1 +
+                        error.description());
+        return;
+    }
+    for (const jet::StoredTable &table : expected) {
         const jet::StoredTable *const twin = named(found, table.name);
         if (twin == nullptr) {
             findings.append("Table "_L1 + table.name + " is missing."_L1);
@@ -121,6 +154,26 @@ void countLooseRows(jet::Connection &connection, const Relationship &relationshi
                     " that is not in "_L1 + relationship.target + u'.');
 }
 
+/// Each value that more than one row has for a key that is not Null.
+void findRepeatedKeys(jet::Connection &connection, const Key &key, QStringList &findings)
+{
+    const QStringList columns(key.columns.begin(), key.columns.end());
+    const QString list = columns.join(", "_L1);
+    const QString given = columns.join(" Is Not Null AND "_L1);
+    jet::Recordset result;
+    result.open(joined("SELECT {list}, Count(*) FROM {table} WHERE {given} Is Not Null GROUP BY {list} "
+                       "HAVING Count(*) > 1 ORDER BY {list}"_L1,
+                       {{"list"_L1, list}, {"table"_L1, QString(key.table)}, {"given"_L1, given}}),
+                connection);
+    for (; !result.eof(); result.moveNext()) {
+        QStringList values;
+        for (int i = 0; i < int(columns.size()); ++i)
+            values.append(columns[i] + u' ' + result.value(i).toText());
+        findings.append("Table "_L1 + key.table + ": "_L1 + result.value(int(columns.size())).toText() +
+                        " rows have the "_L1 + values.join(", "_L1) + u'.');
+    }
+}
+
 } // namespace
 
 QStringList checkStore(const QString &path)
@@ -138,15 +191,22 @@ QStringList checkStore(const QString &path)
         return findings;
     }
     compareTables(tables, findings);
-    for (const Relationship &relationship : relationships) {
-        if (!has(tables, relationship.table, relationship.column) ||
-            !has(tables, relationship.target, relationship.id))
-            continue; // told already
+    const auto readTable = [&findings](QLatin1StringView table, const auto &step) {
         try {
-            countLooseRows(connection, relationship, findings);
+            step();
         } catch (const Error &error) {
-            findings.append("Table "_L1 + relationship.table + " cannot be read: "_L1 + error.description());
+            findings.append("Table "_L1 + table + " cannot be read: "_L1 + error.description());
         }
+    };
+    // What lacks a table or a column was told already.
+    for (const Key &key : keys) {
+        if (std::ranges::all_of(key.columns, [&](auto column) { return has(tables, key.table, column); }))
+            readTable(key.table, [&] { findRepeatedKeys(connection, key, findings); });
+    }
+    for (const Relationship &relationship : relationships) {
+        if (has(tables, relationship.table, relationship.column) &&
+            has(tables, relationship.target, relationship.id))
+            readTable(relationship.table, [&] { countLooseRows(connection, relationship, findings); });
     }
     return findings;
 }

@@ -80,11 +80,6 @@ void refuseTakenPlace(const QString &path)
 
 } // namespace
 
-void createStore(const QString &path)
-{
-    createStore(path, [](StoreSession &) {});
-}
-
 void createStore(const QString &path, const std::function<void(StoreSession &)> &fill)
 {
     refuseTakenPlace(path);
@@ -94,7 +89,8 @@ void createStore(const QString &path, const std::function<void(StoreSession &)> 
         StoreSession store(jet::connectionString(draft.path()));
         for (const QString &statement : schemaStatements())
             store.execute(statement);
-        fill(store);
+        if (fill)
+            fill(store);
         store.close();
     }
     draft.moveToTarget();

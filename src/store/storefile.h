@@ -6,11 +6,8 @@
 
 class StoreSession;
 
-/// Makes a new store with all tables and no rows. The store is built beside the path and
-/// moved there when it is complete, so a failure leaves nothing behind and nobody ever
-/// opens half a store. Raises jet::Failure when the path exists already or cannot be
-/// written.
-void createStore(const QString &path);
-
-/// The same with first rows: they are part of what is complete or not there at all.
-void createStore(const QString &path, const std::function<void(StoreSession &)> &fill);
+/// Makes a new store with all tables and the rows that the filling writes. The store is built
+/// beside the path and moved there when it is complete, so a failure leaves nothing behind and
+/// nobody ever opens half a store. Raises jet::Failure when the path exists already or cannot
+/// be written, and what the filling raises.
+void createStore(const QString &path, const std::function<void(StoreSession &)> &fill = {});

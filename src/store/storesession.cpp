@@ -4,8 +4,7 @@
 
 StoreSession::StoreSession(const QString &connectionString)
 {
-    m_connection.open(connectionString, QString(), QString(), -1);
-    m_command.commandType = jet::CommandTypeText;
+    m_connection.open(connectionString);
     m_command.setActiveConnection(&m_connection);
 }
 
@@ -33,7 +32,7 @@ void StoreSession::executeSkippingErrors(QString sql)
 
 bool StoreSession::exists(const QString &sql)
 {
-    openTest(sql);
+    m_test.open(sql, m_connection);
     const bool found = !m_test.eof();
     m_test.close();
     return found;
@@ -41,7 +40,7 @@ bool StoreSession::exists(const QString &sql)
 
 Value StoreSession::scalar(const QString &sql)
 {
-    openTest(sql);
+    m_test.open(sql, m_connection);
     Value value = m_test.eof() ? Value() : m_test.value(0);
     m_test.close();
     return value;
@@ -49,13 +48,6 @@ Value StoreSession::scalar(const QString &sql)
 
 void StoreSession::open(const QString &sql, jet::Recordset &result)
 {
-    result.open(sql, m_connection, -1, -1, -1);
+    result.open(sql, m_connection);
     result.setActiveConnection(nullptr);
-}
-
-void StoreSession::openTest(const QString &sql)
-{
-    if (m_test.state() != jet::StateClosed)
-        m_test.close();
-    m_test.open(sql, m_connection, -1, -1, -1);
 }

@@ -11,11 +11,13 @@
 class StoreSession final
 {
 public:
+    /// Raises what jet::Connection raises for a store that does not open; the others raise what
+    /// jet::Command and jet::Recordset raise for a statement.
     explicit StoreSession(const QString &connectionString);
 
-    /// Ends the visit and raises what writing the last changes to the disk met with. A session
-    /// closed already has nothing to tell, one
-    /// that is given up without it keeps its changes, but has no one to tell of a failure.
+    /// Ends the visit and raises what writing the last changes to the disk met with; closing again
+    /// does nothing. A session destroyed without it keeps its changes, but has no one to tell of a
+    /// failure.
     void close();
 
     void execute(QString sql);
@@ -25,12 +27,11 @@ public:
     [[nodiscard]] bool exists(const QString &sql);
     /// The first field of the first row; Null when there is no row.
     [[nodiscard]] Value scalar(const QString &sql);
-    /// Opens the caller's recordset and detaches it: its rows outlive the session.
+    /// Opens the caller's recordset, which must be closed, and detaches it: its rows outlive the
+    /// session.
     void open(const QString &sql, jet::Recordset &result);
 
 private:
-    void openTest(const QString &sql);
-
     jet::Connection m_connection;
     jet::Command m_command;
     jet::Recordset m_test;

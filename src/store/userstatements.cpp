@@ -106,6 +106,15 @@ void appendValue(QString &sql, const UserColumn &column, const QString &value, E
     sql += u'\'';
 }
 
+// clang-format off
+constexpr RelationStatements userFolders = {
+    "DELETE FROM Tbl_UserFolderPermission WHERE UserID={id}"_L1,
+    "SELECT Permission FROM Tbl_UserFolderPermission WHERE UserID = {id} AND FolderID= {item}"_L1,
+    "INSERT INTO Tbl_UserFolderPermission(UserID,FolderID,Permission) VALUES ({id},{item},'{permission}')"_L1,
+    "UPDATE Tbl_UserFolderPermission SET Permission ='{permission}' WHERE UserID = {id} AND FolderID = {item}"_L1,
+};
+// clang-format on
+
 } // namespace
 
 std::span<const UserColumn> userColumns()
@@ -173,6 +182,11 @@ QList<QString> userValues(const UserRecord &user)
             values.append(QString::number(user.*std::get<int UserRecord::*>(column.member)));
     }
     return values;
+}
+
+const RelationStatements &foldersOfUser()
+{
+    return userFolders;
 }
 
 int nextUserId(StoreSession &store)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/relations.h"
 #include "store/userrecord.h"
 
 #include <QLatin1StringView>
@@ -25,15 +26,15 @@ struct UserColumn
 [[nodiscard]] std::span<const UserColumn> userColumns();
 /// What an import from the live system inserts: UserID to ServerName.
 [[nodiscard]] std::span<const UserColumn> liveColumns();
-/// What it updates: UserID to SID.
+/// What it updates: UserID to SID, which a user gets with the first update.
 [[nodiscard]] std::span<const UserColumn> liveUpdateColumns();
 /// What a line of an import file holds, in its order.
 [[nodiscard]] std::span<const UserColumn> fileColumns();
 
 enum class Escaping { None, Batch };
 
-/// The texts of the two statements that write a row, with at least one value a column. The update ends
-/// before its WHERE.
+/// The texts of the two statements that write a row, with at least one value a column (what is inserted
+/// begins what is updated). The update ends before its WHERE.
 [[nodiscard]] QString insertUser(std::span<const UserColumn> columns, std::span<const QString> values,
                                  Escaping escaping = Escaping::None);
 [[nodiscard]] QString updateUser(std::span<const UserColumn> columns, std::span<const QString> values,
@@ -42,6 +43,10 @@ enum class Escaping { None, Batch };
 /// The values of all columns, in their order.
 [[nodiscard]] QList<QString> userValues(const UserRecord &user);
 
-/// One above the highest UserID, 1 in an empty store. Raises jet::TypeMismatch when the
+/// The permissions from the side of a user. One that is there is overwritten.
+[[nodiscard]] const RelationStatements &foldersOfUser();
+
+/// One above the highest UserID, 1 in an empty store: the id
+/// of a deleted user may be given again, with the rows that stayed behind. Raises jet::TypeMismatch when the
 /// numbers have run out.
 [[nodiscard]] int nextUserId(StoreSession &store);

@@ -1,3 +1,5 @@
+#include "assets/clsHW.h"
+#include "assets/clsRooms.h"
 #include "folders/clsFolders.h"
 #include "jet/failingvfs.h"
 #include "platform/jet/inspection.h"
@@ -30,6 +32,8 @@ struct Writer
 constexpr int userIds[] = {13, 12, 11};
 constexpr int folderIds[] = {42, 43};
 constexpr int defaultIds[] = {1};
+constexpr int itemIds[] = {61, 62};
+constexpr int roomIds[] = {81, 83};
 
 void folderRecords(jet::Recordset &records)
 {
@@ -73,6 +77,17 @@ constexpr Writer writers[] = {
     {"PermissionsAnew",
      [](const QString &store, QString &) {
          clsUsers().addFolders(store, 12, folderIds, {u"CH"_s, u"L"_s}, true);
+     }},
+    {"ItemsOfARoom", [](const QString &store, QString &) { clsRooms().addHW(store, 82, itemIds, true); }},
+    {"RoomsOfAnItem", [](const QString &store, QString &) { clsHW().addRooms(store, 61, roomIds, true); }},
+    {"GroupBatch",
+     [](const QString &store, QString &) {
+         jet::Recordset records;
+         makeRecords(records, {u"Name"_s, u"Server"_s, u"Description"_s},
+                     {{u"New"_s, u"DC01"_s, u"n"_s},
+                      {u"Staff"_s, u"DC01"_s, u"s"_s},
+                      {u"Newer"_s, u"DC02"_s, u"r"_s}});
+         clsGlobalGroups().AddBatch(store, records, false);
      }},
     {"MembershipBatch",
      [](const QString &store, QString &told) {
@@ -118,13 +133,19 @@ using Case = std::tuple<Fault, Writer>;
 class FailingStoreTest : public CompanyTest, public testing::WithParamInterface<Case>
 {
 protected:
-    /// What a store says, in names: whatever id a row got, it must stand for the same things.
-    static Rows told(const QString &store)
+    /// What lies in a store, in names: whatever id a row got, it must stand for the same things.
+    static Rows contentOf(const QString &store)
     {
         Rows all;
+        StoreSession session(store);
         for (const QString &query : {
                  u"SELECT 'user', UserName, ServerName FROM Tbl_Users"_s,
                  u"SELECT 'folder', FolderName, Description FROM Tbl_Folders"_s,
+                 u"SELECT 'group', Name, Server, Description FROM Tbl_GlobalGroups"_s,
+                 u"SELECT 'item in', RoomID, HWID FROM Tbl_RoomHW"_s,
+                 u"SELECT 'item of', UserID, HWID FROM Tbl_UserHW"_s,
+                 u"SELECT 'item with', HWID, SWID FROM Tbl_SWHW"_s,
+                 u"SELECT 'group in', LocalGroupID, GlobalGroupID FROM Tbl_LocalGroupsGlobalGroups"_s,
                  u"SELECT 'default', Account, Permission FROM Tbl_FolderDefaultPermissions"_s,
                  u"SELECT 'in global', g.Name, u.UserName FROM (Tbl_GlobalGroupsUsers AS m "
                  "LEFT JOIN Tbl_GlobalGroups AS g ON m.GlobalGroupID = g.ID) "
@@ -147,7 +168,7 @@ protected:
                  "LEFT JOIN Tbl_Folders AS f ON p.FolderID = f.ID"_s,
              }) {
             jet::Recordset records;
-            StoreSession(store).open(query, records);
+            session.open(query, records);
             all += rowsOf(records);
         }
         std::ranges::sort(all);
@@ -183,11 +204,11 @@ TEST_P(FailingStoreTest, WhatIsNotWrittenIsTold)
 {
     const auto &[fault, writer] = GetParam();
     run(u"INSERT INTO Tbl_FolderDefaultPermissions (Account, Permission) VALUES ('SYSTEM', 'R')"_s);
-    const Rows before = told(connection);
+    const Rows before = contentOf(connection);
     const QString done = jet::connectionString(copy(u"done.mdb"_s));
     QString unused;
     writer.write(done, unused);
-    const Rows after = told(done);
+    const Rows after = contentOf(done);
     Rows either;
     std::ranges::set_union(before, after, std::back_inserter(either));
 
@@ -209,7 +230,7 @@ TEST_P(FailingStoreTest, WhatIsNotWrittenIsTold)
         disk.plan({});
 
         ASSERT_EQ(faultsOf(store), QStringList()) << "call " << call;
-        const Rows content = told(store);
+        const Rows content = contentOf(store);
         ASSERT_EQ(lacking(content, either), Rows()) << "neither old nor asked for, at call " << call;
         if (complaint.isEmpty()) {
             ASSERT_EQ(content, after) << "lost without a word at call " << call;
@@ -220,7 +241,7 @@ TEST_P(FailingStoreTest, WhatIsNotWrittenIsTold)
         } catch (const Error &error) {
             ASSERT_EQ(content, after) << error.what() << " at call " << call;
         }
-        ASSERT_EQ(told(store), after) << "not mended by a second try, at call " << call;
+        ASSERT_EQ(contentOf(store), after) << "not mended by a second try, at call " << call;
         QFile::remove(file);
     }
     EXPECT_FALSE(failed);

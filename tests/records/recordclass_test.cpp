@@ -5,9 +5,11 @@
 #include "store/clsGlobalGroups.h"
 #include "store/clsLocalGroups.h"
 #include "store/clsUsers.h"
+#include "store/statement.h"
 #include "support/companytest.h"
 
 #include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +26,17 @@ protected:
     clsRooms rooms;
 };
 
+/// The error that a method of a new object raises, which the object must keep.
+template <typename Records, typename Step>
+CurrentError errorKeptOf(Step step)
+{
+    Records records;
+    const CurrentError error = errorOf([&] { step(records); });
+    EXPECT_EQ(records.errorNumber(), error.number);
+    EXPECT_EQ(records.errorDescription(), error.description);
+    return error;
+}
+
 } // namespace
 
 TEST_F(RecordClassTest, AMissingStoreIsToldAndKept)
@@ -36,31 +49,32 @@ TEST_F(RecordClassTest, AMissingStoreIsToldAndKept)
     UserRecord user;
     QString text;
     int id = 0;
-    const struct
-    {
-        const RecordClass &records;
-        std::function<void()> step;
-    } cases[] = {
-        {users, [&] { users.TestConnection(nowhere); }},
-        {users, [&] { users.getAll(nowhere, records); }},
-        {users, [&] { users.Add(nowhere, user); }},
-        {users, [&] { users.addRooms(nowhere, 1, QList<int>{1}); }},
-        {globalGroups, [&] { globalGroups.Add(nowhere, u"S"_s, u"N"_s, {}, id); }},
-        {globalGroups, [&] { globalGroups.Delete(nowhere, QList<int>{1}); }},
-        {localGroups, [&] { localGroups.AddBatch(nowhere, objects, false); }},
-        {folders, [&] { folders.Add(nowhere, u"C:\\Data"_s, {}); }},
-        {folders, [&] { text += folders.addPermittedObjects(nowhere, u"D:\\Data\\"_s, objects); }},
-        {folders, [&] { folders.AddBatch(nowhere, {u"C:\\Data"_s}, {QString()}, false, text); }},
-        {folders,
-         [&] { folders.AddPermissionsBatch(nowhere, {u"D:"_s}, {u"n"_s}, {u"s"_s}, {u"R"_s}, text); }},
-        {hardware, [&] { hardware.Delete(nowhere, 1); }},
+    const std::pair<const char *, CurrentError> cases[] = {
+        {"TestConnection", errorKeptOf<clsUsers>([&](auto &all) { all.TestConnection(nowhere); })},
+        {"getAll", errorKeptOf<clsUsers>([&](auto &all) { all.getAll(nowhere, records); })},
+        {"Add of a user", errorKeptOf<clsUsers>([&](auto &all) { all.Add(nowhere, user); })},
+        {"addRooms", errorKeptOf<clsUsers>([&](auto &all) { all.addRooms(nowhere, 1, QList<int>{1}); })},
+        {"Add of a group",
+         errorKeptOf<clsGlobalGroups>([&](auto &all) { all.Add(nowhere, u"S"_s, u"N"_s, {}, id); })},
+        {"Delete of a group",
+         errorKeptOf<clsGlobalGroups>([&](auto &all) { all.Delete(nowhere, QList<int>{1}); })},
+        {"AddBatch of groups",
+         errorKeptOf<clsLocalGroups>([&](auto &all) { all.AddBatch(nowhere, objects, false); })},
+        {"Add of a folder", errorKeptOf<clsFolders>([&](auto &all) { all.Add(nowhere, u"C:\\Data"_s, {}); })},
+        {"addPermittedObjects", errorKeptOf<clsFolders>([&](auto &all) {
+             text += all.addPermittedObjects(nowhere, u"D:\\Data\\"_s, objects);
+         })},
+        {"AddBatch of folders", errorKeptOf<clsFolders>([&](auto &all) {
+             all.AddBatch(nowhere, {u"C:\\Data"_s}, {QString()}, false, text);
+         })},
+        {"AddPermissionsBatch", errorKeptOf<clsFolders>([&](auto &all) {
+             all.AddPermissionsBatch(nowhere, {u"D:"_s}, {u"n"_s}, {u"s"_s}, {u"R"_s}, text);
+         })},
+        {"Delete of hardware", errorKeptOf<clsHW>([&](auto &all) { all.Delete(nowhere, 1); })},
     };
-    for (const auto &c : cases) {
-        const CurrentError error = errorOf(c.step);
-        EXPECT_EQ(error.number, jet::Failure);
-        EXPECT_TRUE(error.description.contains(u"nowhere.kvs")) << error.description.toStdString();
-        EXPECT_EQ(c.records.errorNumber(), error.number);
-        EXPECT_EQ(c.records.errorDescription(), error.description);
+    for (const auto &[name, error] : cases) {
+        EXPECT_EQ(error.number, jet::Failure) << name;
+        EXPECT_TRUE(error.description.contains(u"nowhere.kvs")) << name << error.description.toStdString();
     }
     EXPECT_EQ(text, QString());
     EXPECT_FALSE(QFile::exists(folder.filePath(u"nowhere.kvs"_s)));
@@ -71,39 +85,50 @@ TEST_F(RecordClassTest, WhatWasDoneBeforeAFailureStays)
 {
     const struct
     {
+        const char *name;
         const char *dropped;
         std::function<void()> step;
         const char *changed;
         Rows left;
     } cases[] = {
-        {"Tbl_SWHW",
+        {"Items of a room",
+         "Tbl_SWHW",
          [&] {
              rooms.addHW(connection, 82, QList<int>{62, 61}, true);
          },
          "Tbl_RoomHW",
          {u"81|64"_s, u"82|62"_s}},
-        {"Tbl_UserHW",
+        {"An item of a room",
+         "Tbl_UserHW",
          [&] { rooms.addHW(connection, 82, QList<int>{62}, false); },
          "Tbl_RoomHW",
          {u"81|64"_s}},
-        {"Tbl_UserHW",
+        {"Rooms of an item",
+         "Tbl_UserHW",
          [&] { hardware.addRooms(connection, 64, QList<int>{83}, false); },
          "Tbl_RoomHW",
          {u"81|62"_s}},
-        {"Tbl_Rooms", [&] { rooms.Delete(connection, 81); }, "Tbl_RoomUsers", {u"82|12"_s, u"83|13"_s}},
-        {"Tbl_GlobalGroups",
+        {"Delete of a room",
+         "Tbl_Rooms",
+         [&] { rooms.Delete(connection, 81); },
+         "Tbl_RoomUsers",
+         {u"82|12"_s, u"83|13"_s}},
+        {"Delete of global groups",
+         "Tbl_GlobalGroups",
          [&] {
              globalGroups.Delete(connection, QList<int>{21, 22});
          },
          "Tbl_LocalGroupsGlobalGroups",
          {u"32|22"_s, u"33|23"_s}},
-        {"Tbl_LocalGroupFolderPermission",
+        {"Delete of local groups",
+         "Tbl_LocalGroupFolderPermission",
          [&] {
              localGroups.Delete(connection, QList<int>{32, 33});
          },
          "Tbl_LocalGroupsGlobalGroups",
          {u"31|21"_s, u"33|23"_s}},
-        {"Tbl_LocalGroupFolderPermission",
+        {"Delete of folders",
+         "Tbl_LocalGroupFolderPermission",
          [&] {
              folders.Delete(connection, QList<int>{42, 41});
          },
@@ -112,12 +137,19 @@ TEST_F(RecordClassTest, WhatWasDoneBeforeAFailureStays)
     };
     for (const auto &c : cases) {
         run("DROP TABLE "_L1 + QLatin1StringView(c.dropped));
-        EXPECT_EQ(errorOf(c.step).number, jet::MissingTable) << c.dropped;
-        EXPECT_EQ(content(c.changed), c.left) << c.dropped;
+        EXPECT_EQ(errorOf(c.step).number, jet::MissingTable) << c.name;
+        EXPECT_EQ(content(c.changed), c.left) << c.name;
         ASSERT_TRUE(QFile::remove(path));
         CompanyTest::SetUp();
     }
     run(u"DROP TABLE Tbl_RoomHW"_s);
     EXPECT_EQ(errorOf([&] { hardware.addUsers(connection, 61, QList<int>{13}); }).number, jet::MissingTable);
     EXPECT_EQ(content("Tbl_UserHW"), (Rows{u"11|63"_s, u"12|63"_s})) << "cleared, nothing inserted";
+}
+
+TEST(StatementTest, AValueIsNotLookedIntoForMarkers)
+{
+    EXPECT_EQ(joined("A {name} {id} {name}"_L1, {{"name"_L1, u"{id}"_s}, {"id"_L1, u"{name}"_s}}),
+              u"A {id} {name} {id}"_s);
+    EXPECT_EQ(withId("ID ={id}"_L1, -7), u"ID =-7"_s);
 }

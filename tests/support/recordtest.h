@@ -95,7 +95,12 @@ protected:
         makeFreshStore(path);
     }
 
-    void run(const QString &sql) const { StoreSession(connection).execute(sql); }
+    void run(const QString &sql) const
+    {
+        StoreSession session(connection);
+        session.execute(sql);
+        session.close();
+    }
 
     [[nodiscard]] Rows rows(const QString &sql) const
     {

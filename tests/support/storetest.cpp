@@ -34,7 +34,9 @@ QString StoreTest::connection() const
 
 void StoreTest::execute(const QString &sql) const
 {
-    StoreSession(connection()).execute(sql);
+    StoreSession session(connection());
+    session.execute(sql);
+    session.close();
 }
 
 QStringList StoreTest::column(const QString &sql) const

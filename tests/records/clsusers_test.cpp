@@ -127,7 +127,10 @@ TEST_F(UsersTest, Add_AllocatesIdsAboveTheHighest)
     UserRecord highest = account(u"highest"_s, u"SRV01"_s, std::numeric_limits<int>::max());
     users.Add(connection, highest);
     UserRecord none = account(u"none"_s, u"SRV01"_s);
-    EXPECT_NE(errorOf([&] { users.Add(connection, none); }).number, 0);
+    const CurrentError error = errorOf([&] { users.Add(connection, none); });
+    EXPECT_EQ(error.number, jet::TypeMismatch);
+    EXPECT_TRUE(error.description.contains(u"2147483647")) << error.description.toStdString();
+    EXPECT_EQ(none.UserID, 0);
     EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users WHERE UserName = 'none'"_s), Rows());
 }
 

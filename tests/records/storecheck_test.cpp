@@ -64,6 +64,12 @@ const Change changes[] = {
     {"HardwareOfNoType",
      "INSERT INTO Tbl_HW (HWTypeID) VALUES (NULL), (4)",
      {u"Table Tbl_HW: 1 row has a HWTypeID that is not in Tbl_HWType."_s}},
+    {"KeysGivenTwice",
+     "INSERT INTO Tbl_Users (UserID, UserName, ServerName) VALUES "
+     "(5,'anna','S1'),(5,'bert','S1'),(6,'ANNA','s1');"
+     "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('12'),(NULL),(NULL)",
+     {u"Table Tbl_Users: 2 rows have the UserID 5."_s,
+      u"Table Tbl_Users: 2 rows have the UserName anna, ServerName S1."_s}},
     // The index is left as it is and said to be of another column: its rows are wrong now.
     {"IndexOutOfStep",
      "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('12'); PRAGMA writable_schema = ON;"
@@ -142,6 +148,21 @@ TEST(StoreCheck, KnowsEveryRelationshipOfTheSchema)
     told.sort();
     expected.sort();
     EXPECT_EQ(told.join(u'\n').toStdString(), expected.join(u'\n').toStdString());
+}
+
+TEST(StoreCheck, GoesOnWhereThereIsNoPlaceForAStoreToCompareWith)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    makeFreshStore(path);
+    runPastTheDialect(path, "INSERT INTO Tbl_RoomUsers VALUES (1, 5)");
+    const QByteArray place = qgetenv("TMPDIR");
+    qputenv("TMPDIR", QFile::encodeName(path)); // no folder
+    const QStringList findings = checkStore(path);
+    place.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", place);
+    ASSERT_EQ(findings.size(), 3) << findings.join(u'\n').toStdString();
+    EXPECT_TRUE(findings[0].startsWith("The tables could not be compared with those of a new store: "_L1))
+        << findings[0].toStdString();
 }
 
 TEST(StoreCheck, NamesBrokenPagesAndGoesOn)

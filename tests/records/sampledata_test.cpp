@@ -68,17 +68,8 @@ struct Key
     QLatin1StringView columns;
 };
 
+/// Of the relationship tables; those of the others are checked with every store.
 constexpr Key keys[] = {
-    {"Tbl_Users"_L1, "UserName, ServerName"_L1},
-    {"Tbl_GlobalGroups"_L1, "Name, Server"_L1},
-    {"Tbl_LocalGroups"_L1, "Name, Server"_L1},
-    {"Tbl_Folders"_L1, "FolderName"_L1},
-    {"Tbl_FolderDefaultPermissions"_L1, "Account"_L1},
-    {"Tbl_HWType"_L1, "Type, Manufacturer, Model, TypeNumber"_L1},
-    {"Tbl_HW"_L1, "SerialNumber, HWTypeID"_L1},
-    {"Tbl_SW"_L1, "Type, Manufacturer, Name, Version"_L1},
-    {"Tbl_Rooms"_L1, "RoomNumber"_L1},
-    {"Tbl_CustomQuery"_L1, "Name"_L1},
     {"Tbl_GlobalGroupsUsers"_L1, "GlobalGroupID, UserID"_L1},
     {"Tbl_LocalGroupsUsers"_L1, "LocalGroupID, UserID"_L1},
     {"Tbl_LocalGroupsGlobalGroups"_L1, "LocalGroupID, GlobalGroupID"_L1},
@@ -95,11 +86,6 @@ constexpr Key keys[] = {
 
 TEST_F(SampleDataTest, GrowsWithItsUsers)
 {
-    EXPECT_EQ(count(u"Tbl_GlobalGroups"_s), users / 20);
-    EXPECT_EQ(count(u"Tbl_LocalGroups"_s), users / 40);
-    EXPECT_EQ(count(u"Tbl_Folders"_s), users / 2);
-    EXPECT_EQ(count(u"Tbl_HW"_s), users);
-    EXPECT_EQ(count(u"Tbl_RoomUsers"_s), users);
     int relationships = 0;
     for (const QLatin1StringView table : filledTables)
         EXPECT_GT(count(table), 0) << table.data();

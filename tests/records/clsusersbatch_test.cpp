@@ -321,6 +321,7 @@ TEST_F(UserBatchTest, RecordsWithoutAFieldAreRefusedBeforeAnythingIsWritten)
     const CurrentError error =
         errorOf([&] { users.AddBatchFromFile(connection, records, false, added, updated, failed, text); });
     EXPECT_EQ(error.number, jet::ItemNotFound);
+    EXPECT_EQ(users.errorDescription(), error.description);
     EXPECT_TRUE(error.description.contains(u"NoExpirePwd"));
     EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users"_s), Rows());
 }
