@@ -60,6 +60,7 @@ Token Lexer::finish(TokenKind kind, std::size_t start, std::string_view text)
     token.text = text;
     token.offset = start;
     token.end = m_at;
+    m_behindPoint = m_lastKind == TokenKind::Symbol && (m_lastText == "." || m_lastText == "!");
     m_lastKind = kind;
     m_lastText = text;
     return token;
@@ -125,21 +126,17 @@ Token Lexer::name()
     return finish(TokenKind::Name, start, m_statement.substr(start, m_at - start));
 }
 
-// Tells a sign that begins a number from one that stands between two operands. Behind a word
-// like these an operand begins; a column of such a name is bracketed.
+// Tells a sign that begins a number from one that stands between two operands. Behind a reserved
+// word an operand begins; a column of such a name is bracketed, or stands behind its table.
 bool Lexer::operandBefore() const
 {
-    static constexpr std::array<std::string_view, 20> words = {
-        "select", "and",  "or",   "not", "like", "in",  "where", "between", "by",       "band",
-        "bor",    "bxor", "bnot", "mod", "xor",  "eqv", "imp",   "having",  "distinct", "all"};
     switch (m_lastKind) {
     case TokenKind::End:
         return false;
     case TokenKind::Symbol:
         return m_lastText == ")";
     case TokenKind::Name:
-        return std::none_of(words.begin(), words.end(),
-                            [this](std::string_view word) { return sameWord(word, m_lastText); });
+        return m_behindPoint || !isReserved(m_lastText) || isReservedValue(m_lastText);
     default:
         return true;
     }

@@ -8,14 +8,6 @@
 namespace jet {
 namespace {
 
-// Words that are no names unless bracketed.
-constexpr std::string_view reserved[] = {
-    "SELECT", "FROM",     "WHERE",       "GROUP", "HAVING",  "ORDER", "UNION",  "INNER", "LEFT",   "RIGHT",
-    "JOIN",   "ON",       "AS",          "AND",   "OR",      "NOT",   "XOR",    "EQV",   "IMP",    "LIKE",
-    "ALIKE",  "IN",       "IS",          "NULL",  "BETWEEN", "SET",   "VALUES", "INTO",  "INSERT", "UPDATE",
-    "DELETE", "DISTINCT", "DISTINCTROW", "MOD",   "EXISTS",  "TRUE",  "FALSE",  "BY",    "ASC",    "DESC",
-    "BAND",   "BOR",      "BXOR",        "BNOT",  "CREATE",  "TABLE", "ALL"};
-
 // Words and signs that may stand behind an expression.
 constexpr std::string_view behindExpression[] = {",",      ")",     ";",     "FROM",  "WHERE", "GROUP",
                                                  "HAVING", "ORDER", "UNION", "INTO",  "AS",    "ASC",
@@ -109,8 +101,7 @@ void Parser::expect(std::string_view word)
 bool Parser::atIdentifier(std::size_t ahead) const
 {
     const Token &token = peek(ahead);
-    return token.kind == TokenKind::QuotedName ||
-           (token.kind == TokenKind::Name && !contains(reserved, token.text));
+    return token.kind == TokenKind::QuotedName || (token.kind == TokenKind::Name && !isReserved(token.text));
 }
 
 std::string_view Parser::identifier()
