@@ -79,6 +79,9 @@ private:
     private:
         Emitter &m_emitter;
     };
+    /// SQLite's bound for tables and results; asked here, as it finds out late.
+    static constexpr std::size_t mostColumns = 2000;
+
     enum class Aggregates { Forbidden, Allowed, Inside };
 
     // emitter_select.cpp
@@ -89,11 +92,13 @@ private:
     static std::string converted(const Rows &arm, const std::vector<OutputColumn> &columns, bool numbered);
     Rows select(const Select &select, const std::vector<OrderItem> &order, Scope *outer, bool numbered);
     std::vector<Output> outputs(const Select &select, Scope &scope);
-    void nameOutputs(std::vector<Output> &outputs) const;
+    static void nameOutputs(std::vector<Output> &outputs);
     void checkGrouping(const Select &select, const std::vector<Output> &outputs,
                        const std::vector<OrderItem> &order, Scope &scope);
     void checkGrouped(const Expression &expression, const std::set<std::string> &keys, Scope &scope);
     std::string groupsOf(const Select &select, Scope &scope);
+    /// The column, from 1, that the item names by its number.
+    std::size_t position(const OrderItem &item, std::size_t columns);
     std::string orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
                          Scope &scope);
     std::string distinctRows(const Select &select, Scope &scope) const;
@@ -116,6 +121,8 @@ private:
 
     // emitter_expression.cpp
     Piece expression(const Expression &expression, Scope &scope);
+    Piece ofKind(const Expression &expression, Scope &scope);
+    static void requireBounded(std::string_view sql);
     Piece literal(const Expression &expression);
     Piece column(const Expression &expression, Scope &scope);
     Piece alias(const Expression &expression, Scope &scope);

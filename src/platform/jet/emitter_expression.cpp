@@ -1,8 +1,8 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
+#include "platform/jet/restored.h"
 
 #include <array>
-#include <utility>
 
 namespace jet {
 namespace {
@@ -97,23 +97,17 @@ void Emitter::pin(int literal)
 
 std::string Emitter::fingerprint(const Expression &source, Scope &scope)
 {
-    const bool before = std::exchange(m_literalsAsValues, true);
-    const int subqueries = std::exchange(m_subqueries, 0);
-    std::string result = expression(source, scope).sql;
-    m_literalsAsValues = before;
-    m_subqueries = subqueries;
-    return result;
+    const Restored literals(m_literalsAsValues, true);
+    const Restored subqueries(m_subqueries, 0);
+    return expression(source, scope).sql;
 }
 
 std::string Emitter::conditionOf(const Expression &source, Scope &scope, std::string_view clause,
                                  Aggregates aggregates)
 {
-    const Aggregates outerAggregates = std::exchange(m_aggregates, aggregates);
-    const std::string_view outerClause = std::exchange(m_clause, clause);
-    std::string sql = conditionIn(source, scope);
-    m_aggregates = outerAggregates;
-    m_clause = outerClause;
-    return sql;
+    const Restored aggregatesHere(m_aggregates, aggregates);
+    const Restored clauseHere(m_clause, clause);
+    return conditionIn(source, scope);
 }
 
 std::string Emitter::conditionIn(const Expression &source, Scope &scope)
@@ -128,6 +122,21 @@ std::string Emitter::conditionIn(const Expression &source, Scope &scope)
 Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
 {
     const ComplexityGuard guard(*this);
+    Piece piece = ofKind(source, scope);
+    requireBounded(piece.sql);
+    return piece;
+}
+
+// What writes an operand twice makes the text of nested ones grow without measure.
+void Emitter::requireBounded(std::string_view sql)
+{
+    constexpr std::size_t longestSql = 4'000'000;
+    if (sql.size() > longestSql)
+        raiseError(SyntaxError, queryTooComplex);
+}
+
+Emitter::Piece Emitter::ofKind(const Expression &source, Scope &scope)
+{
     switch (source.kind) {
     case ExpressionKind::Literal:
         return literal(source);
@@ -238,11 +247,8 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
         const SelectItem &item = (*scope.items)[i];
         if (!item.expression || !sameName(item.alias, source.name))
             continue;
-        const std::size_t visible = scope.visibleItems;
-        scope.visibleItems = i;
-        Piece piece = expression(*item.expression, scope);
-        scope.visibleItems = visible;
-        return piece;
+        const Restored visible(scope.visibleItems, i);
+        return expression(*item.expression, scope);
     }
     if (!source.bracketed) {
         for (const std::string_view word : constantWords) {

@@ -1,4 +1,6 @@
 #include "platform/jet/emitter.h"
+
+#include "platform/jet/collation.h"
 #include "platform/jet/errortexts.h"
 
 #include <algorithm>
@@ -88,8 +90,9 @@ void requireNewTable(Catalog &catalog, std::string_view name)
 void requireSoundColumns(const CreateTable &table)
 {
     std::vector<std::string_view> names;
+    std::set<std::string> taken;
     for (const ColumnDefinition &column : table.columns) {
-        if (isAmong(column.name, names))
+        if (!taken.insert(foldCase(column.name)).second)
             raiseError(SyntaxError, "Cannot define field more than once. '" + std::string(column.name) +
                                         "' stands there twice.");
         names.push_back(column.name);
@@ -340,6 +343,8 @@ void Emitter::write(const Delete &statement, EmittedStatement &result)
 
 void Emitter::write(const CreateTable &table, EmittedStatement &result)
 {
+    if (std::max(table.columns.size(), table.primaryKey.size()) > mostColumns)
+        raiseError(SyntaxError, queryTooComplex);
     requireNewTable(m_catalog, table.table);
     requireSoundColumns(table);
     std::string columns;
