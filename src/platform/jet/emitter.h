@@ -66,6 +66,13 @@ private:
     {
         std::string sql;
         std::vector<OutputColumn> columns;
+        bool limited = false; ///< `sql` ends with a LIMIT
+    };
+    /// A query of FROM, with the name it goes by there.
+    struct DerivedTable
+    {
+        std::string rows;
+        std::string name;
     };
     /// Ends what would take too much stack or time.
     class ComplexityGuard final
@@ -111,7 +118,7 @@ private:
     void addSources(const Source &source, Scope &scope);
     void addSources(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope);
     std::string from(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope);
-    /// Has the table give its row id to the text of from(), and returns its name there.
+    /// Has the table or query give its row id to the text of from(), and returns its name there.
     std::string rowIdOf(const ScopeSource &source, const std::vector<std::unique_ptr<Source>> &sources,
                         Scope &scope) const;
     std::string joined(const Source &source, Scope &scope);
@@ -129,7 +136,7 @@ private:
     std::string conditionIn(const Expression &source, Scope &scope);
     Piece compare(const Expression &expression, Scope &scope);
     Piece between(const Expression &expression, Scope &scope);
-    Piece inList(const Expression &expression, Scope &scope);
+    Piece inList(const Expression &expression, bool negated, Scope &scope);
     std::string conditionOf(const Expression &expression, Scope &scope, std::string_view clause,
                             Aggregates aggregates = Aggregates::Forbidden);
     [[noreturn]] void raiseUnknown(const Expression &expression, const Scope &scope) const;
@@ -138,6 +145,7 @@ private:
 
     // emitter_operator.cpp
     Piece arithmetic(const Expression &expression, Scope &scope);
+    Piece product(const Expression &expression, Scope &scope);
     Piece infix(std::string_view sign, const Piece &left, const Piece &right);
     Piece joinTexts(const Expression &expression, Scope &scope);
     Piece logic(const Expression &expression, Scope &scope);
@@ -195,7 +203,7 @@ private:
     int m_subqueries = 0;
     int m_depth = 0;
     int m_steps = 0;
-    std::map<const Source *, std::string> m_derivedTables;
+    std::map<const Source *, DerivedTable> m_derivedTables;
     std::vector<int> m_pinned;
 };
 

@@ -3,6 +3,7 @@
 #include "platform/jet/restored.h"
 
 #include <array>
+#include <optional>
 
 namespace jet {
 namespace {
@@ -21,6 +22,12 @@ const char *typeWord(DataType type)
     if (type == DataType::Date)
         return "a date";
     return type == DataType::Boolean ? "a yes/no value" : "a number";
+}
+
+[[noreturn]] void raiseUnknownName(const Expression &source, const std::string &suggested)
+{
+    raiseError(MissingParameter, "No value given for one or more required parameters. '" +
+                                     excerpt(source.text) + "' is not known here." + suggested);
 }
 
 std::string inlineLiteral(const Literal &literal)
@@ -159,6 +166,8 @@ Emitter::Piece Emitter::ofKind(const Expression &source, Scope &scope)
         return {.sql = "(~" + asBits(expression(*source.arguments[0], scope)) + ')',
                 .type = {DataType::Long}};
     case ExpressionKind::Not:
+        if (source.arguments[0]->kind == ExpressionKind::InList && !source.arguments[0]->negated)
+            return inList(*source.arguments[0], true, scope);
         return conditionPiece("(NOT " + conditionIn(*source.arguments[0], scope) + ')');
     case ExpressionKind::Arithmetic:
         return arithmetic(source, scope);
@@ -177,7 +186,7 @@ Emitter::Piece Emitter::ofKind(const Expression &source, Scope &scope)
     case ExpressionKind::Between:
         return between(source, scope);
     case ExpressionKind::InList:
-        return inList(source, scope);
+        return inList(source, source.negated, scope);
     case ExpressionKind::IsNull: {
         const Piece operand = expression(*source.arguments[0], scope);
         return conditionPiece('(' + value(operand) + (source.negated ? " IS NOT NULL)" : " IS NULL)"));
@@ -243,12 +252,20 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
 {
     if (!source.qualifier.empty())
         raiseUnknown(source, scope);
-    for (std::size_t i = 0; scope.items != nullptr && i < scope.visibleItems; ++i) {
-        const SelectItem &item = (*scope.items)[i];
-        if (!item.expression || !sameName(item.alias, source.name))
+    for (Scope *at = &scope; at != nullptr; at = at->outer) {
+        const std::optional<std::size_t> index = at->itemNamed(source.name);
+        if (!index)
             continue;
-        const Restored visible(scope.visibleItems, i);
-        return expression(*item.expression, scope);
+        const Expression &item = *(*at->items)[*index].expression;
+        const Restored visible(at->visibleItems, *index);
+        if (at == &scope)
+            return expression(item, scope);
+        if (scope.hides(*at))
+            raiseUnknown(source, scope);
+        at->borrowed.push_back(&item);
+        const Restored aggregates(m_aggregates, Aggregates::Forbidden);
+        const Restored clause(m_clause, std::string_view("sub-query"));
+        return expression(item, *at);
     }
     if (!source.bracketed) {
         for (const std::string_view word : constantWords) {
@@ -273,22 +290,24 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
 void Emitter::raiseUnknown(const Expression &source, const Scope &scope) const
 {
     std::vector<std::string_view> names;
-    std::vector<std::string_view> tables;
+    std::vector<std::string_view> tables; // that have such a column
     for (const Scope *at = &scope; at != nullptr; at = at->outer) {
-        for (const std::string_view table : at->sourceNames())
-            tables.push_back(table);
         for (const ScopeSource &table : at->sources) {
-            if (!source.qualifier.empty() && !sameName(table.name, source.qualifier))
-                continue;
-            for (const TableColumn &column : table.columns)
-                names.push_back(column.name);
+            if (source.qualifier.empty() || sameName(table.name, source.qualifier)) {
+                for (const TableColumn &column : table.columns)
+                    names.push_back(column.name);
+            } else if (table.column(source.name) != nullptr) {
+                // Under an alias a table is known by that only.
+                if (sameName(table.table, source.qualifier))
+                    raiseUnknownName(source, didYouMean(table.name + '.' + std::string(source.name)));
+                tables.push_back(table.name);
+            }
         }
     }
-    const bool tableKnown = source.qualifier.empty() || !names.empty();
-    raiseError(MissingParameter,
-               "No value given for one or more required parameters. '" + excerpt(source.text) +
-                   "' is not known here." +
-                   (tableKnown ? suggestion(source.name, names) : suggestion(source.qualifier, tables)));
+    const std::string_view table = nearest(source.qualifier, tables);
+    if (names.empty() && !table.empty())
+        raiseUnknownName(source, didYouMean(std::string(table) + '.' + std::string(source.name)));
+    raiseUnknownName(source, suggestion(source.name, names));
 }
 
 void Emitter::requireComparable(const Expression &source, const Piece &left, const Piece &right) const
@@ -320,13 +339,14 @@ Emitter::Piece Emitter::between(const Expression &source, Scope &scope)
                           value(high) + "))");
 }
 
-Emitter::Piece Emitter::inList(const Expression &source, Scope &scope)
+// NOT x IN (..) is x NOT IN (..).
+Emitter::Piece Emitter::inList(const Expression &source, bool negated, Scope &scope)
 {
     const Piece operand = expression(*source.arguments[0], scope);
     std::string list;
     for (std::size_t i = 1; i < source.arguments.size(); ++i) {
         // A Null in the list of NOT IN is as if it were not there.
-        if (source.negated && source.arguments[i]->kind == ExpressionKind::Null)
+        if (negated && source.arguments[i]->kind == ExpressionKind::Null)
             continue;
         const Piece item = expression(*source.arguments[i], scope);
         requireComparable(source, operand, item);
@@ -337,7 +357,7 @@ Emitter::Piece Emitter::inList(const Expression &source, Scope &scope)
     if (list.empty())
         sql = '(' + left + " IS NOT NULL)";
     else
-        sql = '(' + left + (source.negated ? " NOT IN (" : " IN (") + list + "))";
+        sql = '(' + left + (negated ? " NOT IN (" : " IN (") + list + "))";
     return conditionPiece(sql);
 }
 

@@ -115,8 +115,11 @@ Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
                 if (sameName(result.columns[i].name, item.expression->name))
                     position = i + 1;
             }
-        }
-        if (position == 0 || position > result.columns.size())
+        } else
+            raiseError(SyntaxError, "The rows of a union query are ordered by the names of its columns or by "
+                                    "their positions only, not by '" +
+                                        excerpt(item.expression->text) + "'.");
+        if (position == 0)
             raiseError(SyntaxError,
                        "The ORDER BY expression (" + excerpt(item.expression->text) +
                            ") includes fields that are not selected by the query.  Only those fields "
@@ -288,6 +291,7 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     if (select.top) {
         pin(select.topLiteral);
         result.sql += " LIMIT " + std::to_string(*select.top);
+        result.limited = true;
     }
     return result;
 }
@@ -371,22 +375,22 @@ void Emitter::checkGrouped(const Expression &source, const std::set<std::string>
         checkGrouped(*argument, keys, scope);
 }
 
-// Groups by the rows of the tables that are shown in part of the columns; nothing where all are.
+// Groups by the rows of the sources that are shown in part of the columns; nothing where all are.
 std::string Emitter::distinctRows(const Select &select, Scope &scope) const
 {
-    std::string shown;
-    bool allShown = true;
+    std::vector<const ScopeSource *> shown;
     for (const ScopeSource &source : scope.sources) {
         const bool selected = std::ranges::any_of(select.items, [&](const SelectItem &item) {
             return item.expression ? uses(*item.expression, source, scope)
                                    : item.starOf.empty() || sameName(item.starOf, source.name);
         });
-        if (selected && source.isTable())
-            shown += (shown.empty() ? " GROUP BY " : ", ") + rowIdOf(source, select.from, scope);
-        else
-            allShown = false;
+        if (selected)
+            shown.push_back(&source);
     }
-    return allShown ? std::string() : shown;
+    std::string groups;
+    for (std::size_t i = 0; i < shown.size() && shown.size() < scope.sources.size(); ++i)
+        groups += (i == 0 ? " GROUP BY " : ", ") + rowIdOf(*shown[i], select.from, scope);
+    return groups;
 }
 
 // TOP takes all rows that tie with the last one, so rows are ranked by their order.

@@ -28,7 +28,13 @@ inline constexpr std::string_view queryTooComplex = "Query is too complex.";
 /// Whether the message is SQLite's word for a statement beyond its limits.
 [[nodiscard]] bool tellsOfLimit(std::string_view sqliteMessage);
 
-/// " Did you mean 'NAME'?" with the nearest of the names, or nothing when none is near.
+/// " Did you mean 'NAME'?"
+[[nodiscard]] std::string didYouMean(std::string_view name);
+
+/// The name that the word may have been meant to be, empty when none is near.
+[[nodiscard]] std::string_view nearest(std::string_view word, const std::vector<std::string_view> &names);
+
+/// didYouMean() with the nearest of the names, or nothing when none is near.
 [[nodiscard]] std::string suggestion(std::string_view word, const std::vector<std::string_view> &names);
 
 /// Raises MissingTable for a table or query to read from.

@@ -248,6 +248,7 @@ const Conversion conversions[] = {
     {"jet_mul", {multiply}},
     {"jet_band", {combineBits<std::bit_and<>>}},
     {"jet_bor", {combineBits<std::bit_or<>>}},
+    {"jet_product", {bodies::product}},
     {"jet_bxor", {combineBits<std::bit_xor<>>}},
     {"jet_div", {divide}},
     {"jet_idiv", {divideWhole}},

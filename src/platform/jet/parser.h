@@ -31,11 +31,13 @@ private:
     [[noreturn]] void fail() const;
     [[noreturn]] void failAt(std::string_view what, const Token &token) const;
     [[noreturn]] void failMissingOperator(std::size_t start) const;
+    [[noreturn]] void failUnreadable(std::size_t expressionStart) const;
     [[noreturn]] void failTooComplex() const;
     [[nodiscard]] std::string_view textFrom(std::size_t start) const;
 
     // parser.cpp
     QueryPtr query(bool allowInto = false);
+    Query unionOfArms(bool allowInto);
     void selectArm(Query &query, bool allowInto);
     [[nodiscard]] bool beginsQuery() const;
     void top(Select &select);

@@ -83,7 +83,6 @@ struct Source
     std::unique_ptr<Source> left;
     std::unique_ptr<Source> right;
     ExpressionPtr on;
-    std::size_t offset = 0;
 };
 
 struct Select
