@@ -61,6 +61,9 @@ TEST_F(LimitsTest, LongStatementsAreAnswered)
         {"unions", "SELECT ID FROM Tbl_Rooms"_L1 + repeated(" UNION SELECT ID FROM Tbl_Rooms"_L1, 400),
          u"1"_s},
         {"a text of 1 MB", "SELECT Len('"_L1 + repeated("a"_L1, 1'000'000) + "')"_L1, u"1000000"_s},
+        {"factors", "SELECT 1"_L1 + repeated(" * 2 / 2"_L1, 149), u"1"_s},
+        {"values within values", "SELECT "_L1 + repeated("(SELECT "_L1, 8) + u'7' + repeated(")"_L1, 8),
+         u"7"_s},
         {"bits", "SELECT 1"_L1 + repeated(" BXOR 2"_L1, 24), u"1"_s},
         {"blanks", "SELECT "_L1 + repeated(" "_L1, 1'000'000) + u'1', u"1"_s},
     };
