@@ -86,9 +86,6 @@ private:
     private:
         Emitter &m_emitter;
     };
-    /// SQLite's bound for tables and results; asked here, as it finds out late.
-    static constexpr std::size_t mostColumns = 2000;
-
     enum class Aggregates { Forbidden, Allowed, Inside };
 
     // emitter_select.cpp
@@ -147,7 +144,7 @@ private:
     Piece arithmetic(const Expression &expression, Scope &scope);
     Piece product(const Expression &expression, Scope &scope);
     Piece infix(std::string_view sign, const Piece &left, const Piece &right);
-    Piece joinTexts(const Expression &expression, Scope &scope);
+    Piece concatenate(const Expression &expression, Scope &scope);
     Piece logic(const Expression &expression, Scope &scope);
     std::string asBits(const Piece &piece);
 
@@ -170,10 +167,6 @@ private:
     void write(const Insert &insert, EmittedStatement &result);
     void write(const Update &update, EmittedStatement &result);
     void write(const Delete &statement, EmittedStatement &result);
-    void write(const CreateTable &table, EmittedStatement &result);
-    void write(const CreateIndex &index, EmittedStatement &result);
-    void write(const DropTable &table, EmittedStatement &result);
-    void write(const DropIndex &index, EmittedStatement &result);
     std::string where(const ExpressionPtr &condition, Scope &scope);
     std::string coerced(const Piece &piece, const TableColumn &column);
     std::string insertedRows(const Insert &insert, std::vector<const TableColumn *> &columns,

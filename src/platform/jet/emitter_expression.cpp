@@ -171,8 +171,8 @@ Emitter::Piece Emitter::ofKind(const Expression &source, Scope &scope)
         return conditionPiece("(NOT " + conditionIn(*source.arguments[0], scope) + ')');
     case ExpressionKind::Arithmetic:
         return arithmetic(source, scope);
-    case ExpressionKind::Join:
-        return joinTexts(source, scope);
+    case ExpressionKind::Concatenate:
+        return concatenate(source, scope);
     case ExpressionKind::Logic:
         return logic(source, scope);
     case ExpressionKind::Compare:

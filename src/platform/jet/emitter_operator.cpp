@@ -153,7 +153,7 @@ std::string Emitter::asBits(const Piece &piece)
     return "jet_clng(" + asNumber(piece) + ')';
 }
 
-Emitter::Piece Emitter::joinTexts(const Expression &source, Scope &scope)
+Emitter::Piece Emitter::concatenate(const Expression &source, Scope &scope)
 {
     std::vector<std::string> operands;
     for (const ExpressionPtr &operand : source.arguments)

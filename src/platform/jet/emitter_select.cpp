@@ -2,6 +2,7 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
 #include "platform/jet/restored.h"
+#include "platform/jet/schemachange.h"
 
 #include <algorithm>
 

@@ -75,7 +75,7 @@ private:
     /// [Not] Like, Between or In.
     ExpressionPtr membership(ExpressionPtr left, std::size_t start);
     ExpressionPtr listed(ExpressionPtr left, std::size_t start);
-    ExpressionPtr joinedTexts();
+    ExpressionPtr concatenation();
     ExpressionPtr arithmetic(std::size_t level);
     ExpressionPtr sign();
     ExpressionPtr power();
