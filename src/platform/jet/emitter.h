@@ -129,6 +129,7 @@ private:
     static void requireBounded(std::string_view sql);
     Piece literal(const Expression &expression);
     Piece column(const Expression &expression, Scope &scope);
+    static Piece columnPiece(const ScopeSource &source, const TableColumn &column);
     Piece alias(const Expression &expression, Scope &scope);
     std::string conditionIn(const Expression &source, Scope &scope);
     Piece compare(const Expression &expression, Scope &scope);

@@ -231,6 +231,14 @@ Emitter::Piece Emitter::literal(const Expression &source)
     return piece;
 }
 
+Emitter::Piece Emitter::columnPiece(const ScopeSource &source, const TableColumn &column)
+{
+    return {.sql = quotedName(source.name) + '.' + quotedName(column.name),
+            .type = column.type,
+            .column = true,
+            .exact = isLong(column.type.type)};
+}
+
 Emitter::Piece Emitter::column(const Expression &source, Scope &scope)
 {
     for (Scope *at = &scope; at != nullptr; at = at->outer) {
@@ -239,10 +247,7 @@ Emitter::Piece Emitter::column(const Expression &source, Scope &scope)
             continue;
         if (at != &scope)
             at->borrowed.push_back(&source);
-        return {.sql = quotedName(found.source->name) + '.' + quotedName(found.column->name),
-                .type = found.column->type,
-                .column = true,
-                .exact = isLong(found.column->type.type)};
+        return columnPiece(*found.source, *found.column);
     }
     return alias(source, scope);
 }

@@ -38,6 +38,11 @@ bool uses(const Expression &expression, const ScopeSource &source, const Scope &
                                [&](const ExpressionPtr &argument) { return uses(*argument, source, scope); });
 }
 
+[[noreturn]] void raiseNoSource()
+{
+    raiseError(SyntaxError, "Query input must contain at least one table or query.");
+}
+
 } // namespace
 
 Emitter::Rows Emitter::query(const Query &query, Scope *outer, bool numbered)
@@ -169,16 +174,13 @@ std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope
         if (!item.starOf.empty() && scope.source(item.starOf) == nullptr)
             raiseMissingSource(item.starOf, scope.sourceNames());
         if (scope.sources.empty())
-            raiseError(SyntaxError, "Query input must contain at least one table or query.");
+            raiseNoSource();
         for (const ScopeSource &source : scope.sources) {
             if (!item.starOf.empty() && !sameName(source.name, item.starOf))
                 continue;
             for (const TableColumn &column : source.columns) {
                 Output output;
-                output.piece = {.sql = quotedName(source.name) + '.' + quotedName(column.name),
-                                .type = column.type,
-                                .column = true,
-                                .exact = isWhole(column.type.type)};
+                output.piece = columnPiece(source, column);
                 output.name = column.name;
                 output.table = source.name;
                 add(std::move(output));
@@ -246,7 +248,7 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     std::vector<Output> columns = outputs(select, scope);
     const bool listHasAggregate = scope.hasAggregate;
     if (select.from.empty() && select.where)
-        raiseError(SyntaxError, "Query input must contain at least one table or query.");
+        raiseNoSource();
 
     std::string tail;
     if (!source.empty())

@@ -128,6 +128,8 @@ std::string_view Parser::textFrom(std::size_t start) const
     return m_lexer.statement().substr(start, end > start ? end - start : 0);
 }
 
+// Where words of the expression have been taken already, what stands behind them is an operator that is
+// missing; at its beginning, and outside of one, the clause is told.
 void Parser::fail() const
 {
     const Token &token = peek();

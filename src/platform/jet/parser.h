@@ -96,7 +96,7 @@ private:
     std::vector<Token> m_tokens;
     std::size_t m_at = 0;
     std::string_view m_clause; ///< names the clause in "Syntax error in FROM clause"
-    std::size_t m_expressionStart = std::string_view::npos;
+    std::size_t m_expressionStart = std::string_view::npos; ///< of the outermost one at hand, or npos
     int m_depth = 0;
 
     friend class DepthGuard;

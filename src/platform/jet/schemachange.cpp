@@ -15,13 +15,19 @@ bool isAmong(std::string_view name, const std::vector<std::string_view> &names)
     return std::ranges::any_of(names, [&](std::string_view other) { return sameName(other, name); });
 }
 
-const TableColumn *requireColumn(const Table &table, std::string_view name)
+[[noreturn]] void raiseNoSuchField(std::string_view name, std::string_view table,
+                                   const std::vector<std::string_view> &fields)
+{
+    raiseError(MissingParameter, "No such field '" + std::string(name) + "' in table '" + std::string(table) +
+                                     "'." + suggestion(name, fields));
+}
+
+const TableColumn &requireColumn(const Table &table, std::string_view name)
 {
     const TableColumn *column = table.column(name);
     if (column == nullptr)
-        raiseError(MissingParameter, "No such field '" + std::string(name) + "' in table '" + table.name +
-                                         "'." + suggestion(name, table.columnNames()));
-    return column;
+        raiseNoSuchField(name, table.name, table.columnNames());
+    return *column;
 }
 
 // SQLite keeps such names for itself.
@@ -45,8 +51,7 @@ void requireSoundColumns(const CreateTable &table)
     }
     for (const std::string_view column : table.primaryKey) {
         if (!isAmong(column, names))
-            raiseError(MissingParameter, "No such field '" + std::string(column) + "' in table '" +
-                                             std::string(table.table) + "'." + suggestion(column, names));
+            raiseNoSuchField(column, table.table, names);
     }
 }
 
@@ -126,7 +131,7 @@ std::string schemaChange(Catalog &catalog, const CreateIndex &index)
     std::string columns;
     for (const auto &[name, descending] : index.columns) {
         // SQLite does not fold the case of accented letters: only the name of the definition will do.
-        columns += (columns.empty() ? "" : ", ") + quotedName(requireColumn(table, name)->name) +
+        columns += (columns.empty() ? "" : ", ") + quotedName(requireColumn(table, name).name) +
                    (descending ? " DESC" : "");
     }
     return std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +

@@ -153,11 +153,17 @@ struct CreateTable
     std::vector<std::string_view> primaryKey;
 };
 
+struct IndexedColumn
+{
+    std::string_view name;
+    bool descending = false;
+};
+
 struct CreateIndex
 {
     std::string_view index;
     std::string_view table;
-    std::vector<std::pair<std::string_view, bool>> columns; ///< descending?
+    std::vector<IndexedColumn> columns;
     bool unique = false;
 };
 
