@@ -2,7 +2,6 @@
 #include "platform/jet/errortexts.h"
 #include "platform/jet/restored.h"
 
-#include <array>
 #include <optional>
 
 namespace jet {
@@ -12,8 +11,20 @@ namespace {
 constexpr auto yes = "(0-1)";
 constexpr auto no = "(0+0)";
 
-constexpr std::array<std::string_view, 4> constantWords = {"YES", "NO", "ON", "OFF"};
-constexpr std::array<std::string_view, 3> clockWords = {"DATE", "NOW", "TIME"};
+std::optional<bool> constantOf(std::string_view word)
+{
+    if (sameWord(word, "YES") || sameWord(word, "ON"))
+        return true;
+    if (sameWord(word, "NO") || sameWord(word, "OFF"))
+        return false;
+    return std::nullopt;
+}
+
+/// Whether the word is a function that needs no parentheses.
+bool readsClock(std::string_view word)
+{
+    return sameWord(word, "DATE") || sameWord(word, "NOW") || sameWord(word, "TIME");
+}
 
 const char *typeWord(DataType type)
 {
@@ -273,20 +284,14 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
         return expression(item, *at);
     }
     if (!source.bracketed) {
-        for (const std::string_view word : constantWords) {
-            if (sameWord(word, source.name))
-                return {.sql = word == "YES" || word == "ON" ? yes : no,
-                        .type = {DataType::Boolean},
-                        .exact = true};
-        }
-        for (const std::string_view word : clockWords) {
-            if (sameWord(word, source.name)) {
-                Expression call;
-                call.kind = ExpressionKind::Call;
-                call.name = word;
-                call.text = source.text;
-                return function(call, scope);
-            }
+        if (const std::optional<bool> value = constantOf(source.name))
+            return {.sql = *value ? yes : no, .type = {DataType::Boolean}, .exact = true};
+        if (readsClock(source.name)) {
+            Expression call;
+            call.kind = ExpressionKind::Call;
+            call.name = source.name;
+            call.text = source.text;
+            return function(call, scope);
         }
     }
     raiseUnknown(source, scope);

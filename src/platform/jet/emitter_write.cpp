@@ -209,8 +209,13 @@ void Emitter::write(const Update &update, EmittedStatement &result)
         const Scope::Found found = scope.find(assignment.column->qualifier, assignment.column->name);
         if (found.column == nullptr)
             raiseUnknown(*assignment.column, scope);
-        if (!found.source->isTable() || (target != nullptr && target != found.source))
-            raiseError(Failure, "Operation must use an updatable query.");
+        if (!found.source->isTable())
+            raiseError(Failure, "Operation must use an updatable query. '" +
+                                    excerpt(assignment.column->text) +
+                                    "' is a column of a query, not of a table.");
+        if (target != nullptr && target != found.source)
+            raiseError(Failure, "Operation must use an updatable query. '" + target->name + "' and '" +
+                                    found.source->name + "' cannot be changed at once.");
         if (found.column->type.type == DataType::Counter)
             raiseError(Failure, "Cannot update '" + found.column->name + "'; field not updateable.");
         if (std::find(changedColumns.begin(), changedColumns.end(), found.column) != changedColumns.end())
