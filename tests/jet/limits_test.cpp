@@ -61,6 +61,9 @@ TEST_F(LimitsTest, LongStatementsAreAnswered)
         {"unions", "SELECT ID FROM Tbl_Rooms"_L1 + repeated(" UNION SELECT ID FROM Tbl_Rooms"_L1, 400),
          u"1"_s},
         {"a text of 1 MB", "SELECT Len('"_L1 + repeated("a"_L1, 1'000'000) + "')"_L1, u"1000000"_s},
+        {"factors", "SELECT 1"_L1 + repeated(" * 2 / 2"_L1, 149), u"1"_s},
+        {"values within values", "SELECT "_L1 + repeated("(SELECT "_L1, 8) + u'7' + repeated(")"_L1, 8),
+         u"7"_s},
         {"bits", "SELECT 1"_L1 + repeated(" BXOR 2"_L1, 24), u"1"_s},
         {"blanks", "SELECT "_L1 + repeated(" "_L1, 1'000'000) + u'1', u"1"_s},
     };
@@ -70,6 +73,9 @@ TEST_F(LimitsTest, LongStatementsAreAnswered)
 
 TEST_F(LimitsTest, DeepStatementsAreRefusedInPlainWords)
 {
+    QStringList numbers;
+    for (int i = 0; i < 50'000; ++i)
+        numbers.append(QString::number(i));
     const Statement statements[] = {
         {"parentheses", "SELECT "_L1 + repeated("("_L1, 5000) + u'1' + repeated(")"_L1, 5000), tooComplex},
         {"Not", "SELECT "_L1 + repeated("NOT "_L1, 5000) + u'1', tooComplex},
@@ -94,7 +100,20 @@ TEST_F(LimitsTest, DeepStatementsAreRefusedInPlainWords)
          "SELECT 1 FROM "_L1 + repeated("("_L1, 5000) + "Tbl_Rooms"_L1 + repeated(")"_L1, 5000), tooComplex},
         {"unions", "SELECT ID FROM Tbl_Rooms"_L1 + repeated(" UNION SELECT ID FROM Tbl_Rooms"_L1, 1000),
          tooComplex},
-        {"columns", "SELECT ID"_L1 + repeated(", ID"_L1, 3000) + " FROM Tbl_Rooms"_L1, tooComplex},
+        {"columns", "SELECT ID"_L1 + repeated(", ID"_L1, 100'000) + " FROM Tbl_Rooms"_L1, tooComplex},
+        {"columns without a name", "SELECT 1"_L1 + repeated(", 1"_L1, 100'000), tooComplex},
+        {"columns of a table", "CREATE TABLE T (a"_L1 + numbers.join(" LONG, a"_L1) + " LONG)"_L1,
+         tooComplex},
+        {"keys of a table",
+         "CREATE TABLE T (a LONG, PRIMARY KEY (a"_L1 + repeated(", a"_L1, 100'000) + "))"_L1, tooComplex},
+        {"bounds within bounds",
+         "SELECT "_L1 + repeated("ID BETWEEN ("_L1, 100) + u'1' + repeated(") AND 2"_L1, 100) +
+             " FROM Tbl_Rooms"_L1,
+         tooComplex},
+        {"ANY of ANY",
+         "SELECT ID FROM Tbl_Rooms"_L1 + repeated(" WHERE ID > ANY (SELECT ID FROM Tbl_Rooms"_L1, 30) +
+             repeated(")"_L1, 30),
+         tooComplex},
     };
     for (const Statement &statement : statements)
         EXPECT_EQ(statement.answer, answer(statement.sql)) << statement.name;

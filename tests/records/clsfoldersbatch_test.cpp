@@ -143,7 +143,7 @@ TEST_F(FoldersBatchTest, WhatCannotBeGivenIsNamedAndTheRestGoesOn)
         "\r\nSRV02\\anna is not a Local Group and not a User in DB"
         "\r\nDC01\\Staff is not a Local Group and not a User in DB"
         "\r\nSRV01\\O'Brien is not a Local Group and not a User in DB"
-        "\r\nD:\\Admin\\ SRV01\\anna Syntax error in string in query expression '')'. Near '')' at 86."_s);
+        "\r\nD:\\Admin\\ SRV01\\anna Syntax error (missing operator) in query expression ''it's''. Near 's' at 85."_s);
     EXPECT_EQ(permissions(), before);
     give(
         {{u"D:\\Nowhere"_s, u"anna"_s, u"SRV01"_s, u"R"_s}, {u"D:\\Admin"_s, u"anna"_s, u"SRV01"_s, u"R"_s}});

@@ -52,6 +52,14 @@ const TableColumn *Table::column(std::string_view column) const
     return nullptr;
 }
 
+std::vector<std::string_view> Table::columnNames() const
+{
+    std::vector<std::string_view> names;
+    for (const TableColumn &candidate : columns)
+        names.push_back(candidate.name);
+    return names;
+}
+
 std::string_view rowIdName(const Table &table)
 {
     for (const std::string_view name : {"rowid", "oid", "_rowid_"}) {
@@ -88,12 +96,11 @@ const Table *Catalog::find(std::string_view name)
     // The pragma itself: as a table of a SELECT it takes as long as all the rest of a small reading.
     const StatementHandle columns =
         prepareSqlite(m_handle, "PRAGMA table_info(" + quotedName(table->name) + ')');
-    enum { Name = 1, Type = 2, NotNull = 3, PrimaryKey = 5 };
+    enum { Name = 1, Type = 2, PrimaryKey = 5 };
     forEachRow(m_handle, columns.get(), [&](sqlite3_stmt *row) {
         TableColumn column;
         column.name = textAt(row, Name);
         column.type = declaredType(textAt(row, Type), sqlite3_column_int(row, PrimaryKey) != 0);
-        column.notNull = sqlite3_column_int(row, NotNull) != 0;
         table->columns.push_back(std::move(column));
     });
     if (table->columns.empty())
@@ -137,6 +144,12 @@ const Table &Catalog::table(std::string_view name)
         return *known;
     const std::vector<std::string> names = tableNames();
     raiseMissingSource(name, {names.begin(), names.end()});
+}
+
+std::string Catalog::suggestion(std::string_view name)
+{
+    const std::vector<std::string> names = tableNames();
+    return jet::suggestion(name, {names.begin(), names.end()});
 }
 
 std::vector<std::string> Catalog::tableNames()

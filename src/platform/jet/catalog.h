@@ -17,7 +17,6 @@ struct TableColumn
 {
     std::string name;
     ColumnType type;
-    bool notNull = false;
 };
 
 struct Table
@@ -27,6 +26,7 @@ struct Table
 
     /// Without regard to case; null when there is none.
     [[nodiscard]] const TableColumn *column(std::string_view column) const;
+    [[nodiscard]] std::vector<std::string_view> columnNames() const;
 };
 
 /// A name of the row id of SQLite that no column of the table has taken. Raises Failure when all are taken.
@@ -53,6 +53,8 @@ public:
     [[nodiscard]] const Table *find(std::string_view name);
     [[nodiscard]] std::vector<std::string> tableNames();
     [[nodiscard]] LastCounter &lastCounter() { return m_lastCounter; }
+    /// " Did you mean 'NAME'?" with the nearest of the tables, or nothing when none is near.
+    [[nodiscard]] std::string suggestion(std::string_view name);
 
 private:
     sqlite3 *m_handle;

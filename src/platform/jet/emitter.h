@@ -65,6 +65,13 @@ private:
     {
         std::string sql;
         std::vector<OutputColumn> columns;
+        bool limited = false; ///< `sql` ends with a LIMIT
+    };
+    /// A query of FROM, with the name it goes by there.
+    struct DerivedTable
+    {
+        std::string rows;
+        std::string name;
     };
     /// Ends what would take too much stack or time.
     class ComplexityGuard final
@@ -88,11 +95,13 @@ private:
     static std::string converted(const Rows &arm, const std::vector<OutputColumn> &columns, bool numbered);
     Rows select(const Select &select, const std::vector<OrderItem> &order, Scope *outer, bool numbered);
     std::vector<Output> outputs(const Select &select, Scope &scope);
-    void nameOutputs(std::vector<Output> &outputs) const;
+    static void nameOutputs(std::vector<Output> &outputs);
     void checkGrouping(const Select &select, const std::vector<Output> &outputs,
                        const std::vector<OrderItem> &order, Scope &scope);
     void checkGrouped(const Expression &expression, const std::set<std::string> &keys, Scope &scope);
     std::string groupsOf(const Select &select, Scope &scope);
+    /// The column, from 1, that the item names by its number.
+    std::size_t position(const OrderItem &item, std::size_t columns);
     std::string orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
                          Scope &scope);
     std::string distinctRows(const Select &select, Scope &scope) const;
@@ -105,7 +114,7 @@ private:
     void addSources(const Source &source, Scope &scope);
     void addSources(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope);
     std::string from(const std::vector<std::unique_ptr<Source>> &sources, Scope &scope);
-    /// Has the table give its row id to the text of from(), and returns its name there.
+    /// Has the table or query give its row id to the text of from(), and returns its name there.
     std::string rowIdOf(const ScopeSource &source, const std::vector<std::unique_ptr<Source>> &sources,
                         Scope &scope) const;
     std::string joined(const Source &source, Scope &scope);
@@ -115,13 +124,16 @@ private:
 
     // emitter_expression.cpp
     Piece expression(const Expression &expression, Scope &scope);
+    Piece ofKind(const Expression &expression, Scope &scope);
+    static void requireBounded(std::string_view sql);
     Piece literal(const Expression &expression);
     Piece column(const Expression &expression, Scope &scope);
+    static Piece columnPiece(const ScopeSource &source, const TableColumn &column);
     Piece alias(const Expression &expression, Scope &scope);
     std::string conditionIn(const Expression &source, Scope &scope);
     Piece compare(const Expression &expression, Scope &scope);
     Piece between(const Expression &expression, Scope &scope);
-    Piece inList(const Expression &expression, Scope &scope);
+    Piece inList(const Expression &expression, bool negated, Scope &scope);
     std::string conditionOf(const Expression &expression, Scope &scope, std::string_view clause,
                             Aggregates aggregates = Aggregates::Forbidden);
     [[noreturn]] void raiseUnknown(const Expression &expression, const Scope &scope) const;
@@ -130,8 +142,9 @@ private:
 
     // emitter_operator.cpp
     Piece arithmetic(const Expression &expression, Scope &scope);
+    Piece product(const Expression &expression, Scope &scope);
     Piece infix(std::string_view sign, const Piece &left, const Piece &right);
-    Piece joinTexts(const Expression &expression, Scope &scope);
+    Piece concatenate(const Expression &expression, Scope &scope);
     Piece logic(const Expression &expression, Scope &scope);
     std::string asBits(const Piece &piece);
 
@@ -154,10 +167,6 @@ private:
     void write(const Insert &insert, EmittedStatement &result);
     void write(const Update &update, EmittedStatement &result);
     void write(const Delete &statement, EmittedStatement &result);
-    void write(const CreateTable &table, EmittedStatement &result);
-    void write(const CreateIndex &index, EmittedStatement &result);
-    void write(const DropTable &table, EmittedStatement &result);
-    void write(const DropIndex &index, EmittedStatement &result);
     std::string where(const ExpressionPtr &condition, Scope &scope);
     std::string coerced(const Piece &piece, const TableColumn &column);
     std::string insertedRows(const Insert &insert, std::vector<const TableColumn *> &columns,
@@ -186,7 +195,7 @@ private:
     int m_subqueries = 0;
     int m_depth = 0;
     int m_steps = 0;
-    std::map<const Source *, std::string> m_derivedTables;
+    std::map<const Source *, DerivedTable> m_derivedTables;
     std::vector<int> m_pinned;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
 #include "platform/jet/functions.h"
+#include "platform/jet/restored.h"
 
 #include <algorithm>
 
@@ -106,11 +107,12 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
         raiseArgumentCount(source);
 
     const AggregateRow &row = *findAggregate(source.name);
-    m_aggregates = Aggregates::Inside;
     const std::size_t borrowed = scope.borrowed.size();
-    const Piece operand = expression(*source.arguments[0], scope);
+    const Piece operand = [&] {
+        const Restored inside(m_aggregates, Aggregates::Inside);
+        return expression(*source.arguments[0], scope);
+    }();
     scope.borrowed.resize(borrowed); // within an aggregate a sub-query may read any column
-    m_aggregates = Aggregates::Allowed;
     std::string list = row.numbers ? asNumber(operand) : collated(operand);
     // SQLite adds whole numbers up in 64 bits and raises beyond.
     if (row.type == AggregateType::Double && !isLong(operand.type.type))

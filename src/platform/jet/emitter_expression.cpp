@@ -1,8 +1,8 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
+#include "platform/jet/restored.h"
 
-#include <array>
-#include <utility>
+#include <optional>
 
 namespace jet {
 namespace {
@@ -11,8 +11,20 @@ namespace {
 constexpr auto yes = "(0-1)";
 constexpr auto no = "(0+0)";
 
-constexpr std::array<std::string_view, 4> constantWords = {"YES", "NO", "ON", "OFF"};
-constexpr std::array<std::string_view, 3> clockWords = {"DATE", "NOW", "TIME"};
+std::optional<bool> constantOf(std::string_view word)
+{
+    if (sameWord(word, "YES") || sameWord(word, "ON"))
+        return true;
+    if (sameWord(word, "NO") || sameWord(word, "OFF"))
+        return false;
+    return std::nullopt;
+}
+
+/// Whether the word is a function that needs no parentheses.
+bool readsClock(std::string_view word)
+{
+    return sameWord(word, "DATE") || sameWord(word, "NOW") || sameWord(word, "TIME");
+}
 
 const char *typeWord(DataType type)
 {
@@ -21,6 +33,12 @@ const char *typeWord(DataType type)
     if (type == DataType::Date)
         return "a date";
     return type == DataType::Boolean ? "a yes/no value" : "a number";
+}
+
+[[noreturn]] void raiseUnknownName(const Expression &source, const std::string &suggested)
+{
+    raiseError(MissingParameter, "No value given for one or more required parameters. '" +
+                                     excerpt(source.text) + "' is not known here." + suggested);
 }
 
 std::string inlineLiteral(const Literal &literal)
@@ -96,23 +114,17 @@ void Emitter::pin(int literal)
 
 std::string Emitter::fingerprint(const Expression &source, Scope &scope)
 {
-    const bool before = std::exchange(m_literalsAsValues, true);
-    const int subqueries = std::exchange(m_subqueries, 0);
-    std::string result = expression(source, scope).sql;
-    m_literalsAsValues = before;
-    m_subqueries = subqueries;
-    return result;
+    const Restored literals(m_literalsAsValues, true);
+    const Restored subqueries(m_subqueries, 0);
+    return expression(source, scope).sql;
 }
 
 std::string Emitter::conditionOf(const Expression &source, Scope &scope, std::string_view clause,
                                  Aggregates aggregates)
 {
-    const Aggregates outerAggregates = std::exchange(m_aggregates, aggregates);
-    const std::string_view outerClause = std::exchange(m_clause, clause);
-    std::string sql = conditionIn(source, scope);
-    m_aggregates = outerAggregates;
-    m_clause = outerClause;
-    return sql;
+    const Restored aggregatesHere(m_aggregates, aggregates);
+    const Restored clauseHere(m_clause, clause);
+    return conditionIn(source, scope);
 }
 
 std::string Emitter::conditionIn(const Expression &source, Scope &scope)
@@ -127,6 +139,21 @@ std::string Emitter::conditionIn(const Expression &source, Scope &scope)
 Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
 {
     const ComplexityGuard guard(*this);
+    Piece piece = ofKind(source, scope);
+    requireBounded(piece.sql);
+    return piece;
+}
+
+// What writes an operand twice makes the text of nested ones grow without measure.
+void Emitter::requireBounded(std::string_view sql)
+{
+    constexpr std::size_t longestSql = 4'000'000;
+    if (sql.size() > longestSql)
+        raiseError(SyntaxError, queryTooComplex);
+}
+
+Emitter::Piece Emitter::ofKind(const Expression &source, Scope &scope)
+{
     switch (source.kind) {
     case ExpressionKind::Literal:
         return literal(source);
@@ -149,11 +176,13 @@ Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
         return {.sql = "(~" + asBits(expression(*source.arguments[0], scope)) + ')',
                 .type = {DataType::Long}};
     case ExpressionKind::Not:
+        if (source.arguments[0]->kind == ExpressionKind::InList && !source.arguments[0]->negated)
+            return inList(*source.arguments[0], true, scope);
         return conditionPiece("(NOT " + conditionIn(*source.arguments[0], scope) + ')');
     case ExpressionKind::Arithmetic:
         return arithmetic(source, scope);
-    case ExpressionKind::Join:
-        return joinTexts(source, scope);
+    case ExpressionKind::Concatenate:
+        return concatenate(source, scope);
     case ExpressionKind::Logic:
         return logic(source, scope);
     case ExpressionKind::Compare:
@@ -167,7 +196,7 @@ Emitter::Piece Emitter::expression(const Expression &source, Scope &scope)
     case ExpressionKind::Between:
         return between(source, scope);
     case ExpressionKind::InList:
-        return inList(source, scope);
+        return inList(source, source.negated, scope);
     case ExpressionKind::IsNull: {
         const Piece operand = expression(*source.arguments[0], scope);
         return conditionPiece('(' + value(operand) + (source.negated ? " IS NOT NULL)" : " IS NULL)"));
@@ -212,6 +241,14 @@ Emitter::Piece Emitter::literal(const Expression &source)
     return piece;
 }
 
+Emitter::Piece Emitter::columnPiece(const ScopeSource &source, const TableColumn &column)
+{
+    return {.sql = quotedName(source.name) + '.' + quotedName(column.name),
+            .type = column.type,
+            .column = true,
+            .exact = isLong(column.type.type)};
+}
+
 Emitter::Piece Emitter::column(const Expression &source, Scope &scope)
 {
     for (Scope *at = &scope; at != nullptr; at = at->outer) {
@@ -220,10 +257,7 @@ Emitter::Piece Emitter::column(const Expression &source, Scope &scope)
             continue;
         if (at != &scope)
             at->borrowed.push_back(&source);
-        return {.sql = quotedName(found.source->name) + '.' + quotedName(found.column->name),
-                .type = found.column->type,
-                .column = true,
-                .exact = isLong(found.column->type.type)};
+        return columnPiece(*found.source, *found.column);
     }
     return alias(source, scope);
 }
@@ -233,31 +267,30 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
 {
     if (!source.qualifier.empty())
         raiseUnknown(source, scope);
-    for (std::size_t i = 0; scope.items != nullptr && i < scope.visibleItems; ++i) {
-        const SelectItem &item = (*scope.items)[i];
-        if (!item.expression || !sameName(item.alias, source.name))
+    for (Scope *at = &scope; at != nullptr; at = at->outer) {
+        const std::optional<std::size_t> index = at->itemNamed(source.name);
+        if (!index)
             continue;
-        const std::size_t visible = scope.visibleItems;
-        scope.visibleItems = i;
-        Piece piece = expression(*item.expression, scope);
-        scope.visibleItems = visible;
-        return piece;
+        const Expression &item = *(*at->items)[*index].expression;
+        const Restored visible(at->visibleItems, *index);
+        if (at == &scope)
+            return expression(item, scope);
+        if (scope.hides(*at))
+            raiseUnknown(source, scope);
+        at->borrowed.push_back(&item);
+        const Restored aggregates(m_aggregates, Aggregates::Forbidden);
+        const Restored clause(m_clause, std::string_view("sub-query"));
+        return expression(item, *at);
     }
     if (!source.bracketed) {
-        for (const std::string_view word : constantWords) {
-            if (sameWord(word, source.name))
-                return {.sql = word == "YES" || word == "ON" ? yes : no,
-                        .type = {DataType::Boolean},
-                        .exact = true};
-        }
-        for (const std::string_view word : clockWords) {
-            if (sameWord(word, source.name)) {
-                Expression call;
-                call.kind = ExpressionKind::Call;
-                call.name = word;
-                call.text = source.text;
-                return function(call, scope);
-            }
+        if (const std::optional<bool> value = constantOf(source.name))
+            return {.sql = *value ? yes : no, .type = {DataType::Boolean}, .exact = true};
+        if (readsClock(source.name)) {
+            Expression call;
+            call.kind = ExpressionKind::Call;
+            call.name = source.name;
+            call.text = source.text;
+            return function(call, scope);
         }
     }
     raiseUnknown(source, scope);
@@ -266,22 +299,24 @@ Emitter::Piece Emitter::alias(const Expression &source, Scope &scope)
 void Emitter::raiseUnknown(const Expression &source, const Scope &scope) const
 {
     std::vector<std::string_view> names;
-    std::vector<std::string_view> tables;
+    std::vector<std::string_view> tables; // that have such a column
     for (const Scope *at = &scope; at != nullptr; at = at->outer) {
-        for (const std::string_view table : at->sourceNames())
-            tables.push_back(table);
         for (const ScopeSource &table : at->sources) {
-            if (!source.qualifier.empty() && !sameName(table.name, source.qualifier))
-                continue;
-            for (const TableColumn &column : table.columns)
-                names.push_back(column.name);
+            if (source.qualifier.empty() || sameName(table.name, source.qualifier)) {
+                for (const TableColumn &column : table.columns)
+                    names.push_back(column.name);
+            } else if (table.column(source.name) != nullptr) {
+                // Under an alias a table is known by that only.
+                if (sameName(table.table, source.qualifier))
+                    raiseUnknownName(source, didYouMean(table.name + '.' + std::string(source.name)));
+                tables.push_back(table.name);
+            }
         }
     }
-    const bool tableKnown = source.qualifier.empty() || !names.empty();
-    raiseError(MissingParameter,
-               "No value given for one or more required parameters. '" + excerpt(source.text) +
-                   "' is not known here." +
-                   (tableKnown ? suggestion(source.name, names) : suggestion(source.qualifier, tables)));
+    const std::string_view table = nearest(source.qualifier, tables);
+    if (names.empty() && !table.empty())
+        raiseUnknownName(source, didYouMean(std::string(table) + '.' + std::string(source.name)));
+    raiseUnknownName(source, suggestion(source.name, names));
 }
 
 void Emitter::requireComparable(const Expression &source, const Piece &left, const Piece &right) const
@@ -313,13 +348,14 @@ Emitter::Piece Emitter::between(const Expression &source, Scope &scope)
                           value(high) + "))");
 }
 
-Emitter::Piece Emitter::inList(const Expression &source, Scope &scope)
+// NOT x IN (..) is x NOT IN (..).
+Emitter::Piece Emitter::inList(const Expression &source, bool negated, Scope &scope)
 {
     const Piece operand = expression(*source.arguments[0], scope);
     std::string list;
     for (std::size_t i = 1; i < source.arguments.size(); ++i) {
         // A Null in the list of NOT IN is as if it were not there.
-        if (source.negated && source.arguments[i]->kind == ExpressionKind::Null)
+        if (negated && source.arguments[i]->kind == ExpressionKind::Null)
             continue;
         const Piece item = expression(*source.arguments[i], scope);
         requireComparable(source, operand, item);
@@ -330,7 +366,7 @@ Emitter::Piece Emitter::inList(const Expression &source, Scope &scope)
     if (list.empty())
         sql = '(' + left + " IS NOT NULL)";
     else
-        sql = '(' + left + (source.negated ? " NOT IN (" : " IN (") + list + "))";
+        sql = '(' + left + (negated ? " NOT IN (" : " IN (") + list + "))";
     return conditionPiece(sql);
 }
 

@@ -50,10 +50,10 @@ void Emitter::addSources(const Source &source, Scope &scope)
     if (source.query) {
         const Rows rows = query(*source.query, scope.outer);
         for (const OutputColumn &column : rows.columns)
-            entry.columns.push_back({column.name, column.type, false});
+            entry.columns.push_back({column.name, column.type});
         entry.name = source.alias.empty() ? std::string(unnamedQuery) + std::to_string(++m_subqueries)
                                           : std::string(source.alias);
-        m_derivedTables[&source] = '(' + rows.sql + ") AS " + quotedName(entry.name);
+        m_derivedTables[&source] = {.rows = rows.sql, .name = entry.name};
     } else {
         const Table &table = m_catalog.table(source.table);
         entry.name = source.alias.empty() ? table.name : std::string(source.alias);
@@ -85,11 +85,12 @@ std::string Emitter::from(const std::vector<std::unique_ptr<Source>> &sources, S
 std::string Emitter::rowIdOf(const ScopeSource &source, const std::vector<std::unique_ptr<Source>> &sources,
                              Scope &scope) const
 {
-    const std::string rowId(rowIdName(m_catalog.table(source.table)));
-    // SQLite knows no row ids of the tables of a join in parentheses.
+    // SQLite knows no row ids of the tables of a join in parentheses, and none of a query.
     const bool nested = sources.size() > 1 ? std::ranges::any_of(sources, hasJoin) : hasOuterJoin(sources[0]);
-    scope.sources[std::size_t(&source - scope.sources.data())].givesRowId = nested;
-    return quotedName(source.name) + '.' + (nested ? "\"%row\"" : rowId);
+    const bool given = nested || !source.isTable();
+    scope.sources[std::size_t(&source - scope.sources.data())].givesRowId = given;
+    return quotedName(source.name) + '.' +
+           (given ? "\"%row\"" : std::string(rowIdName(m_catalog.table(source.table))));
 }
 
 // What stands outside of a join is not known in its condition.
@@ -97,8 +98,9 @@ std::string Emitter::joinCondition(const Source &join, Scope &scope)
 {
     const std::size_t before = scope.borrowed.size();
     std::string sql = conditionOf(*join.on, scope, "JOIN operation");
-    std::vector<const Expression *> columns(scope.borrowed.begin() + std::ptrdiff_t(before),
-                                            scope.borrowed.end());
+    std::vector<const Expression *> columns;
+    for (std::size_t i = before; i < scope.borrowed.size(); ++i)
+        collectColumns(*scope.borrowed[i], columns);
     collectColumns(*join.on, columns);
     for (const Expression *column : columns) {
         const Scope::Found found = scope.find(column->qualifier, column->name);
@@ -127,8 +129,12 @@ void Emitter::innerParts(const Source &source, Scope &scope, std::vector<std::st
 std::string Emitter::joined(const Source &source, Scope &scope)
 {
     if (!source.left) {
-        if (source.query)
-            return m_derivedTables.at(&source);
+        if (source.query) {
+            const DerivedTable &derived = m_derivedTables.at(&source);
+            const bool givesRowId = scope.source(derived.name)->givesRowId;
+            return (givesRowId ? "(SELECT ROW_NUMBER() OVER () AS \"%row\", * FROM (" : "(") + derived.rows +
+                   (givesRowId ? ")) AS " : ") AS ") + quotedName(derived.name);
+        }
         const Table &table = m_catalog.table(source.table);
         const ScopeSource &entry = *scope.source(source.alias.empty() ? table.name : source.alias);
         std::string sql = quotedName(table.name);

@@ -37,6 +37,22 @@ std::string concatenated(std::span<const std::string> operands)
     return sql + ')';
 }
 
+bool isProduct(const Expression &expression)
+{
+    return expression.kind == ExpressionKind::Arithmetic &&
+           (expression.name == "*" || expression.name == "/");
+}
+
+bool isLongProduct(const Expression &expression)
+{
+    constexpr int longest = 10;
+    int factors = 0;
+    for (const Expression *at = &expression; factors <= longest && isProduct(*at);
+         at = at->arguments[0].get())
+        ++factors;
+    return factors > longest;
+}
+
 } // namespace
 
 // Whole numbers are as exact as 64 bits; floating ones and dates are checked where the chain
@@ -59,8 +75,31 @@ Emitter::Piece Emitter::infix(std::string_view sign, const Piece &left, const Pi
             .chain = level};
 }
 
+// a * b / c ... of many factors is one call: a call within a call for each of them is soon too deep for
+// SQLite.
+Emitter::Piece Emitter::product(const Expression &source, Scope &scope)
+{
+    constexpr std::size_t mostFactors = 100; // SQLite bounds the arguments of a call
+    std::vector<const Expression *> parts;
+    for (const Expression *at = &source; isProduct(*at); at = at->arguments[0].get())
+        parts.push_back(at);
+    std::string sql = value(expression(*parts.back()->arguments[0], scope));
+    while (!parts.empty()) {
+        std::string signs;
+        std::string operands;
+        for (; !parts.empty() && signs.size() < mostFactors; parts.pop_back()) {
+            signs += parts.back()->name;
+            operands += ", " + value(expression(*parts.back()->arguments[1], scope));
+        }
+        sql = "jet_product('" + signs + "', " + sql + operands + ')';
+    }
+    return {.sql = std::move(sql), .type = {DataType::Double}};
+}
+
 Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
 {
+    if (isLongProduct(source))
+        return product(source, scope);
     const Piece left = expression(*source.arguments[0], scope);
     const Piece right = expression(*source.arguments[1], scope);
     const std::string_view sign = source.name;
@@ -111,7 +150,7 @@ std::string Emitter::asBits(const Piece &piece)
     return "jet_clng(" + asNumber(piece) + ')';
 }
 
-Emitter::Piece Emitter::joinTexts(const Expression &source, Scope &scope)
+Emitter::Piece Emitter::concatenate(const Expression &source, Scope &scope)
 {
     std::vector<std::string> operands;
     for (const ExpressionPtr &operand : source.arguments)

@@ -1,5 +1,8 @@
+#include "platform/jet/collation.h"
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
+#include "platform/jet/restored.h"
+#include "platform/jet/schemachange.h"
 
 #include <algorithm>
 
@@ -11,10 +14,17 @@ std::string keyName(std::size_t index)
     return "\"k" + std::to_string(index) + '"';
 }
 
+bool isWholeNumber(const Literal &literal)
+{
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return literal.kind == TokenKind::Integer ||
+           (literal.kind == TokenKind::Float && std::ranges::all_of(literal.text, isDigit));
+}
+
 bool isPosition(const OrderItem &item, const std::vector<Literal> &literals)
 {
     return item.expression->kind == ExpressionKind::Literal &&
-           literals[std::size_t(item.expression->literal)].kind == TokenKind::Integer;
+           isWholeNumber(literals[std::size_t(item.expression->literal)]);
 }
 
 /// Whether a column of the source stands in the expression; a sub-query may hold any.
@@ -28,10 +38,9 @@ bool uses(const Expression &expression, const ScopeSource &source, const Scope &
                                [&](const ExpressionPtr &argument) { return uses(*argument, source, scope); });
 }
 
-[[noreturn]] void raiseNoSuchPosition(std::string_view text)
+[[noreturn]] void raiseNoSource()
 {
-    raiseError(SyntaxError,
-               "Syntax error in ORDER BY clause. There is no column " + std::string(text) + " to order by.");
+    raiseError(SyntaxError, "Query input must contain at least one table or query.");
 }
 
 } // namespace
@@ -39,11 +48,10 @@ bool uses(const Expression &expression, const ScopeSource &source, const Scope &
 Emitter::Rows Emitter::query(const Query &query, Scope *outer, bool numbered)
 {
     const ComplexityGuard guard(*this);
-    const Aggregates aggregates = m_aggregates;
-    m_aggregates = Aggregates::Allowed;
+    const Restored aggregates(m_aggregates, Aggregates::Allowed);
     Rows rows = query.arms.size() == 1 ? select(query.arms[0], query.orderBy, outer, numbered)
                                        : unionOf(query, outer, numbered);
-    m_aggregates = aggregates;
+    requireBounded(rows.sql);
     return rows;
 }
 
@@ -107,15 +115,17 @@ Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
     for (const OrderItem &item : query.orderBy) {
         std::size_t position = 0;
         if (isPosition(item, m_literals)) {
-            pin(item.expression->literal);
-            position = static_cast<std::size_t>(m_literals[std::size_t(item.expression->literal)].number);
+            position = this->position(item, result.columns.size());
         } else if (item.expression->kind == ExpressionKind::Column && item.expression->qualifier.empty()) {
             for (std::size_t i = 0; i < result.columns.size() && position == 0; ++i) {
                 if (sameName(result.columns[i].name, item.expression->name))
                     position = i + 1;
             }
-        }
-        if (position == 0 || position > result.columns.size())
+        } else
+            raiseError(SyntaxError, "The rows of a union query are ordered by the names of its columns or by "
+                                    "their positions only, not by '" +
+                                        excerpt(item.expression->text) + "'.");
+        if (position == 0)
             raiseError(SyntaxError,
                        "The ORDER BY expression (" + excerpt(item.expression->text) +
                            ") includes fields that are not selected by the query.  Only those fields "
@@ -134,6 +144,11 @@ Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
 std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope)
 {
     std::vector<Output> result;
+    const auto add = [&result](Output output) {
+        if (result.size() == mostColumns)
+            raiseError(SyntaxError, queryTooComplex);
+        result.push_back(std::move(output));
+    };
     scope.items = &select.items;
     for (std::size_t i = 0; i < select.items.size(); ++i) {
         const SelectItem &item = select.items[i];
@@ -153,25 +168,22 @@ std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope
                     }
                 }
             }
-            result.push_back(std::move(output));
+            add(std::move(output));
             continue;
         }
         if (!item.starOf.empty() && scope.source(item.starOf) == nullptr)
             raiseMissingSource(item.starOf, scope.sourceNames());
         if (scope.sources.empty())
-            raiseError(SyntaxError, "Query input must contain at least one table or query.");
+            raiseNoSource();
         for (const ScopeSource &source : scope.sources) {
             if (!item.starOf.empty() && !sameName(source.name, item.starOf))
                 continue;
             for (const TableColumn &column : source.columns) {
                 Output output;
-                output.piece = {.sql = quotedName(source.name) + '.' + quotedName(column.name),
-                                .type = column.type,
-                                .column = true,
-                                .exact = isWhole(column.type.type)};
+                output.piece = columnPiece(source, column);
                 output.name = column.name;
                 output.table = source.name;
-                result.push_back(std::move(output));
+                add(std::move(output));
             }
         }
     }
@@ -182,31 +194,35 @@ std::vector<Emitter::Output> Emitter::outputs(const Select &select, Scope &scope
 
 // Equal names of different tables are told apart by the table; what has no name or one that
 // is taken is called Expr1000, Expr1001 ...
-void Emitter::nameOutputs(std::vector<Output> &outputs) const
+void Emitter::nameOutputs(std::vector<Output> &outputs)
 {
-    const auto nameAgain = [](const Output &a, const Output &b) {
-        return !a.name.empty() && sameName(a.name, b.name);
+    struct Tables
+    {
+        std::string first;
+        bool several = false;
     };
-    std::vector<std::string> qualified(outputs.size());
-    for (std::size_t i = 0; i < outputs.size(); ++i) {
-        for (const Output &other : outputs) {
-            if (!outputs[i].table.empty() && !other.table.empty() && nameAgain(outputs[i], other) &&
-                !sameName(outputs[i].table, other.table))
-                qualified[i] = outputs[i].table + '.' + outputs[i].name;
-        }
-    }
-    int unnamed = 1000;
-    for (std::size_t i = 0; i < outputs.size(); ++i) {
-        Output &output = outputs[i];
-        if (!qualified[i].empty())
-            output.name = qualified[i];
-        const auto taken = [&](const Output &other) { return &other != &output && nameAgain(other, output); };
-        const auto self = outputs.begin() + std::ptrdiff_t(i);
-        if (!output.name.empty() && std::none_of(outputs.begin(), self, taken))
+    std::map<std::string, Tables> tablesOf;
+    std::set<std::string> written;
+    for (const Output &output : outputs) {
+        const std::string name = foldCase(output.name);
+        written.insert(name);
+        if (output.table.empty())
             continue;
-        do
+        const auto [entry, isNew] = tablesOf.try_emplace(name, Tables{output.table});
+        entry->second.several = entry->second.several || !sameName(entry->second.first, output.table);
+    }
+    std::set<std::string> taken;
+    int unnamed = 1000;
+    for (Output &output : outputs) {
+        if (!output.table.empty() && tablesOf.at(foldCase(output.name)).several)
+            output.name = output.table + '.' + output.name;
+        if (!output.name.empty() && taken.insert(foldCase(output.name)).second)
+            continue;
+        std::string name;
+        do {
             output.name = "Expr" + std::to_string(unnamed++);
-        while (std::any_of(outputs.begin(), outputs.end(), taken));
+            name = foldCase(output.name);
+        } while (written.contains(name) || !taken.insert(name).second);
     }
 }
 
@@ -232,7 +248,7 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     std::vector<Output> columns = outputs(select, scope);
     const bool listHasAggregate = scope.hasAggregate;
     if (select.from.empty() && select.where)
-        raiseError(SyntaxError, "Query input must contain at least one table or query.");
+        raiseNoSource();
 
     std::string tail;
     if (!source.empty())
@@ -278,6 +294,7 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     if (select.top) {
         pin(select.topLiteral);
         result.sql += " LIMIT " + std::to_string(*select.top);
+        result.limited = true;
     }
     return result;
 }
@@ -285,24 +302,28 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
 std::string Emitter::groupsOf(const Select &select, Scope &scope)
 {
     std::string groups;
-    for (const ExpressionPtr &group : select.groupBy) {
-        m_aggregates = Aggregates::Forbidden;
-        m_clause = "GROUP BY clause";
+    const Restored aggregates(m_aggregates, Aggregates::Forbidden);
+    const Restored clause(m_clause, std::string_view("GROUP BY clause"));
+    for (const ExpressionPtr &group : select.groupBy)
         groups += (groups.empty() ? " GROUP BY " : ", ") + collated(expression(*group, scope));
-        m_aggregates = Aggregates::Allowed;
-    }
     return groups;
+}
+
+std::size_t Emitter::position(const OrderItem &item, std::size_t columns)
+{
+    pin(item.expression->literal);
+    const double position = m_literals[std::size_t(item.expression->literal)].number;
+    if (position < 1 || position > double(columns))
+        raiseError(SyntaxError, "Syntax error in ORDER BY clause. There is no column " +
+                                    excerpt(item.expression->text) + " to order by.");
+    return static_cast<std::size_t>(position);
 }
 
 std::string Emitter::orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
                               Scope &scope)
 {
     if (isPosition(item, m_literals)) {
-        pin(item.expression->literal);
-        const double position = m_literals[std::size_t(item.expression->literal)].number;
-        if (position < 1 || position > double(outputs.size()))
-            raiseNoSuchPosition(item.expression->text);
-        return collated(outputs[static_cast<std::size_t>(position) - 1].piece);
+        return collated(outputs[position(item, outputs.size()) - 1].piece);
     }
     std::string key = collated(expression(*item.expression, scope));
     if (select.distinct) {
@@ -357,22 +378,22 @@ void Emitter::checkGrouped(const Expression &source, const std::set<std::string>
         checkGrouped(*argument, keys, scope);
 }
 
-// Groups by the rows of the tables that are shown in part of the columns; nothing where all are.
+// Groups by the rows of the sources that are shown in part of the columns; nothing where all are.
 std::string Emitter::distinctRows(const Select &select, Scope &scope) const
 {
-    std::string shown;
-    bool allShown = true;
+    std::vector<const ScopeSource *> shown;
     for (const ScopeSource &source : scope.sources) {
         const bool selected = std::ranges::any_of(select.items, [&](const SelectItem &item) {
             return item.expression ? uses(*item.expression, source, scope)
                                    : item.starOf.empty() || sameName(item.starOf, source.name);
         });
-        if (selected && source.isTable())
-            shown += (shown.empty() ? " GROUP BY " : ", ") + rowIdOf(source, select.from, scope);
-        else
-            allShown = false;
+        if (selected)
+            shown.push_back(&source);
     }
-    return allShown ? std::string() : shown;
+    std::string groups;
+    for (std::size_t i = 0; i < shown.size() && shown.size() < scope.sources.size(); ++i)
+        groups += (i == 0 ? " GROUP BY " : ", ") + rowIdOf(*shown[i], select.from, scope);
+    return groups;
 }
 
 // TOP takes all rows that tie with the last one, so rows are ranked by their order.

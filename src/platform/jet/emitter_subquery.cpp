@@ -69,10 +69,9 @@ Emitter::Piece Emitter::scalar(const Expression &source, Scope &scope)
     const Rows rows = singleColumn(source, scope, true);
     std::string sql = "(SELECT CASE WHEN COUNT(*) > 1 THEN jet_raise(";
     sql += std::to_string(Failure);
-    sql += ", 'At most one record can be returned by this subquery.') ELSE MAX(\"c0\") END FROM (SELECT "
-           "\"c0\" FROM (";
-    sql += rows.sql;
-    sql += ") LIMIT 2))";
+    sql += ", 'At most one record can be returned by this subquery.') ELSE MAX(\"c0\") END FROM (";
+    sql += rows.limited ? "SELECT \"c0\" FROM (" + rows.sql + ')' : rows.sql;
+    sql += " LIMIT 2))";
     return {.sql = std::move(sql), .type = rows.columns[0].type};
 }
 

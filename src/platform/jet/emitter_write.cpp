@@ -1,28 +1,11 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
+#include "platform/jet/schemachange.h"
 
 #include <algorithm>
 
 namespace jet {
 namespace {
-
-std::string columnDefinition(std::string_view name, ColumnType type, bool notNull, bool counter)
-{
-    std::string sql = quotedName(name) + ' ';
-    if (counter)
-        return sql + "INTEGER PRIMARY KEY AUTOINCREMENT CHECK (" + quotedName(name) + " <= 2147483647)";
-    sql += declaration(type.type == DataType::Counter ? ColumnType{DataType::Long} : type);
-    if (isText(type.type))
-        sql += " COLLATE JET";
-    if (type.type == DataType::Boolean)
-        return sql + " NOT NULL DEFAULT 0";
-    return notNull ? sql + " NOT NULL" : sql;
-}
-
-bool isAmong(std::string_view name, const std::vector<std::string_view> &names)
-{
-    return std::ranges::any_of(names, [&](std::string_view other) { return sameName(other, name); });
-}
 
 bool holdsQuery(const Expression &expression)
 {
@@ -38,23 +21,6 @@ bool holdsQuery(const Update &update)
                                [](const Assignment &assignment) { return holdsQuery(*assignment.value); });
 }
 
-std::vector<std::string_view> columnNames(const Table &table)
-{
-    std::vector<std::string_view> names;
-    for (const TableColumn &column : table.columns)
-        names.push_back(column.name);
-    return names;
-}
-
-const TableColumn *requireColumn(const Table &table, std::string_view name)
-{
-    const TableColumn *column = table.column(name);
-    if (column == nullptr)
-        raiseError(MissingParameter, "No such field '" + std::string(name) + "' in table '" + table.name +
-                                         "'." + suggestion(name, columnNames(table)));
-    return column;
-}
-
 const TableColumn *requireDestination(const Table &table, std::string_view name)
 {
     const TableColumn *column = table.column(name);
@@ -63,53 +29,8 @@ const TableColumn *requireDestination(const Table &table, std::string_view name)
                    "The INSERT INTO statement contains the following unknown field name: '" +
                        std::string(name) +
                        "'.  Make sure you have typed the name correctly, and try the operation again." +
-                       suggestion(name, columnNames(table)));
+                       suggestion(name, table.columnNames()));
     return column;
-}
-
-// SQLite keeps such names for itself.
-void requireOwnName(std::string_view name)
-{
-    constexpr std::string_view reserved = "sqlite_";
-    if (sameWord(name.substr(0, reserved.size()), reserved))
-        raiseError(SyntaxError, "'" + std::string(name) + "' is not a valid name. Names do not begin with '" +
-                                    std::string(reserved) + "'.");
-}
-
-void requireNewTable(Catalog &catalog, std::string_view name)
-{
-    requireOwnName(name);
-    if (catalog.find(name) != nullptr)
-        raiseError(TableExists, "Table '" + std::string(name) + "' already exists.");
-    if (catalog.isTaken(name))
-        raiseError(TableExists, "'" + std::string(name) + "' is the name of an index already.");
-}
-
-void requireSoundColumns(const CreateTable &table)
-{
-    std::vector<std::string_view> names;
-    for (const ColumnDefinition &column : table.columns) {
-        if (isAmong(column.name, names))
-            raiseError(SyntaxError, "Cannot define field more than once. '" + std::string(column.name) +
-                                        "' stands there twice.");
-        names.push_back(column.name);
-    }
-    for (const std::string_view column : table.primaryKey) {
-        if (!isAmong(column, names))
-            raiseError(MissingParameter, "No such field '" + std::string(column) + "' in table '" +
-                                             std::string(table.table) + "'." + suggestion(column, names));
-    }
-}
-
-const Table &existing(Catalog &catalog, std::string_view name)
-{
-    const Table *table = catalog.find(name);
-    if (table == nullptr) {
-        const std::vector<std::string> names = catalog.tableNames();
-        raiseError(MissingTable, "Table '" + std::string(name) + "' does not exist." +
-                                     suggestion(name, {names.begin(), names.end()}));
-    }
-    return *table;
 }
 
 } // namespace
@@ -117,7 +38,21 @@ const Table &existing(Catalog &catalog, std::string_view name)
 EmittedStatement Emitter::emit(const Statement &statement)
 {
     EmittedStatement result;
-    std::visit([&](const auto &kind) { write(kind, result); }, statement);
+    std::visit(
+        [&](const auto &kind) {
+            if constexpr (requires { write(kind, result); })
+                write(kind, result);
+            else
+                result.sql = schemaChange(m_catalog, kind);
+        },
+        statement);
+    const auto *query = std::get_if<Query>(&statement);
+    const bool changesRows = std::holds_alternative<Insert>(statement) ||
+                             std::holds_alternative<Update>(statement) ||
+                             std::holds_alternative<Delete>(statement);
+    const bool reads = query != nullptr && query->arms.front().into.empty();
+    result.writes = !reads;
+    result.changesSchema = !reads && !changesRows;
     std::sort(m_pinned.begin(), m_pinned.end());
     m_pinned.erase(std::unique(m_pinned.begin(), m_pinned.end()), m_pinned.end());
     result.pinned = m_pinned;
@@ -148,8 +83,6 @@ void Emitter::write(const Query &source, EmittedStatement &result)
     }
     result.before.push_back("CREATE TABLE " + quotedName(into) + " (" + columns + ')');
     result.sql = "INSERT INTO " + quotedName(into) + " SELECT " + values + " FROM (" + rows.sql + ')';
-    result.writes = true;
-    result.changesSchema = true;
 }
 
 // What a column of its type takes of a value; `exact` values are taken as they are.
@@ -197,11 +130,9 @@ std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
 void Emitter::write(const Insert &insert, EmittedStatement &result)
 {
     const Table *table = m_catalog.find(insert.table);
-    if (table == nullptr) {
-        const std::vector<std::string> names = m_catalog.tableNames();
+    if (table == nullptr)
         raiseError(MissingTable, "Could not find output table '" + std::string(insert.table) + "'." +
-                                     suggestion(insert.table, {names.begin(), names.end()}));
-    }
+                                     m_catalog.suggestion(insert.table));
 
     std::vector<const TableColumn *> columns;
     for (const std::string_view name : insert.columns) {
@@ -215,7 +146,6 @@ void Emitter::write(const Insert &insert, EmittedStatement &result)
     for (const TableColumn *column : columns)
         list += (list.empty() ? " (" : ", ") + quotedName(column->name);
     result.sql = "INSERT INTO " + quotedName(table->name) + list + ") " + rows;
-    result.writes = true;
 }
 
 std::string Emitter::insertedRows(const Insert &insert, std::vector<const TableColumn *> &columns,
@@ -274,8 +204,13 @@ void Emitter::write(const Update &update, EmittedStatement &result)
         const Scope::Found found = scope.find(assignment.column->qualifier, assignment.column->name);
         if (found.column == nullptr)
             raiseUnknown(*assignment.column, scope);
-        if (!found.source->isTable() || (target != nullptr && target != found.source))
-            raiseError(Failure, "Operation must use an updatable query.");
+        if (!found.source->isTable())
+            raiseError(Failure, "Operation must use an updatable query. '" +
+                                    excerpt(assignment.column->text) +
+                                    "' is a column of a query, not of a table.");
+        if (target != nullptr && target != found.source)
+            raiseError(Failure, "Operation must use an updatable query. '" + target->name + "' and '" +
+                                    found.source->name + "' cannot be changed at once.");
         if (found.column->type.type == DataType::Counter)
             raiseError(Failure, "Cannot update '" + found.column->name + "'; field not updateable.");
         if (std::find(changedColumns.begin(), changedColumns.end(), found.column) != changedColumns.end())
@@ -291,7 +226,6 @@ void Emitter::write(const Update &update, EmittedStatement &result)
     const std::string where = this->where(update.where, scope);
     const std::string row = workedOutFirst ? rowIdOf(*target, update.sources, scope) : std::string();
     const std::string source = from(update.sources, scope);
-    result.writes = true;
     if (!workedOutFirst) {
         result.sql = "UPDATE " + source + " SET " + assignments + where;
         return;
@@ -313,7 +247,6 @@ void Emitter::write(const Delete &statement, EmittedStatement &result)
     Scope scope;
     addSources(statement.sources, scope);
     const std::string where = this->where(statement.where, scope);
-    result.writes = true;
     const bool joinedTables = scope.sources.size() > 1;
     if (joinedTables && statement.starOf.empty())
         raiseError(Failure, "Specify the table containing the records you want to delete.");
@@ -331,78 +264,6 @@ void Emitter::write(const Delete &statement, EmittedStatement &result)
     result.sql = "DELETE FROM " + quotedName(target->table) + " WHERE " +
                  std::string(rowIdName(m_catalog.table(target->table))) + " IN (SELECT " + row + " FROM " +
                  from(statement.sources, scope) + where + ')';
-}
-
-void Emitter::write(const CreateTable &table, EmittedStatement &result)
-{
-    requireNewTable(m_catalog, table.table);
-    requireSoundColumns(table);
-    std::string columns;
-    std::string counter;
-    for (const ColumnDefinition &column : table.columns) {
-        // SQLite counts in the primary key only, so a counter is always that.
-        const bool counts = column.type.type == DataType::Counter;
-        if (counts && !counter.empty())
-            raiseError(SyntaxError, "Table '" + std::string(table.table) + "' has more than one counter.");
-        if (counts)
-            counter = column.name;
-        columns += (columns.empty() ? "" : ", ") +
-                   columnDefinition(column.name, column.type,
-                                    column.notNull || isAmong(column.name, table.primaryKey), counts) +
-                   (column.unique && !counts ? " UNIQUE" : "");
-    }
-    const bool onCounter = table.primaryKey.size() == 1 && sameName(table.primaryKey[0], counter);
-    if (!table.primaryKey.empty() && !onCounter) {
-        std::string key;
-        for (const std::string_view name : table.primaryKey) {
-            const auto column = std::ranges::find_if(
-                table.columns, [&](const ColumnDefinition &other) { return sameName(other.name, name); });
-            key += (key.empty() ? "" : ", ") + quotedName(column->name);
-        }
-        columns += (counter.empty() ? ", PRIMARY KEY (" : ", UNIQUE (") + key + ')';
-    }
-    result.sql = "CREATE TABLE " + quotedName(table.table) + " (" + columns + ')';
-    result.writes = true;
-    result.changesSchema = true;
-}
-
-void Emitter::write(const CreateIndex &index, EmittedStatement &result)
-{
-    const Table &table = m_catalog.table(index.table);
-    requireOwnName(index.index);
-    if (!m_catalog.indexName(table, index.index).empty())
-        raiseError(Failure, "Table '" + table.name + "' already has an index named '" +
-                                std::string(index.index) + "'.");
-    std::string columns;
-    for (const auto &[name, descending] : index.columns) {
-        // SQLite does not fold the case of accented letters: only the name of the definition will do.
-        columns += (columns.empty() ? "" : ", ") + quotedName(requireColumn(table, name)->name) +
-                   (descending ? " DESC" : "");
-    }
-    result.sql = std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
-                 quotedName(m_catalog.freeIndexName(table, index.index)) + " ON " + quotedName(table.name) +
-                 " (" + columns + ')';
-    result.writes = true;
-    result.changesSchema = true;
-}
-
-void Emitter::write(const DropTable &table, EmittedStatement &result)
-{
-    result.sql = "DROP TABLE " + quotedName(existing(m_catalog, table.table).name);
-    result.writes = true;
-    result.changesSchema = true;
-}
-
-void Emitter::write(const DropIndex &index, EmittedStatement &result)
-{
-    const Table &table = existing(m_catalog, index.table);
-    const std::string name = m_catalog.indexName(table, index.index);
-    if (name.empty())
-        raiseError(Failure,
-                   "No such index '" + std::string(index.index) + "' on table '" + table.name + "'.");
-    result.sql = "DROP INDEX " + quotedName(name);
-    result.writes = true;
-    result.changesSchema = true;
 }
 
 } // namespace jet

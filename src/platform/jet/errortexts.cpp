@@ -1,7 +1,6 @@
 #include "platform/jet/errortexts.h"
 
 #include "base/error.h"
-#include "platform/jet/lexer.h"
 #include "platform/jet/utf8.h"
 
 #include <algorithm>
@@ -44,7 +43,7 @@ void raiseSyntax(std::string_view text, std::string_view statement, std::size_t 
         while (end < statement.size() && (static_cast<unsigned char>(statement[end]) & 0xc0) == 0x80)
             ++end;
         message += " Near '" + excerpt(statement.substr(offset, end - offset)) + "' at " +
-                   std::to_string(characterAt(statement, offset)) + '.';
+                   std::to_string(utf8::length(statement.substr(0, offset)) + 1) + '.';
     }
     raiseError(number, message);
 }
@@ -54,7 +53,12 @@ void raiseInExpression(int number, std::string_view what, std::string_view expre
     raiseError(number, std::string(what) + " in query expression '" + excerpt(expression) + "'.");
 }
 
-std::string suggestion(std::string_view word, const std::vector<std::string_view> &names)
+std::string didYouMean(std::string_view name)
+{
+    return " Did you mean '" + std::string(name) + "'?";
+}
+
+std::string_view nearest(std::string_view word, const std::vector<std::string_view> &names)
 {
     constexpr std::size_t longestName = 64;
     if (word.size() > longestName)
@@ -68,7 +72,13 @@ std::string suggestion(std::string_view word, const std::vector<std::string_view
             nearest = name;
         }
     }
-    return nearest.empty() ? std::string() : " Did you mean '" + std::string(nearest) + "'?";
+    return nearest;
+}
+
+std::string suggestion(std::string_view word, const std::vector<std::string_view> &names)
+{
+    const std::string_view name = nearest(word, names);
+    return name.empty() ? std::string() : didYouMean(name);
 }
 
 void raiseMissingSource(std::string_view name, const std::vector<std::string_view> &known)

@@ -27,7 +27,13 @@ inline constexpr std::string_view notUpdatable = "Operation must use an updatabl
 /// Raises "WHAT in query expression 'EXPRESSION'."
 [[noreturn]] void raiseInExpression(int number, std::string_view what, std::string_view expression);
 
-/// " Did you mean 'NAME'?" with the nearest of the names, or nothing when none is near.
+/// " Did you mean 'NAME'?"
+[[nodiscard]] std::string didYouMean(std::string_view name);
+
+/// The name that the word may have been meant to be, empty when none is near.
+[[nodiscard]] std::string_view nearest(std::string_view word, const std::vector<std::string_view> &names);
+
+/// didYouMean() with the nearest of the names, or nothing when none is near.
 [[nodiscard]] std::string suggestion(std::string_view word, const std::vector<std::string_view> &names);
 
 /// Raises MissingTable for a table or query to read from.

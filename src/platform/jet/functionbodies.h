@@ -87,6 +87,9 @@ void weekday(Call &call);
 void weekdayName(Call &call);
 void year(Call &call);
 
+// functions_product.cpp
+void product(Call &call);
+
 // functions_format.cpp
 void format(Call &call);
 

@@ -59,6 +59,7 @@ struct FunctionInfo
 ///   jet_add(a, b)        the + of values whose types only running tells: two texts are
 ///                        joined, otherwise numbers added; Null with anything is Null
 ///   jet_sub, jet_mul     the same for - and *
+///   jet_product('*/', a, b, c)   a * b / c, as many as there are signs
 ///   jet_div, jet_idiv, jet_mod, jet_pow, jet_bxor   the arithmetic that SQLite lacks
 ///   jet_band, jet_bor    of values that are no whole numbers of 32 bits
 ///   jet_raise(number, text)   raises

@@ -116,6 +116,7 @@ constexpr NamedBinding operators[] = {
     {"jet_add", {add}},
     {"jet_sub", {subtract}},
     {"jet_mul", {multiply}},
+    {"jet_product", {bodies::product}},
     {"jet_band", {combineBits<std::bit_and<>>}},
     {"jet_bor", {combineBits<std::bit_or<>>}},
     {"jet_bxor", {combineBits<std::bit_xor<>>}},

@@ -1,11 +1,10 @@
 #include "platform/jet/lexer.h"
 
 #include "platform/jet/datemath.h"
-#include "platform/jet/errortexts.h"
 #include "platform/jet/numbertext.h"
+#include "platform/jet/words.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -60,9 +59,17 @@ Token Lexer::finish(TokenKind kind, std::size_t start, std::string_view text)
     token.text = text;
     token.offset = start;
     token.end = m_at;
+    m_behindPoint = m_lastKind == TokenKind::Symbol && (m_lastText == "." || m_lastText == "!");
     m_lastKind = kind;
     m_lastText = text;
     return token;
+}
+
+Token Lexer::unreadable(const Fault &fault)
+{
+    m_fault = fault;
+    m_at = m_statement.size();
+    return finish(TokenKind::Unreadable, fault.offset, m_statement.substr(fault.offset));
 }
 
 Token Lexer::finishLiteral(Token token, Literal literal)
@@ -102,7 +109,7 @@ Token Lexer::next()
             return symbol(2);
         return symbol(1);
     default:
-        raiseSyntax("Syntax error", m_statement, m_at, m_at + 1);
+        return unreadable({"Syntax error", m_at, m_at + 1});
     }
 }
 
@@ -125,21 +132,17 @@ Token Lexer::name()
     return finish(TokenKind::Name, start, m_statement.substr(start, m_at - start));
 }
 
-// Tells a sign that begins a number from one that stands between two operands. Behind a word
-// like these an operand begins; a column of such a name is bracketed.
+// Tells a sign that begins a number from one that stands between two operands. Behind a reserved
+// word an operand begins; a column of such a name is bracketed, or stands behind its table.
 bool Lexer::operandBefore() const
 {
-    static constexpr std::array<std::string_view, 20> words = {
-        "select", "and",  "or",   "not", "like", "in",  "where", "between", "by",       "band",
-        "bor",    "bxor", "bnot", "mod", "xor",  "eqv", "imp",   "having",  "distinct", "all"};
     switch (m_lastKind) {
     case TokenKind::End:
         return false;
     case TokenKind::Symbol:
         return m_lastText == ")";
     case TokenKind::Name:
-        return std::none_of(words.begin(), words.end(),
-                            [this](std::string_view word) { return sameWord(word, m_lastText); });
+        return m_behindPoint || !isReserved(m_lastText) || isReservedValue(m_lastText);
     default:
         return true;
     }
@@ -157,7 +160,7 @@ Token Lexer::number()
         const auto [last, error] = std::from_chars(begin + 2, end, hex, 16);
         m_at = static_cast<std::size_t>(last - m_statement.data());
         if (error != std::errc())
-            raiseSyntax("Syntax error in number", m_statement, start, m_at);
+            return unreadable({"Syntax error in number", start, m_at});
         literal.number = signedBits(hex);
     } else {
         const char *at = begin;
@@ -183,11 +186,11 @@ Token Lexer::number()
             literal.kind = TokenKind::Float;
         m_at = static_cast<std::size_t>(at - m_statement.data());
         if (std::isinf(literal.number))
-            raiseSyntax("Syntax error in number", m_statement, start, m_at);
+            return unreadable({"Syntax error in number", start, m_at});
     }
     // 12abc is neither a number nor a name.
     if (m_at < m_statement.size() && classOf(m_statement[m_at]) == Letter)
-        raiseSyntax("Syntax error in number", m_statement, start, m_at + 1);
+        return unreadable({"Syntax error in number", start, m_at + 1});
     literal.text = m_statement.substr(start, m_at - start);
     return finishLiteral(finish(literal.kind, start, literal.text), literal);
 }
@@ -197,11 +200,10 @@ Token Lexer::quoted(char close, TokenKind kind)
     const std::size_t start = m_at;
     const std::size_t last = m_statement.find(close, start + 1);
     if (last == std::string_view::npos || last == start + 1)
-        raiseSyntax("Syntax error in name", m_statement, start,
-                    last == start + 1 ? last + 1 : m_statement.size());
+        return unreadable({"Syntax error in name", start, last == start + 1 ? last + 1 : m_statement.size()});
     const std::string_view inside = m_statement.substr(start + 1, last - start - 1);
     if (std::any_of(inside.begin(), inside.end(), [](unsigned char c) { return c < ' '; }))
-        raiseSyntax("Syntax error in name", m_statement, start, last + 1);
+        return unreadable({"Syntax error in name", start, last + 1});
     m_at = last + 1;
     return finish(kind, start, inside);
 }
@@ -215,9 +217,7 @@ Token Lexer::text(char quote)
     for (;;) {
         at = m_statement.find(quote, at);
         if (at == std::string_view::npos)
-            raiseSyntax("Syntax error in string in query expression '" + excerpt(m_statement.substr(start)) +
-                            "'",
-                        m_statement, start, m_statement.size());
+            return unreadable({"Syntax error in string", start, m_statement.size(), true});
         if (at + 1 >= m_statement.size() || m_statement[at + 1] != quote)
             break;
         literal.doubledQuotes = true;
@@ -241,9 +241,7 @@ Token Lexer::date()
         date = dateOf(literal.text);
     }
     if (!date)
-        raiseSyntax("Syntax error in date in query expression '" +
-                        excerpt(m_statement.substr(start, end - start)) + '\'',
-                    m_statement, start, end, TypeMismatch);
+        return unreadable({"Syntax error in date", start, end, true, TypeMismatch});
     literal.number = *date;
     m_at = end;
     return finishLiteral(finish(TokenKind::Date, start, literal.text), literal);
@@ -251,26 +249,23 @@ Token Lexer::date()
 
 void liftLiterals(std::string_view statement, LiftedStatement &lifted)
 {
+    constexpr char literalMark = '\1'; // stands in no statement: the lexer refuses it
     lifted.shape.clear();
     Lexer lexer(statement, lifted.literals);
     std::size_t copied = 0;
     for (Token token = lexer.next(); token.kind != TokenKind::End; token = lexer.next()) {
+        if (token.kind == TokenKind::Unreadable) {
+            lifted.shape = literalMark; // of no statement that can be read
+            return;
+        }
         if (token.literal < 0)
             continue;
         lifted.shape.append(statement, copied, token.offset - copied);
-        lifted.shape += '\1'; // stands in no statement: the lexer refuses it
+        lifted.shape += literalMark;
         lifted.shape += static_cast<char>('a' + static_cast<int>(token.kind));
         copied = token.end;
     }
     lifted.shape.append(statement, copied);
-}
-
-std::size_t characterAt(std::string_view statement, std::size_t offset)
-{
-    std::size_t characters = 1;
-    for (std::size_t at = 0; at < offset && at < statement.size(); ++at)
-        characters += (static_cast<unsigned char>(statement[at]) & 0xc0) != 0x80 ? 1 : 0;
-    return characters;
 }
 
 } // namespace jet

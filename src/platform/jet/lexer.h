@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/jet/errors.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace jet {
 
-enum class TokenKind { Name, QuotedName, Text, Integer, Float, Date, Symbol, End };
+enum class TokenKind { Name, QuotedName, Text, Integer, Float, Date, Symbol, Unreadable, End };
 
 /// One word of a statement. `text` is a piece of the statement: of a quoted name or a text
 /// without its quotes, of a literal as it was typed.
@@ -15,8 +17,8 @@ struct Token
     TokenKind kind = TokenKind::End;
     std::string_view text;
     std::size_t offset = 0; ///< of its first byte, quotes included
-    std::size_t end = 0;
-    int literal = -1; ///< its place among the literals, or -1
+    std::size_t end = 0;    ///< the byte behind its last
+    int literal = -1;       ///< its place among the literals, or -1
 };
 
 /// A value lifted out of a statement. Whole numbers beyond 32 bits are of kind Float.
@@ -29,9 +31,20 @@ struct Literal
     double number = 0; ///< of numbers and dates
 };
 
+/// Why a statement cannot be read on. `what` is at fault from `offset` to `end`, in bytes.
+struct Fault
+{
+    std::string_view what;
+    std::size_t offset = 0;
+    std::size_t end = 0;
+    bool ofExpression = false; ///< the message shows the expression it stands in
+    int number = SyntaxError;
+};
+
 /// Takes a statement apart, one token a call, and puts its literals into the list, which it empties first.
-/// The statement (UTF-8) and the list must outlive it. Raises SyntaxError for an unclosed text, name or date
-/// and for a character that is none of the dialect's, TypeMismatch for an impossible date.
+/// The statement (UTF-8) and the list must outlive it. An unclosed text, name or date, an impossible date and
+/// a character that is none of the dialect's are the last token, Unreadable, which is all of the rest: the
+/// parser may find another fault before it.
 class Lexer final
 {
 public:
@@ -44,6 +57,8 @@ public:
 
     Token next();
     [[nodiscard]] std::string_view statement() const { return m_statement; }
+    /// Of the unreadable token.
+    [[nodiscard]] const Fault &fault() const { return m_fault; }
 
 private:
     [[nodiscard]] bool operandBefore() const;
@@ -54,13 +69,16 @@ private:
     Token date();
     Token symbol(std::size_t length);
     Token finish(TokenKind kind, std::size_t start, std::string_view text);
+    Token unreadable(const Fault &fault);
     Token finishLiteral(Token token, Literal literal);
 
     std::string_view m_statement;
     std::size_t m_at = 0;
     TokenKind m_lastKind = TokenKind::End;
     std::string_view m_lastText;
+    bool m_behindPoint = false; ///< the last token
     std::vector<Literal> &m_literals;
+    Fault m_fault;
 };
 
 /// A statement whose literals are lifted out: `shape` is the same for all statements that
@@ -71,10 +89,7 @@ struct LiftedStatement
     std::vector<Literal> literals;
 };
 
-/// Fills `lifted`, whose memory is used again. Raises as the lexer does.
+/// Fills `lifted`, whose memory is used again.
 void liftLiterals(std::string_view statement, LiftedStatement &lifted);
-
-/// The 1-based number of the character at a byte offset.
-[[nodiscard]] std::size_t characterAt(std::string_view statement, std::size_t offset);
 
 } // namespace jet

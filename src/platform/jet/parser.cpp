@@ -3,18 +3,12 @@
 #include "platform/jet/errortexts.h"
 #include "platform/jet/parser_guards.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace jet {
 namespace {
-
-// Words that are no names unless bracketed.
-constexpr std::string_view reserved[] = {
-    "SELECT", "FROM",     "WHERE",       "GROUP", "HAVING",  "ORDER", "UNION",  "INNER", "LEFT",   "RIGHT",
-    "JOIN",   "ON",       "AS",          "AND",   "OR",      "NOT",   "XOR",    "EQV",   "IMP",    "LIKE",
-    "ALIKE",  "IN",       "IS",          "NULL",  "BETWEEN", "SET",   "VALUES", "INTO",  "INSERT", "UPDATE",
-    "DELETE", "DISTINCT", "DISTINCTROW", "MOD",   "EXISTS",  "TRUE",  "FALSE",  "BY",    "ASC",    "DESC",
-    "BAND",   "BOR",      "BXOR",        "BNOT",  "CREATE",  "TABLE", "ALL"};
 
 // Words and signs that may stand behind an expression.
 constexpr std::string_view behindExpression[] = {",",      ")",     ";",     "FROM",  "WHERE", "GROUP",
@@ -49,19 +43,28 @@ constexpr std::string_view misplacedWord =
     "The SELECT statement includes a reserved word or an argument name that is misspelled or missing, or the "
     "punctuation is incorrect";
 
-// SELECT * FROM (arm): its rows, to be ordered once more. They go by the name of their table.
-Select allOf(Select arm)
+// SELECT * FROM (query) AS name
+Select allOf(Query query, std::string_view name = {})
 {
     auto source = std::make_unique<Source>();
-    if (arm.from.size() == 1)
-        source->alias = arm.from[0]->alias.empty() ? arm.from[0]->table : arm.from[0]->alias;
-    source->query = std::make_unique<Query>();
-    source->query->orderBy = std::exchange(arm.orderBy, {});
-    source->query->arms.push_back(std::move(arm));
+    source->alias = name;
+    source->query = std::make_unique<Query>(std::move(query));
     Select all;
     all.items.emplace_back();
     all.from.push_back(std::move(source));
     return all;
+}
+
+// The rows of an arm, to be ordered once more. They go by the name of their table.
+Select allOf(Select arm)
+{
+    std::string_view name;
+    if (arm.from.size() == 1)
+        name = arm.from[0]->alias.empty() ? arm.from[0]->table : arm.from[0]->alias;
+    Query query;
+    query.orderBy = std::exchange(arm.orderBy, {});
+    query.arms.push_back(std::move(arm));
+    return allOf(std::move(query), name);
 }
 
 } // namespace
@@ -109,8 +112,7 @@ void Parser::expect(std::string_view word)
 bool Parser::atIdentifier(std::size_t ahead) const
 {
     const Token &token = peek(ahead);
-    return token.kind == TokenKind::QuotedName ||
-           (token.kind == TokenKind::Name && !contains(reserved, token.text));
+    return token.kind == TokenKind::QuotedName || (token.kind == TokenKind::Name && !isReserved(token.text));
 }
 
 std::string_view Parser::identifier()
@@ -126,6 +128,8 @@ std::string_view Parser::textFrom(std::size_t start) const
     return m_lexer.statement().substr(start, end > start ? end - start : 0);
 }
 
+// Where words of the expression have been taken already, what stands behind them is an operator that is
+// missing; at its beginning, and outside of one, the clause is told.
 void Parser::fail() const
 {
     const Token &token = peek();
@@ -136,7 +140,21 @@ void Parser::fail() const
 
 void Parser::failAt(std::string_view what, const Token &token) const
 {
+    if (token.kind == TokenKind::Unreadable)
+        failUnreadable(m_expressionStart);
     raiseSyntax(what, m_lexer.statement(), token.offset, token.end);
+}
+
+void Parser::failUnreadable(std::size_t expressionStart) const
+{
+    const Fault &fault = m_lexer.fault();
+    std::string what(fault.what);
+    if (fault.ofExpression) {
+        const std::size_t start = std::min(expressionStart, fault.offset);
+        what +=
+            " in query expression '" + excerpt(m_lexer.statement().substr(start, fault.end - start)) + '\'';
+    }
+    raiseSyntax(what, m_lexer.statement(), fault.offset, fault.end, fault.number);
 }
 
 void Parser::failTooComplex() const
@@ -162,7 +180,14 @@ ExpressionPtr Parser::clauseExpression()
 void Parser::failMissingOperator(std::size_t start) const
 {
     const Token &token = peek();
-    const std::string_view expression = m_lexer.statement().substr(start, token.end - start);
+    if (token.kind == TokenKind::Unreadable)
+        failUnreadable(start);
+    // 'O'Brien' is shown with the quote that is one too many.
+    const Token &after = peek(1);
+    const bool quoteBehind = after.kind == TokenKind::Unreadable && after.offset == token.end &&
+                             (after.text.front() == '\'' || after.text.front() == '"');
+    const std::size_t end = token.end + (quoteBehind ? 1 : 0);
+    const std::string_view expression = m_lexer.statement().substr(start, end - start);
     failAt("Syntax error (missing operator) in query expression '" + excerpt(expression) + '\'', token);
 }
 
@@ -195,24 +220,31 @@ QueryPtr Parser::query(bool allowInto)
     const DepthGuard depth(*this);
     const ClauseGuard clause(*this, "query");
     const std::size_t start = peek().offset;
-    auto query = std::make_unique<Query>();
-    selectArm(*query, allowInto);
-    bool ownOrder = false;
-    while (accept("UNION")) {
-        query->unionAll.push_back(accept("ALL"));
-        ownOrder = at("(");
-        query->orderBy.clear(); // one in the middle orders nothing
-        selectArm(*query, false);
-    }
-    if (query->arms.size() == 1 && query->arms[0].top && !query->arms[0].orderBy.empty() &&
-        !query->orderBy.empty())
-        query->arms[0] = allOf(std::move(query->arms[0]));
-    // Behind the last arm stands the order of all; within its parentheses its own, for its TOP.
-    if (!ownOrder && query->orderBy.empty()) {
-        query->orderBy = std::move(query->arms.back().orderBy);
-        query->arms.back().orderBy.clear();
+    auto query = std::make_unique<Query>(unionOfArms(allowInto));
+    if (query->arms.size() == 1) {
+        Select &only = query->arms[0];
+        if (only.top && !only.orderBy.empty() && !query->orderBy.empty())
+            only = allOf(std::move(only));
+        if (query->orderBy.empty())
+            query->orderBy = std::exchange(only.orderBy, {});
     }
     query->text = textFrom(start);
+    return query;
+}
+
+Query Parser::unionOfArms(bool allowInto)
+{
+    Query query;
+    selectArm(query, allowInto);
+    while (accept("UNION")) {
+        query.unionAll.push_back(accept("ALL"));
+        const bool inParentheses = at("(");
+        query.orderBy.clear(); // one in the middle orders nothing
+        selectArm(query, false);
+        // Behind the last arm stands the order of all; within its parentheses its own, for its TOP.
+        if (!inParentheses && !at("UNION"))
+            query.orderBy = std::exchange(query.arms.back().orderBy, {});
+    }
     return query;
 }
 
@@ -221,19 +253,29 @@ void Parser::selectArm(Query &query, bool allowInto)
     if (at("(")) {
         const DepthGuard depth(*this);
         take();
-        selectArm(query, false);
+        Query inner = unionOfArms(false);
         expect(")");
         if (at("ORDER"))
-            query.orderBy = orderBy();
+            inner.orderBy = orderBy();
+        const bool wholeQuery = query.arms.empty() && !at("UNION");
+        if (inner.arms.size() == 1 || wholeQuery) {
+            std::ranges::move(inner.arms, std::back_inserter(query.arms));
+            query.unionAll.insert(query.unionAll.end(), inner.unionAll.begin(), inner.unionAll.end());
+            query.orderBy = std::move(inner.orderBy);
+        } else {
+            query.orderBy = std::exchange(inner.orderBy, {});
+            query.arms.push_back(allOf(std::move(inner)));
+        }
         return;
     }
     Select select;
     if (accept("TABLE")) {
         select.items.emplace_back();
         auto source = std::make_unique<Source>();
-        source->offset = peek().offset;
         source->table = identifier();
         select.from.push_back(std::move(source));
+        if (at("ORDER"))
+            select.orderBy = orderBy();
         query.arms.push_back(std::move(select));
         return;
     }
@@ -362,7 +404,6 @@ std::unique_ptr<Source> Parser::joinedSource()
         if (++joins > mostJoins)
             failTooComplex();
         auto join = std::make_unique<Source>();
-        join->offset = left->offset;
         join->join = kind;
         join->left = std::move(left);
         // a JOIN b JOIN c ON .. ON .. binds the inner one first.
@@ -421,7 +462,6 @@ bool Parser::beginsQuery() const
 std::unique_ptr<Source> Parser::singleSource()
 {
     auto source = std::make_unique<Source>();
-    source->offset = peek().offset;
     if (at("(")) {
         take();
         if (beginsQuery())

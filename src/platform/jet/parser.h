@@ -31,11 +31,13 @@ private:
     [[noreturn]] void fail() const;
     [[noreturn]] void failAt(std::string_view what, const Token &token) const;
     [[noreturn]] void failMissingOperator(std::size_t start) const;
+    [[noreturn]] void failUnreadable(std::size_t expressionStart) const;
     [[noreturn]] void failTooComplex() const;
     [[nodiscard]] std::string_view textFrom(std::size_t start) const;
 
     // parser.cpp
     QueryPtr query(bool allowInto = false);
+    Query unionOfArms(bool allowInto);
     void selectArm(Query &query, bool allowInto);
     [[nodiscard]] bool beginsQuery() const;
     void top(Select &select);
@@ -73,7 +75,7 @@ private:
     /// [Not] Like, Between or In.
     ExpressionPtr membership(ExpressionPtr left, std::size_t start);
     ExpressionPtr listed(ExpressionPtr left, std::size_t start);
-    ExpressionPtr joinedTexts();
+    ExpressionPtr concatenation();
     ExpressionPtr arithmetic(std::size_t level);
     ExpressionPtr sign();
     ExpressionPtr power();
@@ -94,7 +96,7 @@ private:
     std::vector<Token> m_tokens;
     std::size_t m_at = 0;
     std::string_view m_clause; ///< names the clause in "Syntax error in FROM clause"
-    std::size_t m_expressionStart = std::string_view::npos;
+    std::size_t m_expressionStart = std::string_view::npos; ///< of the outermost one at hand, or npos
     int m_depth = 0;
 
     friend class DepthGuard;

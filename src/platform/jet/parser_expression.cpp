@@ -115,7 +115,7 @@ ExpressionPtr Parser::negation()
 ExpressionPtr Parser::comparison()
 {
     const std::size_t start = peek().offset;
-    ExpressionPtr left = joinedTexts();
+    ExpressionPtr left = concatenation();
     for (;;) {
         const auto sign = std::ranges::find_if(comparisons, [this](std::string_view s) { return accept(s); });
         if (sign != std::end(comparisons))
@@ -133,7 +133,7 @@ ExpressionPtr Parser::comparison()
 ExpressionPtr Parser::comparedBy(std::string_view sign, ExpressionPtr left, std::size_t start)
 {
     if (!at("ANY") && !at("SOME") && !at("ALL")) {
-        ExpressionPtr right = joinedTexts();
+        ExpressionPtr right = concatenation();
         return node(ExpressionKind::Compare, start, sign, std::move(left), std::move(right));
     }
     const bool all = at("ALL");
@@ -161,16 +161,16 @@ ExpressionPtr Parser::membership(ExpressionPtr left, std::size_t start)
     const bool negated = accept("NOT");
     ExpressionPtr result;
     if (accept("BETWEEN")) {
-        ExpressionPtr low = joinedTexts();
+        ExpressionPtr low = concatenation();
         expect("AND");
-        ExpressionPtr high = joinedTexts();
+        ExpressionPtr high = concatenation();
         result =
             node(ExpressionKind::Between, start, "BETWEEN", std::move(left), std::move(low), std::move(high));
     } else if (accept("IN"))
         result = listed(std::move(left), start);
     else {
         take();
-        ExpressionPtr pattern = joinedTexts();
+        ExpressionPtr pattern = concatenation();
         result = node(ExpressionKind::Like, start, "LIKE", std::move(left), std::move(pattern));
     }
     result->negated = negated;
@@ -197,13 +197,13 @@ ExpressionPtr Parser::listed(ExpressionPtr left, std::size_t start)
     return result;
 }
 
-ExpressionPtr Parser::joinedTexts()
+ExpressionPtr Parser::concatenation()
 {
     const std::size_t start = peek().offset;
     ExpressionPtr left = arithmetic(0);
     if (!at("&"))
         return left;
-    return chain(ExpressionKind::Join, "&", start, std::move(left), [&] { return arithmetic(0); });
+    return chain(ExpressionKind::Concatenate, "&", start, std::move(left), [&] { return arithmetic(0); });
 }
 
 ExpressionPtr Parser::arithmetic(std::size_t level)

@@ -179,11 +179,11 @@ CreateIndex Parser::createIndex(bool unique)
     index.table = identifier();
     expect("(");
     do {
-        const std::string_view column = identifier();
-        const bool descending = accept("DESC");
-        if (!descending)
+        IndexedColumn column{.name = identifier()};
+        column.descending = accept("DESC");
+        if (!column.descending)
             accept("ASC");
-        index.columns.emplace_back(column, descending);
+        index.columns.push_back(column);
     } while (accept(","));
     expect(")");
     expectEndOfClause();

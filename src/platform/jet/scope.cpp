@@ -2,7 +2,36 @@
 
 #include "platform/jet/errortexts.h"
 
+#include <algorithm>
+
 namespace jet {
+
+const TableColumn *ScopeSource::column(std::string_view sought) const
+{
+    const auto found = std::ranges::find_if(
+        columns, [&](const TableColumn &candidate) { return sameName(candidate.name, sought); });
+    return found == columns.end() ? nullptr : &*found;
+}
+
+std::optional<std::size_t> Scope::itemNamed(std::string_view alias) const
+{
+    for (std::size_t i = 0; items != nullptr && i < visibleItems; ++i) {
+        if ((*items)[i].expression && sameName((*items)[i].alias, alias))
+            return i;
+    }
+    return std::nullopt;
+}
+
+bool Scope::hides(const Scope &further) const
+{
+    for (const Scope *at = this; at != &further; at = at->outer) {
+        if (std::ranges::any_of(at->sources, [&](const ScopeSource &candidate) {
+                return further.source(candidate.name) != nullptr;
+            }))
+            return true;
+    }
+    return false;
+}
 
 const ScopeSource *Scope::source(std::string_view name) const
 {

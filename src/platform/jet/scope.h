@@ -19,6 +19,8 @@ struct ScopeSource
     bool givesRowId = false; ///< as a column named %row
 
     [[nodiscard]] bool isTable() const { return !table.empty(); }
+    /// Without regard to case; null when there is none.
+    [[nodiscard]] const TableColumn *column(std::string_view column) const;
 };
 
 /// What the names of one SELECT may mean; the outer SELECT's names lie behind.
@@ -30,7 +32,7 @@ struct Scope
     const std::vector<SelectItem> *items = nullptr;
     std::size_t visibleItems = 0;
     bool hasAggregate = false;
-    /// The columns of this scope that sub-queries have used so far.
+    /// The columns of this scope that sub-queries have used so far, and what they have used by its alias.
     std::vector<const Expression *> borrowed;
 
     struct Found
@@ -41,6 +43,11 @@ struct Scope
 
     /// Looks in this scope alone. Raises SyntaxError for a name that more than one source has.
     [[nodiscard]] Found find(std::string_view qualifier, std::string_view name) const;
+    /// The place in the list of a column of this alias, of those that can be used.
+    [[nodiscard]] std::optional<std::size_t> itemNamed(std::string_view alias) const;
+    /// Whether this scope, or one between the two, has a source of the same name as one of `further`, a scope
+    /// behind this one.
+    [[nodiscard]] bool hides(const Scope &further) const;
     [[nodiscard]] const ScopeSource *source(std::string_view name) const;
     [[nodiscard]] std::vector<std::string_view> sourceNames() const;
 };

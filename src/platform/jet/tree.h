@@ -20,26 +20,26 @@ using QueryPtr = std::unique_ptr<Query>;
 enum class ExpressionKind {
     Literal, ///< `literal`
     Null,
-    Boolean,    ///< `number`: -1 or 0
-    Column,     ///< `qualifier` . `name`
-    Negate,     ///< - a
-    Not,        ///< Not a
-    BitNot,     ///< BNot a
-    Arithmetic, ///< a `name` b: + - * / \ Mod ^ and the bitwise words
-    Join,       ///< a & b & ...
-    Compare,    ///< a `name` b
-    Quantified, ///< a `name` ANY or ALL (query)
-    Logic,      ///< a `name` b: Xor, Eqv, Imp; a And b And ..., a Or b Or ...
-    Like,       ///< a Like b
-    Between,    ///< a Between b And c
-    InList,     ///< a In (b, c, ...)
-    InQuery,    ///< a In (query)
-    IsNull,     ///< a Is Null
-    Exists,     ///< Exists (query)
-    Scalar,     ///< (query)
-    Call,       ///< `name` (a, b, ...)
-    CountRows,  ///< Count(*)
-    Identity,   ///< @@IDENTITY
+    Boolean,     ///< `number`: -1 or 0
+    Column,      ///< `qualifier` . `name`
+    Negate,      ///< - a
+    Not,         ///< Not a
+    BitNot,      ///< BNot a
+    Arithmetic,  ///< a `name` b: + - * / \ Mod ^ and the bitwise words
+    Concatenate, ///< a & b & ...
+    Compare,     ///< a `name` b
+    Quantified,  ///< a `name` ANY or ALL (query)
+    Logic,       ///< a `name` b: Xor, Eqv, Imp; a And b And ..., a Or b Or ...
+    Like,        ///< a Like b
+    Between,     ///< a Between b And c
+    InList,      ///< a In (b, c, ...)
+    InQuery,     ///< a In (query)
+    IsNull,      ///< a Is Null
+    Exists,      ///< Exists (query)
+    Scalar,      ///< (query)
+    Call,        ///< `name` (a, b, ...)
+    CountRows,   ///< Count(*)
+    Identity,    ///< @@IDENTITY
 };
 
 struct Expression
@@ -83,7 +83,6 @@ struct Source
     std::unique_ptr<Source> left;
     std::unique_ptr<Source> right;
     ExpressionPtr on;
-    std::size_t offset = 0;
 };
 
 struct Select
@@ -154,11 +153,17 @@ struct CreateTable
     std::vector<std::string_view> primaryKey;
 };
 
+struct IndexedColumn
+{
+    std::string_view name;
+    bool descending = false;
+};
+
 struct CreateIndex
 {
     std::string_view index;
     std::string_view table;
-    std::vector<std::pair<std::string_view, bool>> columns; ///< descending?
+    std::vector<IndexedColumn> columns;
     bool unique = false;
 };
 

@@ -49,7 +49,7 @@ enum class DataType {
 /// Characters of the widest text column that has a width.
 inline constexpr int widestText = 255;
 
-/// One column as its table defines it.
+/// The type of a column or an expression, with the width of a text.
 struct ColumnType
 {
     DataType type = DataType::Unknown;
@@ -60,7 +60,8 @@ struct ColumnType
 /// Characters of a text field, otherwise bytes of the kind.
 [[nodiscard]] int definedSize(ColumnType type);
 
-/// Reads a type name of CREATE TABLE or of the store file; Unknown for another word.
+/// Reads a type name of CREATE TABLE or of the store file; Unknown for another word. A TEXT is a Memo: its
+/// width, which may stand behind it, makes it a Text.
 [[nodiscard]] DataType typeByName(std::string_view name);
 /// How a column is declared in the store file.
 [[nodiscard]] std::string declaration(ColumnType type);

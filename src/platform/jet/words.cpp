@@ -3,9 +3,37 @@
 #include "platform/jet/collation.h"
 #include "platform/jet/utf8.h"
 
+#include <span>
 #include <vector>
 
 namespace jet {
+namespace {
+
+constexpr std::string_view reservedValues[] = {"NULL", "TRUE", "FALSE"};
+
+constexpr std::string_view reserved[] = {
+    "SELECT", "FROM",   "WHERE",  "GROUP",    "HAVING",      "ORDER",   "UNION",  "INNER",  "LEFT",
+    "RIGHT",  "JOIN",   "ON",     "AS",       "AND",         "OR",      "NOT",    "XOR",    "EQV",
+    "IMP",    "LIKE",   "ALIKE",  "IN",       "IS",          "BETWEEN", "SET",    "VALUES", "INTO",
+    "INSERT", "UPDATE", "DELETE", "DISTINCT", "DISTINCTROW", "MOD",     "EXISTS", "BY",     "ASC",
+    "DESC",   "BAND",   "BOR",    "BXOR",     "BNOT",        "CREATE",  "TABLE",  "ALL"};
+
+bool isAmong(std::span<const std::string_view> words, std::string_view word)
+{
+    return std::ranges::any_of(words, [&](std::string_view entry) { return sameWord(entry, word); });
+}
+
+} // namespace
+
+bool isReserved(std::string_view word)
+{
+    return isAmong(reserved, word) || isReservedValue(word);
+}
+
+bool isReservedValue(std::string_view word)
+{
+    return isAmong(reservedValues, word);
+}
 
 bool sameName(std::string_view left, std::string_view right)
 {

@@ -18,6 +18,12 @@ namespace jet {
                                                      [](char a, char b) { return lowered(a) == lowered(b); });
 }
 
+/// Words that are no names unless bracketed.
+[[nodiscard]] bool isReserved(std::string_view word);
+
+/// The reserved words that are values: an operand stands where they stand.
+[[nodiscard]] bool isReservedValue(std::string_view word);
+
 /// Names of tables, columns and indexes match without regard to the case of any letter.
 [[nodiscard]] bool sameName(std::string_view left, std::string_view right);
 
