@@ -111,6 +111,26 @@ TEST_F(TwoPrograms, TheSecondWriterIsToldWhoHoldsTheFile)
     EXPECT_EQ(after.recordCount(), 2);
 }
 
+TEST_F(TwoPrograms, AStatementThatFailsLeavesTheFileToOthers)
+{
+    EXPECT_THROW(connection.execute(u"INSERT INTO Tbl_HW (HWTypeID) VALUES (3000000000)"_s), Error);
+    const auto write = [&] {
+        try {
+            jet::Connection other;
+            other.open(jet::connectionString(link()));
+            other.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('theirs')"_s);
+            other.close();
+        } catch (const Error &) {
+            return 1;
+        }
+        return 0;
+    };
+    EXPECT_EQ(inAnotherProcess(write), 0);
+    jet::Recordset rooms;
+    rooms.open(u"SELECT * FROM Tbl_Rooms"_s, connection);
+    EXPECT_EQ(rooms.recordCount(), 1);
+}
+
 TEST_F(TwoPrograms, LookingAtAnOpenFileKeepsItsLocks)
 {
     connection.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('pending')"_s);

@@ -17,6 +17,7 @@ struct TableColumn
 {
     std::string name;
     ColumnType type;
+    bool stored = true; ///< false for what a query calculates: nothing holds it within its type
 };
 
 struct Table

@@ -339,9 +339,16 @@ void Database::write(const QString &sql, Prepared &prepared)
     const bool alone = Interruptible::active();
     if (alone)
         m_group.commit();
-    // Another program that held the file until now may have changed the tables.
-    const bool isOutdated = m_group.open() && forgetWhatOthersChanged();
-    const bool changesSchema = writeInGroup(isOutdated ? prepare(sql) : prepared);
+    const bool isNew = m_group.open();
+    bool changesSchema = false;
+    try {
+        // Another program that held the file until now may have changed the tables.
+        const bool isOutdated = isNew && forgetWhatOthersChanged();
+        changesSchema = writeInGroup(isOutdated ? prepare(sql) : prepared);
+    } catch (...) {
+        m_group.endUnlessChanged();
+        throw;
+    }
     m_group.take(changesSchema || sqlite3_changes(m_handle.get()) > 0);
     if (alone)
         m_group.commit();

@@ -16,7 +16,7 @@ struct OutputColumn
 {
     std::string name;
     ColumnType type;
-    bool stored = false; ///< a column of a table as it is
+    bool stored = false; ///< a column of a table as it is: within what its type takes
 };
 
 /// A statement in SQLite's words. Literal n of the statement is its parameter ?n+1.
@@ -49,6 +49,7 @@ private:
         ColumnType type{};
         bool condition = false; ///< SQLite's 1 and 0, not the dialect's -1 and 0
         bool column = false;    ///< a column, which carries its collation along
+        bool stored = false;    ///< a column of a table
         bool exact = false;     ///< whole and within 32 bits
         bool mayOverflow =
             false;         ///< a calculation that SQLite lets end in infinity or outside of the calendar
@@ -100,6 +101,7 @@ private:
                        const std::vector<OrderItem> &order, Scope &scope);
     void checkGrouped(const Expression &expression, const std::set<std::string> &keys, Scope &scope);
     std::string groupsOf(const Select &select, Scope &scope);
+    bool isPosition(const OrderItem &item);
     /// The column, from 1, that the item names by its number.
     std::size_t position(const OrderItem &item, std::size_t columns);
     std::string orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,

@@ -168,8 +168,9 @@ Emitter::Piece Emitter::ofKind(const Expression &source, Scope &scope)
     case ExpressionKind::Negate: {
         const Piece operand = expression(*source.arguments[0], scope);
         const DataType type = isNumber(operand.type.type) ? operand.type.type : DataType::Double;
+        const bool narrow = type == DataType::Boolean || type == DataType::Byte || type == DataType::Short;
         return {.sql = "(-" + asNumber(operand) + ')',
-                .type = {type == DataType::Boolean ? DataType::Long : type},
+                .type = {narrow ? DataType::Long : type},
                 .exact = operand.exact && !operand.column};
     }
     case ExpressionKind::BitNot:
@@ -246,7 +247,8 @@ Emitter::Piece Emitter::columnPiece(const ScopeSource &source, const TableColumn
     return {.sql = quotedName(source.name) + '.' + quotedName(column.name),
             .type = column.type,
             .column = true,
-            .exact = isLong(column.type.type)};
+            .stored = column.stored,
+            .exact = column.stored && isLong(column.type.type)};
 }
 
 Emitter::Piece Emitter::column(const Expression &source, Scope &scope)
@@ -364,7 +366,7 @@ Emitter::Piece Emitter::inList(const Expression &source, bool negated, Scope &sc
     const std::string left = collated(operand);
     std::string sql;
     if (list.empty())
-        sql = '(' + left + " IS NOT NULL)";
+        sql = '(' + left + " = " + left + ')'; // true, but Null for a Null
     else
         sql = '(' + left + (negated ? " NOT IN (" : " IN (") + list + "))";
     return conditionPiece(sql);

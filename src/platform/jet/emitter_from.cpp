@@ -50,7 +50,7 @@ void Emitter::addSources(const Source &source, Scope &scope)
     if (source.query) {
         const Rows rows = query(*source.query, scope.outer);
         for (const OutputColumn &column : rows.columns)
-            entry.columns.push_back({column.name, column.type});
+            entry.columns.push_back({column.name, column.type, column.stored});
         entry.name = source.alias.empty() ? std::string(unnamedQuery) + std::to_string(++m_subqueries)
                                           : std::string(source.alias);
         m_derivedTables[&source] = {.rows = rows.sql, .name = entry.name};

@@ -21,12 +21,6 @@ bool isWholeNumber(const Literal &literal)
            (literal.kind == TokenKind::Float && std::ranges::all_of(literal.text, isDigit));
 }
 
-bool isPosition(const OrderItem &item, const std::vector<Literal> &literals)
-{
-    return item.expression->kind == ExpressionKind::Literal &&
-           isWholeNumber(literals[std::size_t(item.expression->literal)]);
-}
-
 /// Whether a column of the source stands in the expression; a sub-query may hold any.
 bool uses(const Expression &expression, const ScopeSource &source, const Scope &scope)
 {
@@ -66,8 +60,8 @@ std::vector<OutputColumn> Emitter::unionColumns(const std::vector<Rows> &arms)
         for (std::size_t i = 0; i < columns.size(); ++i) {
             ColumnType &type = columns[i].type;
             const ColumnType other = arm.columns[i].type;
+            columns[i].stored = columns[i].stored && arm.columns[i].stored && type.type == other.type;
             type = {commonType(type.type, other.type), std::max(type.width, other.width)};
-            columns[i].stored = columns[i].stored && arm.columns[i].stored;
         }
     }
     return columns;
@@ -114,7 +108,7 @@ Emitter::Rows Emitter::unionOf(const Query &query, Scope *outer, bool numbered)
     };
     for (const OrderItem &item : query.orderBy) {
         std::size_t position = 0;
-        if (isPosition(item, m_literals)) {
+        if (isPosition(item)) {
             position = this->position(item, result.columns.size());
         } else if (item.expression->kind == ExpressionKind::Column && item.expression->qualifier.empty()) {
             for (std::size_t i = 0; i < result.columns.size() && position == 0; ++i) {
@@ -277,7 +271,7 @@ Emitter::Rows Emitter::select(const Select &select, const std::vector<OrderItem>
     result.sql = select.distinct ? "SELECT DISTINCT " : "SELECT ";
     for (std::size_t i = 0; i < columns.size(); ++i) {
         ColumnType type = columns[i].piece.type;
-        result.columns.push_back({columns[i].name, type, columns[i].piece.column});
+        result.columns.push_back({columns[i].name, type, columns[i].piece.stored});
         result.sql += (i == 0 ? "" : ", ") + collated(columns[i].piece) + " AS " +
                       outputName(columns[i], i, numbered || ranked);
     }
@@ -309,9 +303,17 @@ std::string Emitter::groupsOf(const Select &select, Scope &scope)
     return groups;
 }
 
+// Whether a number is a position shapes the SQL, also when it is none.
+bool Emitter::isPosition(const OrderItem &item)
+{
+    if (item.expression->kind != ExpressionKind::Literal)
+        return false;
+    pin(item.expression->literal);
+    return isWholeNumber(m_literals[std::size_t(item.expression->literal)]);
+}
+
 std::size_t Emitter::position(const OrderItem &item, std::size_t columns)
 {
-    pin(item.expression->literal);
     const double position = m_literals[std::size_t(item.expression->literal)].number;
     if (position < 1 || position > double(columns))
         raiseError(SyntaxError, "Syntax error in ORDER BY clause. There is no column " +
@@ -322,7 +324,7 @@ std::size_t Emitter::position(const OrderItem &item, std::size_t columns)
 std::string Emitter::orderKey(const OrderItem &item, const std::vector<Output> &outputs, const Select &select,
                               Scope &scope)
 {
-    if (isPosition(item, m_literals)) {
+    if (isPosition(item)) {
         return collated(outputs[position(item, outputs.size()) - 1].piece);
     }
     std::string key = collated(expression(*item.expression, scope));
@@ -359,7 +361,7 @@ void Emitter::checkGrouping(const Select &select, const std::vector<Output> &out
     if (select.having)
         checkGrouped(*select.having, keys, scope);
     for (const OrderItem &item : order) {
-        if (!isPosition(item, m_literals))
+        if (!isPosition(item))
             checkGrouped(*item.expression, keys, scope);
     }
 }

@@ -76,10 +76,12 @@ void Emitter::write(const Query &source, EmittedStatement &result)
         // Only a column's text is known to fit the width that it comes with.
         if (type.type == DataType::Unknown || (type.type == DataType::Text && !rows.columns[i].stored))
             type = {DataType::Memo};
-        const std::string value = numberedName(i);
+        if (type.type == DataType::Wide)
+            type = {DataType::Double};
+        const bool fits = isText(type.type) || (rows.columns[i].stored && type.type != DataType::Boolean);
+        const Piece piece{.sql = numberedName(i), .type = type, .column = true};
         columns += (i == 0 ? "" : ", ") + columnDefinition(rows.columns[i].name, type, false, false);
-        values +=
-            (i == 0 ? "" : ", ") + (type.type == DataType::Boolean ? "IFNULL(" + value + ", 0)" : value);
+        values += (i == 0 ? "" : ", ") + (fits ? piece.sql : coerced(piece, {rows.columns[i].name, type}));
     }
     result.before.push_back("CREATE TABLE " + quotedName(into) + " (" + columns + ')');
     result.sql = "INSERT INTO " + quotedName(into) + " SELECT " + values + " FROM (" + rows.sql + ')';
@@ -100,27 +102,28 @@ std::string Emitter::coerced(const Piece &piece, const TableColumn &column)
             return "IFNULL(-(" + sql + " <> 0), 0)";
         return "IFNULL(" + through("jet_tobool") + ", 0)";
     case DataType::Byte:
-        return from == DataType::Byte ? sql : through("jet_tobyte");
+        return from == DataType::Byte && piece.stored ? sql : through("jet_tobyte");
     case DataType::Short:
-        return from == DataType::Short || from == DataType::Byte ? sql : through("jet_toshort");
-    case DataType::Wide:
+        return (from == DataType::Short || from == DataType::Byte) && piece.stored ? sql
+                                                                                   : through("jet_toshort");
     case DataType::Long:
     case DataType::Counter:
         return isWhole(from) && piece.exact ? sql : through("jet_tolong");
     case DataType::Single:
-        return from == DataType::Single ? sql : through("jet_tosingle");
+        return from == DataType::Single && piece.stored ? sql : through("jet_tosingle");
     case DataType::Double:
         return isNumber(from) ? sql : through("jet_todouble");
     case DataType::Currency:
         return through("jet_tocurrency");
     case DataType::Date:
-        return from == DataType::Date ? sql : through("jet_todate");
+        return from == DataType::Date && piece.stored ? sql : through("jet_todate");
     case DataType::Text:
     case DataType::Memo: {
         if (column.type.width == 0)
             return writtenOut(piece);
         return "jet_fit(" + writtenOut(piece) + ", " + std::to_string(column.type.width) + ')';
     }
+    case DataType::Wide: // no column is
     case DataType::Unknown:
         break;
     }
@@ -182,7 +185,10 @@ std::string Emitter::insertedRows(const Insert &insert, std::vector<const TableC
         takeAllColumns();
     requireCount(rows.columns.size());
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        const Piece piece{.sql = numberedName(i), .type = rows.columns[i].type, .column = true};
+        const Piece piece{.sql = numberedName(i),
+                          .type = rows.columns[i].type,
+                          .column = true,
+                          .stored = rows.columns[i].stored};
         sql += (i == 0 ? "SELECT " : ", ") + coerced(piece, *columns[i]);
     }
     return sql + " FROM (" + rows.sql + ')';

@@ -108,6 +108,8 @@ QStringList brokenPlaces(Connection &connection)
     try {
         readRows(handle, "PRAGMA integrity_check(100)", {}, take);
     } catch (const Error &error) {
+        if ((sqlite3_errcode(handle) & 0xff) == SQLITE_BUSY)
+            throw;
         places.append(error.description());
     }
     return places;

@@ -255,15 +255,16 @@ void Parser::selectArm(Query &query, bool allowInto)
         take();
         Query inner = unionOfArms(false);
         expect(")");
-        if (at("ORDER"))
-            inner.orderBy = orderBy();
+        const bool ordered = at("ORDER");
+        std::vector<OrderItem> order = ordered ? orderBy() : std::vector<OrderItem>();
         const bool wholeQuery = query.arms.empty() && !at("UNION");
         if (inner.arms.size() == 1 || wholeQuery) {
             std::ranges::move(inner.arms, std::back_inserter(query.arms));
             query.unionAll.insert(query.unionAll.end(), inner.unionAll.begin(), inner.unionAll.end());
-            query.orderBy = std::move(inner.orderBy);
+            query.orderBy = ordered ? std::move(order) : std::move(inner.orderBy);
         } else {
-            query.orderBy = std::exchange(inner.orderBy, {});
+            inner.orderBy.clear(); // the order of a part of all rows orders nothing
+            query.orderBy = std::move(order);
             query.arms.push_back(allOf(std::move(inner)));
         }
         return;

@@ -78,6 +78,14 @@ void WriteGroup::raiseLost()
     }
 }
 
+void WriteGroup::endUnlessChanged()
+{
+    if (!m_open || m_changes > 0)
+        return;
+    sqlite3_exec(m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
+    m_open = false;
+}
+
 void WriteGroup::commit()
 {
     if (!m_open)

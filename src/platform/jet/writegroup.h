@@ -32,6 +32,10 @@ public:
     /// is lost with it, or the error itself when there was nothing to lose but the statement.
     void raiseIfLost();
 
+    /// Ends a group that has taken no change, as when the statement that it was opened for has failed: it
+    /// would keep other programs from writing.
+    void endUnlessChanged();
+
     /// Raises ChangesLost, or Failure when another program's reading holds it up: the group stays then.
     void commit();
     /// Held up, it stays without a word.
