@@ -1,5 +1,6 @@
 #include "queries/clsCustomQuery.h"
 
+#include "store/querystatements.h"
 #include "store/statement.h"
 
 using namespace Qt::StringLiterals;
@@ -9,13 +10,6 @@ namespace {
 constexpr auto alreadyExists = "A Custom Query with the same Name already exists in the Database."_L1;
 
 } // namespace
-
-QString insertCustomQuery(const QString &name, const QString &description, const QString &statement)
-{
-    return joined("INSERT INTO Tbl_CustomQuery ([Name],[Description],[SQLString]) "
-                  "VALUES ('{name}','{description}','{statement}')"_L1,
-                  {{"name"_L1, name}, {"description"_L1, description}, {"statement"_L1, statement}});
-}
 
 void clsCustomQuery::Add(const QString &connectionString, const QString &name, const QString &description,
                          const QString &statement)

@@ -5,10 +5,6 @@
 
 #include <QString>
 
-/// The statement that saves the query. Nothing is escaped.
-[[nodiscard]] QString insertCustomQuery(const QString &name, const QString &description,
-                                        const QString &statement);
-
 /// All that reads and writes Tbl_CustomQuery, the saved statements, and the way to run one. A
 /// query is known by its name.
 ///

@@ -93,7 +93,7 @@ public:
     /// The given items become the user's only ones and are taken from any other user.
     void addHW(const QString &connectionString, int id, std::span<const int> items);
     /// Replaces Tbl_Users by the rows of Tbl_Remote_Users that have a name; if that fails, there is
-    /// no Tbl_Users any more until a second try succeeds. The new table has the
-    /// columns and their types, but no index, and its columns accept Null.
+    /// no Tbl_Users any more until a second try succeeds. The new table has the columns and their
+    /// types, but no index, and its columns accept Null.
     void Import(const QString &connectionString);
 };

@@ -85,9 +85,11 @@ public:
     void writeRecord(StoreSession &store)
     {
         QString &id = m_values.front();
-        // What is no number is left to the store, which refuses the record.
         bool isNumber = true;
-        if (id.isEmpty() || (id.toDouble(&isNumber) == 0 && isNumber))
+        const bool isNew = id.isEmpty() || id.toInt(&isNumber) == 0;
+        if (!isNumber)
+            raise(jet::TypeMismatch, u"'%1' is no UserID."_s.arg(id));
+        if (isNew)
             id = QString::number(nextUserId(store));
 
         if (m_found.state() != jet::StateClosed)

@@ -53,7 +53,8 @@ void RecordClass::read(const QString &connectionString, jet::Recordset &result, 
             store.close();
         } catch (const Error &) {
             // The rows may be of changes that are lost.
-            result.close();
+            if (result.state() != jet::StateClosed)
+                result.close();
             throw;
         }
     });

@@ -31,7 +31,8 @@ protected:
 
     // The shapes of the methods.
 
-    /// Opens the caller's recordset, which is closed again when the method fails.
+    /// Opens the caller's recordset, which must be closed and is so after a failure. A SELECT INTO
+    /// leaves it closed.
     void read(const QString &connectionString, jet::Recordset &result, const QString &sql);
     /// One statement, whatever the store holds.
     void write(const QString &connectionString, const QString &sql);

@@ -28,6 +28,7 @@ void clearRelations(StoreSession &store, const RelationStatements &statements, i
 /// the table has them, are as many as the items.
 void addRelations(StoreSession &store, const RelationStatements &statements, int id,
                   std::span<const int> items, const QStringList &permissions = {});
+
 /// Folders or accounts by id, and a permission for each.
 struct Permissions
 {

@@ -7,6 +7,6 @@
 /// and indexes that a new store has, whether no two users, groups or other objects are the same
 /// by what tells them apart, and whether both ends of every relationship are there. One sentence
 /// a finding, for people; empty when all is well. Tables, columns and indexes beyond those of a
-/// new store are no findings. Raises jet::Failure when the file cannot be opened as a store; what
-/// cannot be looked at in it is a finding.
+/// new store are no findings. Raises jet::Failure when the file cannot be opened as a store or
+/// another program holds it; what cannot be looked at in it is a finding.
 [[nodiscard]] QStringList checkStore(const QString &path);

@@ -2,6 +2,8 @@
 
 #include "platform/jet/errors.h"
 
+#include <utility>
+
 StoreSession::StoreSession(const QString &connectionString)
 {
     m_connection.open(connectionString);

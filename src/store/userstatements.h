@@ -46,7 +46,6 @@ enum class Escaping { None, Batch };
 /// The permissions from the side of a user. One that is there is overwritten.
 [[nodiscard]] const RelationStatements &foldersOfUser();
 
-/// One above the highest UserID, 1 in an empty store: the id
-/// of a deleted user may be given again, with the rows that stayed behind. Raises jet::TypeMismatch when the
-/// numbers have run out.
+/// One above the highest UserID, 1 in an empty store: the id of a deleted user may be given
+/// again, with the rows that stayed behind. Raises jet::TypeMismatch when the numbers have run out.
 [[nodiscard]] int nextUserId(StoreSession &store);

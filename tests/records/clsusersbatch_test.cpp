@@ -109,11 +109,13 @@ TEST_F(UserBatchTest, AnIdIsNewForZeroAndNothingAndRefusedForWhatIsNoId)
 {
     importLines({fileLine(u"0"_s, u"anna"_s, u"S"_s), fileLine({}, u"bert"_s, u"S"_s),
                  fileLine(u"abc"_s, u"cleo"_s, u"S"_s), fileLine(u"3000000000"_s, u"dora"_s, u"S"_s),
-                 fileLine(u" 0 "_s, u"emil"_s, u"S"_s)});
-    expectCounts(3, 0, 2);
+                 fileLine(u" 0 "_s, u"emil"_s, u"S"_s), fileLine(u"True"_s, u"fred"_s, u"S"_s),
+                 fileLine(u"0.4"_s, u"gina"_s, u"S"_s)});
+    expectCounts(3, 0, 4);
     EXPECT_EQ(rows(u"SELECT UserID, UserName FROM Tbl_Users ORDER BY UserID"_s),
               (Rows{u"1|anna"_s, u"2|bert"_s, u"3|emil"_s}));
-    EXPECT_TRUE(text.contains(u"S\\cleo ") && text.contains(u"S\\dora ")) << text.toStdString();
+    EXPECT_EQ(text, heading + "S\\cleo 'abc' is no UserID.\r\nS\\dora '3000000000' is no UserID.\r\n"
+                              "S\\fred 'True' is no UserID.\r\nS\\gina '0.4' is no UserID.\r\n"_L1);
 }
 
 TEST_F(UserBatchTest, LeaveExisting_PassesKnownUsersOverUncounted)

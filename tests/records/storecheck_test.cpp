@@ -68,8 +68,29 @@ const Change changes[] = {
      "INSERT INTO Tbl_Users (UserID, UserName, ServerName) VALUES "
      "(5,'anna','S1'),(5,'bert','S1'),(6,'ANNA','s1');"
      "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('12'),(NULL),(NULL)",
-     {u"Table Tbl_Users: 2 rows have the UserID 5."_s,
-      u"Table Tbl_Users: 2 rows have the UserName anna, ServerName S1."_s}},
+     {u"Table Tbl_Users: 2 rows have the UserID '5'."_s,
+      u"Table Tbl_Users: 2 rows have the UserName 'anna', ServerName 'S1'."_s}},
+    {"EveryKeyGivenTwice",
+     "INSERT INTO Tbl_GlobalGroups (Name, Server) VALUES ('a','s'),('a','s'),('a','t');"
+     "INSERT INTO Tbl_LocalGroups (Name, Server) VALUES ('b','s'),('b','s'),('c','s');"
+     "INSERT INTO Tbl_Folders (FolderName) VALUES ('c'),('c');"
+     "INSERT INTO Tbl_FolderDefaultPermissions (Account) VALUES ('d'),('d');"
+     "INSERT INTO Tbl_HWType (ID, Type, Manufacturer, Model, TypeNumber) VALUES (1,'e','','m','t'),"
+     "(2,'e','','m','t'),(3,'e','','m','u');"
+     "INSERT INTO Tbl_HW (SerialNumber, HWTypeID) VALUES ('f',1),('f',1),('f',2);"
+     "INSERT INTO Tbl_SW (Type, Manufacturer, Name, Version) VALUES ('g','h','i','j'),('g','h','i','j');"
+     "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('k' || char(13) || char(10) || 'l'),"
+     "('k' || char(13) || char(10) || 'l');"
+     "INSERT INTO Tbl_CustomQuery (Name) VALUES ('m'),('M')",
+     {u"Table Tbl_GlobalGroups: 2 rows have the Name 'a', Server 's'."_s,
+      u"Table Tbl_LocalGroups: 2 rows have the Name 'b', Server 's'."_s,
+      u"Table Tbl_Folders: 2 rows have the FolderName 'c'."_s,
+      u"Table Tbl_FolderDefaultPermissions: 2 rows have the Account 'd'."_s,
+      u"Table Tbl_HWType: 2 rows have the Type 'e', Manufacturer '', Model 'm', TypeNumber 't'."_s,
+      u"Table Tbl_HW: 2 rows have the SerialNumber 'f', HWTypeID '1'."_s,
+      u"Table Tbl_SW: 2 rows have the Type 'g', Manufacturer 'h', Name 'i', Version 'j'."_s,
+      u"Table Tbl_Rooms: 2 rows have the RoomNumber 'k l'."_s,
+      u"Table Tbl_CustomQuery: 2 rows have the Name 'm'."_s}},
     // The index is left as it is and said to be of another column: its rows are wrong now.
     {"IndexOutOfStep",
      "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('12'); PRAGMA writable_schema = ON;"
