@@ -55,6 +55,7 @@ TEST_F(LimitsTest, LongStatementsAreAnswered)
         {"conditions", "SELECT ID FROM Tbl_Rooms WHERE ID < 2"_L1 + repeated(" AND ID > 0"_L1, 5000), u"1"_s},
         {"joined texts", "SELECT Len("_L1 + numbers.join(" & "_L1) + u')', u"38894"_s},
         {"a sum", "SELECT "_L1 + repeated("1 + "_L1, 250) + u'1', u"251"_s},
+        {"a sum of texts", "SELECT Len("_L1 + repeated("'a' + "_L1, 290) + "'a')"_L1, u"291"_s},
         {"parentheses", "SELECT "_L1 + repeated("("_L1, 150) + u'7' + repeated(")"_L1, 150), u"7"_s},
         {"branches", "SELECT "_L1 + repeated("IIf(False, 1, "_L1, 60) + u'5' + repeated(")"_L1, 60), u"5"_s},
         {"choices", "SELECT Choose(3000"_L1 + repeated(", 1"_L1, 2999) + ", 2)"_L1, u"2"_s},

@@ -226,9 +226,19 @@ TEST_F(ConsoleTest, Sql_WaitsForTheNextStatementWithNothingPending)
     sql("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('2')\n");
     EXPECT_EQ(number(u"SELECT Count(*) FROM Tbl_Rooms"_s), 2);
 
+    // The same behind a statement that is refused.
+    process.write(
+        "INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('3')\nINSERT INTO Tbl_Rooms (Nope) VALUES (1)\n");
+    QByteArray answers;
+    while (answers.count('\n') < 2 && process.waitForReadyRead())
+        answers += process.readAllStandardOutput();
+    EXPECT_TRUE(answers.contains("error")) << answers.toStdString();
+    sql("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('4')\n");
+    EXPECT_EQ(number(u"SELECT Count(*) FROM Tbl_Rooms"_s), 4);
+
     process.closeWriteChannel();
     ASSERT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitCode(), ExitDone);
+    EXPECT_EQ(process.exitCode(), ExitRefused);
 }
 
 int main(int argc, char **argv)

@@ -65,6 +65,13 @@ QString decoded(const std::string &line)
     return QString::fromStdString(line);
 }
 
+/// Whoever asks no further for now must find the store written and free.
+void flushBeforeWaiting(Console &console)
+{
+    if (console.in.rdbuf()->in_avail() <= 0)
+        jet::flushPendingWrites();
+}
+
 /// Whether the statement was accepted.
 bool answer(const std::string &statement, jet::Connection &connection, Console &console)
 {
@@ -72,10 +79,13 @@ bool answer(const std::string &statement, jet::Connection &connection, Console &
     bool accepted = true;
     try {
         jet::Recordset rows;
-        rows.open(decoded(statement), connection);
-        // Whoever asks no further for now must find the store written and free.
-        if (console.in.rdbuf()->in_avail() <= 0)
-            jet::flushPendingWrites();
+        try {
+            rows.open(decoded(statement), connection);
+        } catch (const Error &) {
+            flushBeforeWaiting(console);
+            throw;
+        }
+        flushBeforeWaiting(console);
         if (rows.state() == jet::StateOpen)
             jsonlines::writeRows(out, rows);
         else

@@ -53,7 +53,8 @@ private:
         bool exact = false;     ///< whole and within 32 bits
         bool mayOverflow =
             false;         ///< a calculation that SQLite lets end in infinity or outside of the calendar
-        char chain = '\0'; ///< '+' or '*': `sql` is a chain of these in parentheses
+        char chain = '\0'; ///< '+' or '*': `sql` is a chain of these in parentheses; 't': a call of jet_plus
+        std::size_t texts = 0; ///< the arguments of that call
     };
     struct Output
     {

@@ -65,6 +65,17 @@ bool isCallOf(const Expression &source, std::string_view name)
                "Undefined function '" + std::string(name) + "' in expression." + suggestion(name, names));
 }
 
+/// Whether a column of the scope itself stands in the expression; a sub-query may hold any.
+bool usesSources(const Expression &expression, const Scope &scope)
+{
+    if (expression.query)
+        return true;
+    if (expression.kind == ExpressionKind::Column)
+        return scope.find(expression.qualifier, expression.name).column != nullptr;
+    return std::ranges::any_of(expression.arguments,
+                               [&](const ExpressionPtr &argument) { return usesSources(*argument, scope); });
+}
+
 [[noreturn]] void raiseArgumentCount(const Expression &source)
 {
     raiseInExpression(SyntaxError, "Wrong number of arguments used with function", source.text);
@@ -121,6 +132,14 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
     if (row.type == AggregateType::OfOneRow && scope.sources.size() == 1 && scope.sources[0].isTable())
         list += ", " + quotedName(scope.sources[0].name) + '.' +
                 std::string(rowIdName(m_catalog.table(scope.sources[0].table)));
+    // Over columns of an outer query alone SQLite would take the aggregate for one of that query.
+    if (scope.outer != nullptr && !scope.sources.empty() && !usesSources(*source.arguments[0], scope)) {
+        const ScopeSource &own = scope.sources[0];
+        const std::string column = quotedName(own.name) + '.' +
+                                   (own.isTable() ? std::string(rowIdName(m_catalog.table(own.table)))
+                                                  : quotedName(own.columns[0].name));
+        list = "CASE WHEN " + column + " IS " + column + " THEN " + list + " END";
+    }
     const std::string sql = std::string(row.sqlite) + '(' + list + ')';
     switch (row.type) {
     case AggregateType::Count:

@@ -97,7 +97,11 @@ std::string Emitter::writtenOut(const Piece &piece)
 
 std::string Emitter::as(DataType type, const Piece &piece)
 {
-    return isText(type) && !isText(piece.type.type) ? writtenOut(piece) : value(piece);
+    if (isText(type) && !isText(piece.type.type))
+        return writtenOut(piece);
+    if (type == DataType::Date && isNumber(piece.type.type) && piece.type.type != DataType::Date)
+        return "jet_cdate(" + value(piece) + ')';
+    return value(piece);
 }
 
 std::string Emitter::asNumber(const Piece &piece)

@@ -23,14 +23,16 @@ std::string balanced(std::span<const std::string> operands, std::string_view sig
     return sql + ')';
 }
 
+constexpr std::size_t mostOperands = 100; // SQLite bounds the arguments of a call
+
 /// jet_cat(a, b, ...), nested where SQLite would refuse so many arguments.
 std::string concatenated(std::span<const std::string> operands)
 {
-    constexpr std::size_t longest = 100;
     if (operands.size() == 1)
         return operands[0];
     std::string sql;
-    const std::size_t share = operands.size() <= longest ? 1 : (operands.size() + longest - 1) / longest;
+    const std::size_t share =
+        operands.size() <= mostOperands ? 1 : (operands.size() + mostOperands - 1) / mostOperands;
     for (; !operands.empty(); operands = operands.subspan(std::min(share, operands.size())))
         sql += (sql.empty() ? "jet_cat(" : ", ") +
                concatenated(operands.first(std::min(share, operands.size())));
@@ -79,7 +81,6 @@ Emitter::Piece Emitter::infix(std::string_view sign, const Piece &left, const Pi
 // SQLite.
 Emitter::Piece Emitter::product(const Expression &source, Scope &scope)
 {
-    constexpr std::size_t mostFactors = 100; // SQLite bounds the arguments of a call
     std::vector<const Expression *> parts;
     for (const Expression *at = &source; isProduct(*at); at = at->arguments[0].get())
         parts.push_back(at);
@@ -87,7 +88,7 @@ Emitter::Piece Emitter::product(const Expression &source, Scope &scope)
     while (!parts.empty()) {
         std::string signs;
         std::string operands;
-        for (; !parts.empty() && signs.size() < mostFactors; parts.pop_back()) {
+        for (; !parts.empty() && signs.size() < mostOperands; parts.pop_back()) {
             signs += parts.back()->name;
             operands += ", " + value(expression(*parts.back()->arguments[1], scope));
         }
@@ -105,8 +106,14 @@ Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
     const std::string_view sign = source.name;
     const DataType common = commonType(left.type.type, right.type.type);
     const bool texts = isText(left.type.type) && isText(right.type.type);
-    if (sign == "+" && texts)
-        return {.sql = '(' + value(left) + " || " + value(right) + ')', .type = {DataType::Memo}};
+    if (sign == "+" && texts) {
+        const bool goesOn = left.chain == 't' && left.texts < mostOperands;
+        return {.sql = (goesOn ? left.sql.substr(0, left.sql.size() - 1) : "jet_plus(" + value(left)) + ", " +
+                       value(right) + ')',
+                .type = {DataType::Memo},
+                .chain = 't',
+                .texts = goesOn ? left.texts + 1 : 2};
+    }
 
     // Functions take both sides as they are: a text is read only where the other is not Null.
     const auto call = [&](const char *name, DataType type) {

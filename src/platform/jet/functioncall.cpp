@@ -270,7 +270,7 @@ void giveWithin(Call &call, std::int64_t least, std::int64_t most, void (*tooLar
 void giveSingle(Call &call, void (*tooLarge)())
 {
     const double number = call.number(0);
-    if (!(std::abs(number) <= double(std::numeric_limits<float>::max())))
+    if (!std::isfinite(static_cast<float>(number)))
         tooLarge();
     call.giveNumber(shownSingle(number));
 }

@@ -112,6 +112,7 @@ void power(Call &call)
 
 constexpr NamedBinding operators[] = {
     {"jet_cat", {concatenate, NullRule::Handled}},
+    {"jet_plus", {concatenate}},
     {"jet_like", {like}},
     {"jet_add", {add}},
     {"jet_sub", {subtract}},

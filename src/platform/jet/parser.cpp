@@ -212,7 +212,10 @@ Statement Parser::parse()
     const bool ended = accept(";");
     if (peek().kind == TokenKind::End)
         return statement;
-    failAt(ended ? "Characters found after end of SQL statement" : misplacedWord, peek());
+    if (ended)
+        raiseSyntax("Characters found after end of SQL statement", m_lexer.statement(), peek().offset,
+                    peek().end);
+    failAt(misplacedWord, peek());
 }
 
 QueryPtr Parser::query(bool allowInto)

@@ -39,17 +39,32 @@ void requireOwnName(std::string_view name)
                                     std::string(reserved) + "'.");
 }
 
+/// The names of one list.
+class DifferentNames final
+{
+public:
+    void add(std::string_view name)
+    {
+        if (!m_taken.insert(foldCase(name)).second)
+            raiseError(SyntaxError,
+                       "Cannot define field more than once. '" + std::string(name) + "' stands there twice.");
+    }
+
+private:
+    std::set<std::string> m_taken;
+};
+
 void requireSoundColumns(const CreateTable &table)
 {
     std::vector<std::string_view> names;
-    std::set<std::string> taken;
+    DifferentNames columns;
     for (const ColumnDefinition &column : table.columns) {
-        if (!taken.insert(foldCase(column.name)).second)
-            raiseError(SyntaxError, "Cannot define field more than once. '" + std::string(column.name) +
-                                        "' stands there twice.");
+        columns.add(column.name);
         names.push_back(column.name);
     }
+    DifferentNames key;
     for (const std::string_view column : table.primaryKey) {
+        key.add(column);
         if (!isAmong(column, names))
             raiseNoSuchField(column, table.table, names);
     }
@@ -129,7 +144,9 @@ std::string schemaChange(Catalog &catalog, const CreateIndex &index)
         raiseError(Failure, "Table '" + table.name + "' already has an index named '" +
                                 std::string(index.index) + "'.");
     std::string columns;
+    DifferentNames names;
     for (const auto &[name, descending] : index.columns) {
+        names.add(name);
         // SQLite does not fold the case of accented letters: only the name of the definition will do.
         columns += (columns.empty() ? "" : ", ") + quotedName(requireColumn(table, name).name) +
                    (descending ? " DESC" : "");
