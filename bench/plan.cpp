@@ -8,6 +8,7 @@
 #include <sqlite3.h>
 
 #include <regex>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -20,11 +21,12 @@ int noteHandle(sqlite3 *handle, char **, const void *)
     return SQLITE_OK;
 }
 
-/// Keeps the last statement that a handle starts, with its values in it.
+/// Keeps the last query that a handle starts, with its values in it.
 int noteStatement(unsigned, void *last, void *statement, void *)
 {
-    char *sql = sqlite3_expanded_sql(static_cast<sqlite3_stmt *>(statement));
-    if (sql)
+    auto *started = static_cast<sqlite3_stmt *>(statement);
+    char *sql = sqlite3_expanded_sql(started);
+    if (sql && sqlite3_column_count(started) > 0 && !std::string_view(sql).starts_with("PRAGMA"))
         *static_cast<std::string *>(last) = sql;
     sqlite3_free(sql);
     return 0;

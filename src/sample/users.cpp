@@ -160,12 +160,13 @@ private:
 QList<User> fillUsers(StoreSession &store, int count)
 {
     Staff staff;
+    const UserInsert insert(userColumns());
     QList<User> users(count);
     for (int number = 0; number < count; ++number) {
         QList<QString> values = userValues(staff.user(number, users[number]));
         for (QString &value : values)
             value = escapeQuotes(value);
-        store.execute(insertUser(userColumns(), values));
+        store.execute(insert.with(values));
     }
     return users;
 }

@@ -63,7 +63,7 @@ void clsUsers::Add(const QString &connectionString, UserRecord &user)
                 joined("SELECT * FROM Tbl_Users WHERE [UserName] ='{name}' AND [ServerName]='{server}'"_L1,
                        {{"name"_L1, user.UserName}, {"server"_L1, user.ServerName}})))
             raise(RuleViolation, alreadyExists);
-        store.execute(insertUser(userColumns(), userValues(user)));
+        store.execute(UserInsert(userColumns()).with(userValues(user)));
     });
 }
 

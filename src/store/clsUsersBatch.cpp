@@ -62,6 +62,7 @@ public:
     UserBatch(jet::Recordset &records, const BatchKind &kind, bool leaveExisting, BatchOutcome outcome)
         : m_records(records, namesOf(kind.updated))
         , m_kind(kind)
+        , m_insert(kind.inserted, kind.escaping)
         , m_leaveExisting(leaveExisting)
         , m_outcome(outcome)
         , m_values(kind.updated.size())
@@ -120,7 +121,7 @@ private:
             m_outcome.fail(account(), u" a new UserID has been generated. This User may cause Problems when "
                                       "Re-Importing Account Settings from Live System."_s);
         }
-        store.execute(insertUser(m_kind.inserted, m_values, m_kind.escaping));
+        store.execute(m_insert.with(m_values));
         ++m_outcome.newCount;
     }
 
@@ -135,6 +136,7 @@ private:
 
     BatchRecords m_records;
     BatchKind m_kind;
+    UserInsert m_insert;
     bool m_leaveExisting;
     BatchOutcome m_outcome;
     std::vector<QString> m_values;

@@ -84,14 +84,6 @@ constexpr UserColumn importFileColumns[] = {
 };
 // clang-format on
 
-qsizetype roomFor(std::span<const UserColumn> columns, std::span<const QString> values)
-{
-    qsizetype room = 64;
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        room += columns[i].name.size() + values[i].size() + 10;
-    return room;
-}
-
 void appendValue(QString &sql, const UserColumn &column, const QString &value, Escaping escaping)
 {
     if (!column.isText()) {
@@ -137,21 +129,28 @@ std::span<const UserColumn> fileColumns()
     return importFileColumns;
 }
 
-QString insertUser(std::span<const UserColumn> columns, std::span<const QString> values, Escaping escaping)
+UserInsert::UserInsert(std::span<const UserColumn> columns, Escaping escaping)
+    : m_columns(columns)
+    , m_escaping(escaping)
+    , m_head("INSERT INTO TBL_USERS ("_L1)
+{
+    for (const UserColumn &column : columns)
+        m_head += (&column == columns.data() ? "["_L1 : ",["_L1) + column.name + u']';
+    m_head += ") VALUES ("_L1;
+}
+
+QString UserInsert::with(std::span<const QString> values) const
 {
     QString sql;
-    sql.reserve(roomFor(columns, values));
-    sql += "INSERT INTO TBL_USERS ("_L1;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        sql += i == 0 ? "["_L1 : ",["_L1;
-        sql += columns[i].name;
-        sql += u']';
-    }
-    sql += ") VALUES ("_L1;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
+    qsizetype room = m_head.size() + 1;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        room += values[i].size() + 3;
+    sql.reserve(room);
+    sql += m_head;
+    for (std::size_t i = 0; i < m_columns.size(); ++i) {
         if (i > 0)
             sql += u',';
-        appendValue(sql, columns[i], values[i], escaping);
+        appendValue(sql, m_columns[i], values[i], m_escaping);
     }
     sql += u')';
     return sql;
@@ -160,7 +159,10 @@ QString insertUser(std::span<const UserColumn> columns, std::span<const QString>
 QString updateUser(std::span<const UserColumn> columns, std::span<const QString> values, Escaping escaping)
 {
     QString sql;
-    sql.reserve(roomFor(columns, values));
+    qsizetype room = 64;
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        room += columns[i].name.size() + values[i].size() + 10;
+    sql.reserve(room);
     sql += "UPDATE Tbl_Users SET "_L1;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         sql += i == 0 ? "["_L1 : ", ["_L1;

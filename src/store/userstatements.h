@@ -33,10 +33,23 @@ struct UserColumn
 
 enum class Escaping { None, Batch };
 
-/// The texts of the two statements that write a row, with at least one value a column (what is inserted
-/// begins what is updated). The update ends before its WHERE.
-[[nodiscard]] QString insertUser(std::span<const UserColumn> columns, std::span<const QString> values,
-                                 Escaping escaping = Escaping::None);
+// The texts of the two statements that write a row. Values are as many as the columns or more: what is
+// inserted begins what is updated.
+
+/// The INSERT, whose head is made once for all rows.
+class UserInsert final
+{
+public:
+    explicit UserInsert(std::span<const UserColumn> columns, Escaping escaping = Escaping::None);
+    [[nodiscard]] QString with(std::span<const QString> values) const;
+
+private:
+    std::span<const UserColumn> m_columns;
+    Escaping m_escaping;
+    QString m_head;
+};
+
+/// The UPDATE, up to its WHERE.
 [[nodiscard]] QString updateUser(std::span<const UserColumn> columns, std::span<const QString> values,
                                  Escaping escaping = Escaping::None);
 

@@ -59,7 +59,8 @@ Token Lexer::finish(TokenKind kind, std::size_t start, std::string_view text)
     token.text = text;
     token.offset = start;
     token.end = m_at;
-    m_behindPoint = m_lastKind == TokenKind::Symbol && (m_lastText == "." || m_lastText == "!");
+    m_behindPoint = m_lastIsPoint;
+    m_lastIsPoint = kind == TokenKind::Symbol && (text[0] == '.' || text[0] == '!');
     m_lastKind = kind;
     m_lastText = text;
     return token;
@@ -123,12 +124,11 @@ Token Lexer::symbol(std::size_t length)
 Token Lexer::name()
 {
     const std::size_t start = m_at;
-    while (m_at < m_statement.size()) {
-        const Class kind = classOf(m_statement[m_at]);
-        if (kind != Letter && kind != Digit && m_statement[m_at] != '$')
-            break;
-        ++m_at;
-    }
+    const auto end = std::find_if(m_statement.begin() + std::ptrdiff_t(start), m_statement.end(), [](char c) {
+        const Class kind = classOf(c);
+        return kind != Letter && kind != Digit && c != '$';
+    });
+    m_at = std::size_t(end - m_statement.begin());
     return finish(TokenKind::Name, start, m_statement.substr(start, m_at - start));
 }
 

@@ -76,6 +76,7 @@ private:
     std::size_t m_at = 0;
     TokenKind m_lastKind = TokenKind::End;
     std::string_view m_lastText;
+    bool m_lastIsPoint = false;
     bool m_behindPoint = false; ///< the last token
     std::vector<Literal> &m_literals;
     Fault m_fault;

@@ -152,7 +152,6 @@ void Recordset::open(const QString &sql, Connection &connection, int cursor, int
     Q_UNUSED(options);
     if (m_open)
         raiseOpen();
-    clearRows();
     Filler filler(*this);
     try {
         m_open = connection.database().run(sql, filler);
@@ -167,7 +166,6 @@ void Recordset::open()
 {
     if (m_open)
         raiseOpen();
-    clearRows();
     m_open = true;
     m_writable = true;
 }
@@ -176,7 +174,8 @@ void Recordset::close()
 {
     requireOpen();
     m_open = false;
-    clearRows();
+    if (m_rows > 0)
+        clearRows();
 }
 
 bool Recordset::bof() const
