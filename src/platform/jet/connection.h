@@ -54,8 +54,8 @@ private:
 [[nodiscard]] QString connectionString(const QString &path);
 
 /// Commits the pending group of writes of every open file of this process that no other program reads; raises
-/// ChangesLost where that fails for good. The one
-/// yield of the program calls this before it lets other events run.
+/// ChangesLost where that fails for good. The one yield of the program calls this before it lets other events
+/// run.
 void flushPendingWrites();
 
 } // namespace jet

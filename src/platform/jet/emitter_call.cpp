@@ -128,18 +128,16 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
     // SQLite adds whole numbers up in 64 bits and raises beyond.
     if (row.type == AggregateType::Double && !isLong(operand.type.type))
         list = "1.0 * " + list;
+    // Over columns of an outer query alone SQLite would take the aggregate for one of that query.
+    if (scope.outer != nullptr && !scope.sources.empty() && !usesSources(*source.arguments[0], scope)) {
+        const ScopeSource &own = scope.sources[0];
+        const std::string column = quotedName(own.name) + '.' + quotedName(own.columns[0].name);
+        list = "CASE WHEN " + column + " IS " + column + " THEN " + list + " END";
+    }
     // Without a row id beside it, SQLite would read the rows in the order of an index.
     if (row.type == AggregateType::OfOneRow && scope.sources.size() == 1 && scope.sources[0].isTable())
         list += ", " + quotedName(scope.sources[0].name) + '.' +
                 std::string(rowIdName(m_catalog.table(scope.sources[0].table)));
-    // Over columns of an outer query alone SQLite would take the aggregate for one of that query.
-    if (scope.outer != nullptr && !scope.sources.empty() && !usesSources(*source.arguments[0], scope)) {
-        const ScopeSource &own = scope.sources[0];
-        const std::string column = quotedName(own.name) + '.' +
-                                   (own.isTable() ? std::string(rowIdName(m_catalog.table(own.table)))
-                                                  : quotedName(own.columns[0].name));
-        list = "CASE WHEN " + column + " IS " + column + " THEN " + list + " END";
-    }
     const std::string sql = std::string(row.sqlite) + '(' + list + ')';
     switch (row.type) {
     case AggregateType::Count:
