@@ -57,7 +57,7 @@ void addBatch(const QString &store, jet::Recordset &records, int expectedNew, in
     clsUsers().AddBatchFromFile(jet::connectionString(store), records, false, added, updated, failed,
                                 failures);
     if (added != expectedNew || updated != expectedUpdated || failed != 0)
-        raise(1, "The batch failed: "_L1 + failures.left(200));
+        throwError(1, "The batch failed: "_L1 + failures.left(200));
 }
 
 /// The same reads and writes on prepared statements in one transaction.

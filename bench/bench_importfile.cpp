@@ -23,7 +23,7 @@ QString fileOf(int lines)
     const QString path = workbench::freshPath(u"txt"_s);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        raise(FileAccessError, file.errorString());
+        throwError(FileAccessError, file.errorString());
     for (int line = 1; line <= lines; ++line) {
         const QByteArray name = "user" + QByteArray::number(line);
         file.write(name + ";BERLIN01;Full Name of " + name +
@@ -38,11 +38,11 @@ double ownMemory(const char *what)
 {
     QFile status(u"/proc/self/status"_s);
     if (!status.open(QIODevice::ReadOnly))
-        raise(FileAccessError, status.errorString());
+        throwError(FileAccessError, status.errorString());
     for (const QByteArray &line : status.readAll().split('\n'))
         if (line.startsWith(what))
             return line.simplified().split(' ').value(1).toDouble() * 1024;
-    raise(FileAccessError, u"The system does not tell the memory of a process."_s);
+    throwError(FileAccessError, u"The system does not tell the memory of a process."_s);
 }
 
 /// From here on the greatest memory is counted anew.
@@ -51,7 +51,7 @@ void forgetPeak()
     malloc_trim(0);
     QFile references(u"/proc/self/clear_refs"_s);
     if (!references.open(QIODevice::WriteOnly) || references.write("5") != 1)
-        raise(FileAccessError, references.errorString());
+        throwError(FileAccessError, references.errorString());
 }
 
 void expectUsers(const QString &store, int users)
@@ -61,7 +61,7 @@ void expectUsers(const QString &store, int users)
     jet::Recordset count;
     count.open(u"SELECT Count(*) FROM Tbl_Users"_s, connection);
     if (count.value(0).toInteger() != users)
-        raise(1, u"Not all lines were imported."_s);
+        throwError(1, u"Not all lines were imported."_s);
 }
 
 /// The command of the menu, from the question to the report.

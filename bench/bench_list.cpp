@@ -24,7 +24,7 @@ void getAll(const QString &store, jet::Recordset &rows, int expected)
 {
     clsUsers().getAll(jet::connectionString(store), rows);
     if (rows.recordCount() != expected)
-        raise(1, u"The store lacks rows."_s);
+        throwError(1, u"The store lacks rows."_s);
 }
 
 void GetAll(benchmark::State &state)
@@ -63,7 +63,7 @@ void openAllUsers()
     modUsers::listAllUsers(nullptr);
     QApplication::processEvents();
     if (!mainWindow()->targetDisplay())
-        raise(1, u"No view was opened."_s);
+        throwError(1, u"No view was opened."_s);
 }
 
 void closeAllUsers()

@@ -61,11 +61,12 @@ void requireSameAnswer(const Reader &reader, const QString &path, int subject)
     std::ranges::sort(texts);
     std::ranges::sort(expected);
     if (rows != rowsByHand || texts != expected)
-        raise(1, u"%1 gives %2 rows and %3 texts, %4 and %5 by hand."_s.arg(QLatin1StringView(reader.name))
-                     .arg(rows)
-                     .arg(texts.size())
-                     .arg(rowsByHand)
-                     .arg(expected.size()));
+        throwError(1,
+                   u"%1 gives %2 rows and %3 texts, %4 and %5 by hand."_s.arg(QLatin1StringView(reader.name))
+                       .arg(rows)
+                       .arg(texts.size())
+                       .arg(rowsByHand)
+                       .arg(expected.size()));
 }
 
 void read(benchmark::State &state, const Reader &reader)
@@ -192,7 +193,7 @@ struct Permissions
             permissions += u"RX"_s;
         }
         if (paths.size() != count)
-            raise(1, u"The sample is too small for the batch."_s);
+            throwError(1, u"The sample is too small for the batch."_s);
     }
 };
 
@@ -207,7 +208,7 @@ void AddPermissionsBatch(benchmark::State &state)
             clsFolders().AddPermissionsBatch(jet::connectionString(store), lines.paths, lines.names,
                                              lines.servers, lines.permissions, errors);
             if (!errors.isEmpty())
-                raise(1, errors.left(200));
+                throwError(1, errors.left(200));
         });
         workbench::removeStore(store);
     }
@@ -238,7 +239,7 @@ void AddPermissionsBatchByHand(benchmark::State &state)
                 const qint64 folderId = folder.number(0);
                 folder.reset();
                 if (group.bind(1, name).bind(2, server).step())
-                    raise(1, u"A user of the sample is called like a group."_s);
+                    throwError(1, u"A user of the sample is called like a group."_s);
                 group.reset();
                 (void)user.bind(1, name).bind(2, server).step();
                 const qint64 userId = user.number(0);

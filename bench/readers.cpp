@@ -436,6 +436,6 @@ int subjectOf(const Reader &reader, const QString &path)
     RawStatement busiest(store, std::string("SELECT ") + reader.subject +
                                     " GROUP BY 1 ORDER BY Count(*) DESC, 1 LIMIT 1");
     if (!busiest.step())
-        raise(1, u"The sample has nothing to read for."_s);
+        throwError(1, u"The sample has nothing to read for."_s);
     return int(busiest.number(0));
 }

@@ -43,7 +43,7 @@ QString copyOf(const QString &store)
 {
     const QString path = freshPath(u"mdb"_s);
     if (!QFile::copy(store, path))
-        raise(FileAccessError, "Path/File access error: "_L1 + path);
+        throwError(FileAccessError, "Path/File access error: "_L1 + path);
     return path;
 }
 

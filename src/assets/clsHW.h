@@ -1,7 +1,7 @@
 #pragma once
 
+#include "assets/hwrecord.h"
 #include "platform/jet/recordset.h"
-#include "store/hwrecord.h"
 #include "store/recordclass.h"
 
 #include <QString>

@@ -1,6 +1,6 @@
 #include "assets/clsHWType.h"
 
-#include "store/assetstatements.h"
+#include "assets/assetstatements.h"
 #include "store/statement.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "assets/clsRooms.h"
 
-#include "store/assetstatements.h"
+#include "assets/assetstatements.h"
 #include "store/statement.h"
 #include "store/storesession.h"
 

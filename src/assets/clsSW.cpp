@@ -1,6 +1,6 @@
 #include "assets/clsSW.h"
 
-#include "store/assetstatements.h"
+#include "assets/assetstatements.h"
 #include "store/statement.h"
 
 using namespace Qt::StringLiterals;

@@ -12,7 +12,7 @@ const char *Error::what() const noexcept
     return m_what.constData();
 }
 
-void raise(int number, const QString &description)
+void throwError(int number, const QString &description)
 {
     throw Error(number, description);
 }

@@ -25,7 +25,7 @@ private:
     QByteArray m_what;
 };
 
-[[noreturn]] void raise(int number, const QString &description);
+[[noreturn]] void throwError(int number, const QString &description);
 
 /// The one error channel of procedures that skip errors step by step: clear it,
 /// do the step, read it right after.

@@ -30,7 +30,7 @@ QString TextColumn::text(std::size_t row) const
 void TextColumn::place(std::size_t row)
 {
     if (m_block.size() >= std::numeric_limits<quint32>::max())
-        raise(OutOfMemory, u"Out of memory: a column holds more than 4 GiB of text."_s);
+        throwError(OutOfMemory, u"Out of memory: a column holds more than 4 GiB of text."_s);
     if (row >= m_places.size())
         m_places.resize(row + 1, 0);
     m_places[row] = quint32(m_block.size()) + 1;

@@ -30,7 +30,7 @@ char16_t fromWindows1252(uchar byte)
 
 [[noreturn]] void refuse(const QString &path, const QString &reason)
 {
-    raise(FileAccessError, "The File '"_L1 + path + "' could not be read: "_L1 + reason);
+    throwError(FileAccessError, "The File '"_L1 + path + "' could not be read: "_L1 + reason);
 }
 
 LineStream::Encoding markedEncoding(const QString &path)

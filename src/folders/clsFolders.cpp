@@ -1,6 +1,6 @@
 #include "folders/clsFolders.h"
 
-#include "store/folderstatements.h"
+#include "folders/folderstatements.h"
 #include "store/statement.h"
 
 using namespace Qt::StringLiterals;

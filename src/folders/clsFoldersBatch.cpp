@@ -1,7 +1,7 @@
 #include "folders/clsFolders.h"
 
+#include "folders/folderstatements.h"
 #include "platform/jet/errors.h"
-#include "store/folderstatements.h"
 #include "store/statement.h"
 #include "store/storesession.h"
 

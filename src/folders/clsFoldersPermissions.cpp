@@ -74,7 +74,7 @@ QString clsFolders::addPermittedObjects(const QString &connectionString, const Q
         const Value folder = store.scalar(
             joined("SELECT ID from Tbl_Folders WHERE FolderName ='{path}'"_L1, {{"path"_L1, folderName}}));
         if (folder.isNull())
-            raise(RuleViolation, unknownFolder);
+            throwError(RuleViolation, unknownFolder);
         PermittedByKind permitted;
         for (BatchRecords batch(objects, {"Name"_L1, "Server"_L1, "Permission"_L1}); batch.next();) {
             const QString name = batch.text(Name);

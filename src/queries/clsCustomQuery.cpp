@@ -1,6 +1,6 @@
 #include "queries/clsCustomQuery.h"
 
-#include "store/querystatements.h"
+#include "queries/querystatements.h"
 #include "store/statement.h"
 
 using namespace Qt::StringLiterals;

@@ -1,8 +1,8 @@
 #include "sample/company.h"
 
+#include "assets/assetstatements.h"
 #include "base/oledate.h"
 #include "base/text.h"
-#include "store/assetstatements.h"
 #include "store/storesession.h"
 
 using namespace Qt::StringLiterals;

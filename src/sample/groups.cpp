@@ -1,6 +1,6 @@
 #include "sample/company.h"
 
-#include "store/folderstatements.h"
+#include "folders/folderstatements.h"
 #include "store/groups.h"
 #include "store/relations.h"
 #include "store/storesession.h"

@@ -1,8 +1,8 @@
 #include "sample/sampledata.h"
 
 #include "base/text.h"
+#include "queries/querystatements.h"
 #include "sample/company.h"
-#include "store/querystatements.h"
 #include "store/storefile.h"
 #include "store/storesession.h"
 

@@ -14,7 +14,7 @@ BatchRecords::BatchRecords(jet::Recordset &records, std::span<const QLatin1Strin
     for (const QLatin1StringView field : fields) {
         const int place = records.fields().indexOf(QString(field));
         if (place < 0)
-            raise(jet::ItemNotFound, "The records of the batch have no field '"_L1 + field + "'."_L1);
+            throwError(jet::ItemNotFound, "The records of the batch have no field '"_L1 + field + "'."_L1);
         m_places.push_back(place);
     }
 }

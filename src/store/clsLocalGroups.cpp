@@ -148,7 +148,7 @@ void clsLocalGroups::addFoldersBatch(const QString &connectionString, const QStr
         const Value group = store.scalar(
             joined("SELECT ID from Tbl_LocalGroups WHERE [Name]='{name}'"_L1, {{"name"_L1, groupName}}));
         if (group.isNull())
-            raise(RuleViolation, unknownGroup);
+            throwError(RuleViolation, unknownGroup);
         const Permissions taken = findOrAddFolders(store, records, failed);
         addRelations(store, foldersOfGroup(GroupKind::Local), int(group.toInteger()), taken.ids,
                      taken.permissions);

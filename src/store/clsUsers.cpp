@@ -62,7 +62,7 @@ void clsUsers::Add(const QString &connectionString, UserRecord &user)
         if (store.exists(
                 joined("SELECT * FROM Tbl_Users WHERE [UserName] ='{name}' AND [ServerName]='{server}'"_L1,
                        {{"name"_L1, user.UserName}, {"server"_L1, user.ServerName}})))
-            raise(RuleViolation, alreadyExists);
+            throwError(RuleViolation, alreadyExists);
         store.execute(UserInsert(userColumns()).with(userValues(user)));
     });
 }
@@ -74,7 +74,7 @@ void clsUsers::update(const QString &connectionString, const UserRecord &user)
         if (store.exists(joined("SELECT * FROm Tbl_Users WHERE [UserName]='{name}' "
                                 "AND [ServerName]  = '{server}' AND  [UserID] <> {id}"_L1,
                                 {{"name"_L1, user.UserName}, {"server"_L1, user.ServerName}, {"id"_L1, id}})))
-            raise(RuleViolation, alreadyExists);
+            throwError(RuleViolation, alreadyExists);
         const QList<QString> values = userValues(user);
         store.execute(updateUser(userColumns().subspan(1), std::span(values).subspan(1)) +
                       " WHERE [UserID]="_L1 + id);

@@ -89,7 +89,7 @@ public:
         bool isNumber = true;
         const bool isNew = id.isEmpty() || id.toInt(&isNumber) == 0;
         if (!isNumber)
-            raise(jet::TypeMismatch, u"'%1' is no UserID."_s.arg(id));
+            throwError(jet::TypeMismatch, u"'%1' is no UserID."_s.arg(id));
         if (isNew)
             id = QString::number(nextUserId(store));
 

@@ -39,7 +39,7 @@ void clsUsers::addFoldersBatch(const QString &connectionString, const QString &u
         const Value user = store.scalar(
             joined("SELECT UserID FROM Tbl_Users WHERE [UserName]='{name}'"_L1, {{"name"_L1, userName}}));
         if (user.isNull())
-            raise(RuleViolation, unknownUser);
+            throwError(RuleViolation, unknownUser);
         const Permissions taken = findOrAddFolders(store, records, failed);
         addRelations(store, foldersOfUser(), int(user.toInteger()), taken.ids, taken.permissions);
     });

@@ -191,7 +191,7 @@ void addGroup(StoreSession &store, GroupKind kind, const QString &server, const 
               const QString &description, int &id)
 {
     if (store.exists(joined(taken[kind], {{"name"_L1, name}, {"server"_L1, server}})))
-        raise(RuleViolation, alreadyExists[kind]);
+        throwError(RuleViolation, alreadyExists[kind]);
     store.execute(
         joined(insert[kind], {{"name"_L1, name}, {"server"_L1, server}, {"description"_L1, description}}));
     id = int(store.scalar(newest[kind]).toInteger());
@@ -203,7 +203,7 @@ void updateGroup(StoreSession &store, GroupKind kind, int id, const QString &ser
     const QString idText = QString::number(id);
     if (store.exists(
             joined(takenByOther[kind], {{"name"_L1, name}, {"server"_L1, server}, {"id"_L1, idText}})))
-        raise(RuleViolation, alreadyExists[kind]);
+        throwError(RuleViolation, alreadyExists[kind]);
     store.execute(joined(
         update[kind],
         {{"name"_L1, name}, {"server"_L1, server}, {"description"_L1, description}, {"id"_L1, idText}}));

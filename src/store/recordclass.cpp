@@ -15,7 +15,7 @@ void closeAfter(const Error &failure, StoreSession &store)
     } catch (const jet::ChangesLost &second) {
         throw jet::ChangesLost(failure.number(), failure.description() + u' ' + second.description());
     } catch (const Error &second) {
-        raise(failure.number(), failure.description() + u' ' + second.description());
+        throwError(failure.number(), failure.description() + u' ' + second.description());
     }
 }
 
@@ -70,7 +70,7 @@ void RecordClass::writeUnlessFound(const QString &connectionString, const QStrin
 {
     withStore(connectionString, [&](StoreSession &store) {
         if (store.exists(test))
-            raise(RuleViolation, refusal);
+            throwError(RuleViolation, refusal);
         store.execute(statement);
     });
 }

@@ -90,7 +90,7 @@ std::vector<jet::StoredTable> expectedTables()
 {
     const QTemporaryDir folder;
     if (!folder.isValid())
-        raise(FileAccessError, folder.errorString());
+        throwError(FileAccessError, folder.errorString());
     const QString path = folder.filePath(u"new.mdb"_s);
     createStore(path);
     jet::Connection connection;

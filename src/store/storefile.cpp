@@ -53,8 +53,8 @@ public:
     {
         QFile file(m_path);
         if (!file.rename(m_target))
-            raise(jet::Failure, "The store '"_L1 + QDir::toNativeSeparators(m_target) +
-                                    "' could not be written: "_L1 + file.errorString());
+            throwError(jet::Failure, "The store '"_L1 + QDir::toNativeSeparators(m_target) +
+                                         "' could not be written: "_L1 + file.errorString());
     }
 
 private:
@@ -67,15 +67,16 @@ void refuseTakenPlace(const QString &path)
     const QFileInfo target(path);
     const QString shown = QDir::toNativeSeparators(path);
     if (path.isEmpty())
-        raise(jet::Failure, u"The store needs a file name."_s);
+        throwError(jet::Failure, u"The store needs a file name."_s);
     if (target.exists() || target.isSymLink())
-        raise(jet::Failure, "The store '"_L1 + shown + "' could not be made: the file already exists."_L1);
+        throwError(jet::Failure,
+                   "The store '"_L1 + shown + "' could not be made: the file already exists."_L1);
     if (!target.dir().exists())
-        raise(jet::Failure, "The store '"_L1 + shown + "' could not be made: there is no folder '"_L1 +
-                                QDir::toNativeSeparators(target.path()) + "'."_L1);
+        throwError(jet::Failure, "The store '"_L1 + shown + "' could not be made: there is no folder '"_L1 +
+                                     QDir::toNativeSeparators(target.path()) + "'."_L1);
     if (!QFileInfo(target.path()).isWritable())
-        raise(jet::Failure, "The store '"_L1 + shown + "' could not be made: the folder '"_L1 +
-                                QDir::toNativeSeparators(target.path()) + "' cannot be written to."_L1);
+        throwError(jet::Failure, "The store '"_L1 + shown + "' could not be made: the folder '"_L1 +
+                                     QDir::toNativeSeparators(target.path()) + "' cannot be written to."_L1);
 }
 
 } // namespace

@@ -197,6 +197,6 @@ int nextUserId(StoreSession &store)
     if (highest.isNull())
         return 1;
     if (highest.toInteger() >= std::numeric_limits<int>::max())
-        raise(jet::TypeMismatch, u"There is no UserID above %1."_s.arg(highest.toInteger()));
+        throwError(jet::TypeMismatch, u"There is no UserID above %1."_s.arg(highest.toInteger()));
     return int(highest.toInteger()) + 1;
 }

@@ -50,7 +50,7 @@ void CommonDialog::show(Kind kind, QWidget *parent)
     const CommonDialogHandler handler = handlerInPlace();
     const QString chosen = handler ? handler(*this, kind) : askUser(*this, kind, parent);
     if (chosen.isEmpty())
-        raise(CancelError, u"Cancel was selected."_s);
+        throwError(CancelError, u"Cancel was selected."_s);
     fileName = chosen;
 }
 

@@ -76,14 +76,14 @@ ListView::ListView(QWidget *parent) : QTreeView(parent), m_model(new ListModel(t
 void ListView::requireRow(int row) const
 {
     if (row < 0 || row >= rowCount())
-        ::raise(IndexOutOfBounds, u"Index out of bounds: the list has no row "_s % QString::number(row));
+        throwError(IndexOutOfBounds, u"Index out of bounds: the list has no row "_s % QString::number(row));
 }
 
 void ListView::requireColumn(int column) const
 {
     if (column < 0 || column >= columnCount())
-        ::raise(IndexOutOfBounds,
-                u"Index out of bounds: the list has no column "_s % QString::number(column));
+        throwError(IndexOutOfBounds,
+                   u"Index out of bounds: the list has no column "_s % QString::number(column));
 }
 
 void ListView::setColumns(const QStringList &headings)

@@ -101,8 +101,8 @@ StatusBar::StatusBar(int panels, QWidget *parent) : QStatusBar(parent)
 StatusBar::Panel &StatusBar::panelAt(int panel) const
 {
     if (panel < 1 || panel > panelCount())
-        ::raise(IndexOutOfBounds,
-                u"Index out of bounds: the status bar has no panel "_s % QString::number(panel));
+        throwError(IndexOutOfBounds,
+                   u"Index out of bounds: the status bar has no panel "_s % QString::number(panel));
     return *m_panels[std::size_t(panel) - 1];
 }
 

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 TEST(CurrentError, HoldsTheFailureOfTheLastStepOnly)
 {
-    EXPECT_FALSE(attempt([] { raise(RuleViolation, u"taken: Ä"_s); }));
+    EXPECT_FALSE(attempt([] { throwError(RuleViolation, u"taken: Ä"_s); }));
     EXPECT_EQ(currentError().number, 1973);
     EXPECT_EQ(currentError().description, u"taken: Ä");
 

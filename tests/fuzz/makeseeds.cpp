@@ -24,7 +24,7 @@ QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        raise(53, "File not found: "_L1 + path);
+        throwError(53, "File not found: "_L1 + path);
     return file.readAll();
 }
 
@@ -37,7 +37,7 @@ public:
     {
         QFile file(m_folder.filePath(QString::number(++m_count)));
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            raise(75, "Path/File access error: "_L1 + file.fileName());
+            throwError(75, "Path/File access error: "_L1 + file.fileName());
     }
 
 private:
@@ -67,7 +67,7 @@ void writeStatements(const QString &cases, const QString &out)
     }
     QFile dictionary(out + "/words"_L1);
     if (!dictionary.open(QIODevice::WriteOnly))
-        raise(75, "Path/File access error: "_L1 + dictionary.fileName());
+        throwError(75, "Path/File access error: "_L1 + dictionary.fileName());
     for (const QString &word : words)
         dictionary.write('"' + word.toUtf8() + "\"\n");
 }
@@ -89,7 +89,7 @@ QByteArray smallPages(const QString &path, const QStringList &statements)
     const int result = sqlite3_exec(handle, "PRAGMA page_size = 512; VACUUM", nullptr, nullptr, nullptr);
     sqlite3_close(handle);
     if (result != SQLITE_OK)
-        raise(75, "Path/File access error: "_L1 + path);
+        throwError(75, "Path/File access error: "_L1 + path);
     const QByteArray content = contentOf(path);
     QFile::remove(path);
     return content;

@@ -28,7 +28,7 @@ QString readFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        raise(53, "File not found: "_L1 + path);
+        throwError(53, "File not found: "_L1 + path);
     return QString::fromUtf8(file.readAll());
 }
 
@@ -46,7 +46,7 @@ public:
         const QString copy = m_temporary.filePath("store.mdb"_L1);
         QFile::remove(copy);
         if (!QFile::copy(made, copy))
-            raise(75, "Path/File access error: "_L1 + copy);
+            throwError(75, "Path/File access error: "_L1 + copy);
         return copy;
     }
 

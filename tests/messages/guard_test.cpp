@@ -39,8 +39,8 @@ TEST_F(GuardTest, ShowsWhatAHandlerRaises)
         const char *text;
     };
     const Case cases[] = {
-        {"rule", [] { raise(RuleViolation, u"A Room is taken"_s); }, "1973\r\nA Room is taken"},
-        {"engine", [] { raise(-2147217900, u"Syntax error near 'FORM'"_s); },
+        {"rule", [] { throwError(RuleViolation, u"A Room is taken"_s); }, "1973\r\nA Room is taken"},
+        {"engine", [] { throwError(-2147217900, u"Syntax error near 'FORM'"_s); },
          "-2147217900\r\nSyntax error near 'FORM'"},
         {"memory", [] { throw std::bad_alloc(); }, "7\r\nOut of memory"},
         {"library", [] { throw std::runtime_error("broken"); }, "1973\r\nbroken"},

@@ -148,7 +148,7 @@ TEST_F(ProgressTest, FailuresAreCollectedInOneResult)
 {
     Batch batch(4, u"Deleting Users"_s);
     EXPECT_TRUE(batch.item(u"good"_s, [] {}));
-    EXPECT_TRUE(batch.item(u"raises"_s, [] { raise(RuleViolation, u"no"_s); }));
+    EXPECT_TRUE(batch.item(u"raises"_s, [] { throwError(RuleViolation, u"no"_s); }));
     EXPECT_TRUE(batch.item(
         u"sets"_s, [] { currentError().set(Error(9010, u"no access"_s)); }, u"CENTRAL\\sets"_s));
     EXPECT_TRUE(batch.item(u"good again"_s, [] {}));

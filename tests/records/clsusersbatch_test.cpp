@@ -300,7 +300,7 @@ TEST_F(UserBatchTest, AFailureBetweenTwoRecordsIsToldAndTheBatchGoesOn)
                 {fileLine(u"0"_s, u"anna"_s, u"S"_s), fileLine(u"0"_s, u"bert"_s, u"S"_s)});
     users.AddBatchFromFile(connection, records, false, added, updated, failed, text, [](int done) {
         if (done == 1)
-            raise(jet::Failure, u"There isn't enough disk space."_s);
+            throwError(jet::Failure, u"There isn't enough disk space."_s);
         return true;
     });
     expectCounts(2, 0, 1);

@@ -137,7 +137,7 @@ TEST(StoreFile, FailureLeavesNothingBehind)
     const QTemporaryDir folder;
     const auto failing = [](StoreSession &store) {
         store.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('12')"_s);
-        raise(RuleViolation, u"broken off"_s);
+        throwError(RuleViolation, u"broken off"_s);
     };
     const CurrentError error = errorOf([&] { createStore(folder.filePath(u"a.kvs"_s), failing); });
     EXPECT_EQ(error.description, u"broken off"_s);

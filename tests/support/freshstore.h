@@ -16,5 +16,5 @@ inline void makeFreshStore(const QString &path)
         return made;
     }();
     if (!QFile::copy(model, path))
-        raise(75, QStringLiteral("The store could not be copied to ") + path);
+        throwError(75, QStringLiteral("The store could not be copied to ") + path);
 }

@@ -79,7 +79,7 @@ TEST_F(OpenViewTest, AFailedReadIsToldAndLeavesTheListAsItWas)
 {
     frmDisplay *view = openUsers();
     const ReadRows fails = [](const QString &, jet::Recordset &) {
-        raise(-2147467259, u"The file is locked."_s);
+        throwError(-2147467259, u"The file is locked."_s);
     };
     expectBox(u"-2147467259\r\nThe file is locked."_s, 16);
     EXPECT_EQ(openView(view, u"DisplayRooms", u"All Rooms"_s, held, fails), nullptr);

@@ -61,7 +61,7 @@ int create(const QStringList &arguments, Console &console)
 QString decoded(const std::string &line)
 {
     if (!QUtf8StringView(line).isValidUtf8())
-        raise(jet::SyntaxError, u"The statement is no valid UTF-8."_s);
+        throwError(jet::SyntaxError, u"The statement is no valid UTF-8."_s);
     return QString::fromStdString(line);
 }
 

@@ -13,9 +13,9 @@ Gallery::Gallery(const QString &folder, const QString &suffix) : m_folder(folder
 {
     const QFileInfo info(folder);
     if (info.exists() && !info.isDir())
-        raise(FileAccessError, folder % " is not a folder."_L1);
+        throwError(FileAccessError, folder % " is not a folder."_L1);
     if (!m_folder.mkpath(u"."_s))
-        raise(FileAccessError, "The folder "_L1 % folder % " cannot be made."_L1);
+        throwError(FileAccessError, "The folder "_L1 % folder % " cannot be made."_L1);
 }
 
 void Gallery::add(QWidget &window, const QString &name)
@@ -23,6 +23,6 @@ void Gallery::add(QWidget &window, const QString &name)
     QSaveFile file(m_folder.filePath(name % m_suffix % ".png"_L1));
     const bool written = file.open(QIODevice::WriteOnly) && window.grab().save(&file, "PNG") && file.commit();
     if (!written)
-        raise(FileAccessError, file.fileName() % " cannot be written: "_L1 % file.errorString());
+        throwError(FileAccessError, file.fileName() % " cannot be written: "_L1 % file.errorString());
     ++m_count;
 }

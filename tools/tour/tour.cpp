@@ -31,7 +31,7 @@ constexpr QSize mainWindowSize(1180, 720);
 
 [[noreturn]] void missing(const QString &what)
 {
-    raise(RuleViolation, what % " did not appear."_L1);
+    throwError(RuleViolation, what % " did not appear."_L1);
 }
 
 /// Takes the picture of each modal window that opens while `open` runs, by the names in
@@ -57,7 +57,7 @@ void walkModal(Gallery &gallery, QStringList names, const std::function<void()> 
     watch.start(0);
     open();
     if (failure.isSet())
-        raise(failure.number, failure.description);
+        throwError(failure.number, failure.description);
     if (!names.isEmpty())
         missing(names.first());
 }

@@ -11,9 +11,9 @@ namespace jet {
 void Command::execute()
 {
     if (m_connection == nullptr)
-        raise(ConnectionClosed,
-              u"The connection cannot be used to perform this operation. It is either closed or invalid "
-              "in this context."_s);
+        throwError(ConnectionClosed,
+                   u"The connection cannot be used to perform this operation. It is either closed or invalid "
+                   "in this context."_s);
     m_connection->execute(commandText);
 }
 

@@ -89,16 +89,16 @@ void Connection::open(const QString &connectionString, const QString &user, cons
     Q_UNUSED(password);
     Q_UNUSED(options);
     if (m_database)
-        raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+        throwError(ObjectOpen, u"Operation is not allowed when the object is open."_s);
     if (property(connectionString, "Provider"_L1).compare(provider, Qt::CaseInsensitive) != 0)
-        raise(ProviderMissing, u"Provider cannot be found. It may not be properly installed."_s);
+        throwError(ProviderMissing, u"Provider cannot be found. It may not be properly installed."_s);
     m_database = Database::open(property(connectionString, "Data Source"_L1));
 }
 
 void Connection::close()
 {
     if (!m_database)
-        raise(ObjectClosed, u"Operation is not allowed when the object is closed."_s);
+        throwError(ObjectClosed, u"Operation is not allowed when the object is closed."_s);
     m_database->requireIdle();
     const std::shared_ptr<Database> database = std::exchange(m_database, nullptr);
     database->close(database.use_count() == 1);
@@ -107,9 +107,9 @@ void Connection::close()
 Database &Connection::database() const
 {
     if (!m_database)
-        raise(ConnectionClosed,
-              u"The connection cannot be used to perform this operation. It is either closed or invalid "
-              "in this context."_s);
+        throwError(ConnectionClosed,
+                   u"The connection cannot be used to perform this operation. It is either closed or invalid "
+                   "in this context."_s);
     return *m_database;
 }
 
@@ -121,7 +121,7 @@ void Connection::execute(const QString &sql)
 void Connection::openSchema(int schema, Recordset &recordset)
 {
     if (schema != SchemaTables)
-        raise(Failure, u"Object or provider is not capable of performing requested operation."_s);
+        throwError(Failure, u"Object or provider is not capable of performing requested operation."_s);
     constexpr int nameSize = 64;
     Database &open = database();
     recordset.fields().clear();

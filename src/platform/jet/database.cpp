@@ -111,8 +111,9 @@ std::shared_ptr<Database> Database::open(const QString &path)
         sqlite3_open_v2(key.toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     Handle handle(raw);
     if (result != SQLITE_OK)
-        raise(Failure, QStringLiteral("Could not open file '%1'. %2.")
-                           .arg(path, QString::fromUtf8(raw ? sqlite3_errmsg(raw) : sqlite3_errstr(result))));
+        throwError(Failure,
+                   QStringLiteral("Could not open file '%1'. %2.")
+                       .arg(path, QString::fromUtf8(raw ? sqlite3_errmsg(raw) : sqlite3_errstr(result))));
     try {
         sqlite3_extended_result_codes(raw, 1);
         registerDialect(raw);
@@ -122,7 +123,7 @@ std::shared_ptr<Database> Database::open(const QString &path)
     } catch (const Error &error) {
         if (error.description().contains(key))
             throw;
-        raise(error.number(), namingFile(error.description(), path));
+        throwError(error.number(), namingFile(error.description(), path));
     }
     std::shared_ptr<Database> shared(new Database(std::move(handle)));
     openDatabases()[key] = shared;
@@ -169,7 +170,7 @@ Database::~Database()
 void Database::requireIdle() const
 {
     if (m_asking)
-        raise(Failure, QStringLiteral("The store is busy with another statement."));
+        throwError(Failure, QStringLiteral("The store is busy with another statement."));
 }
 
 Catalog &Database::catalog()

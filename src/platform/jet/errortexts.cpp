@@ -9,7 +9,7 @@ namespace jet {
 
 void raiseError(int number, std::string_view text)
 {
-    raise(number, QString::fromUtf8(text.data(), qsizetype(text.size())));
+    throwError(number, QString::fromUtf8(text.data(), qsizetype(text.size())));
 }
 
 std::string excerpt(std::string_view text)

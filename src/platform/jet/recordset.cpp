@@ -44,7 +44,7 @@ Value variantAt(sqlite3_stmt *statement, int column)
 
 [[noreturn]] void raiseOpen()
 {
-    raise(ObjectOpen, u"Operation is not allowed when the object is open."_s);
+    throwError(ObjectOpen, u"Operation is not allowed when the object is open."_s);
 }
 
 [[noreturn]] void raiseNotWritable()
@@ -54,9 +54,9 @@ Value variantAt(sqlite3_stmt *statement, int column)
 
 [[noreturn]] void raiseNoItem(const QString &item)
 {
-    raise(ItemNotFound,
-          "Item cannot be found in the collection corresponding to the requested name or ordinal. ("_L1 +
-              item + u')');
+    throwError(ItemNotFound,
+               "Item cannot be found in the collection corresponding to the requested name or ordinal. ("_L1 +
+                   item + u')');
 }
 
 void setNumber(std::vector<double> &numbers, std::vector<bool> &set, std::size_t row, double number)
@@ -121,16 +121,16 @@ Recordset::~Recordset() = default;
 void Recordset::requireOpen() const
 {
     if (!m_open)
-        raise(ObjectClosed, u"Operation is not allowed when the object is closed."_s);
+        throwError(ObjectClosed, u"Operation is not allowed when the object is closed."_s);
 }
 
 void Recordset::requireRecord() const
 {
     requireOpen();
     if (m_current >= m_rows)
-        raise(NoCurrentRecord,
-              u"Either BOF or EOF is True, or the current record has been deleted. Requested operation "
-              "requires a current record."_s);
+        throwError(NoCurrentRecord,
+                   u"Either BOF or EOF is True, or the current record has been deleted. Requested operation "
+                   "requires a current record."_s);
 }
 
 void Recordset::clearRows()

@@ -51,7 +51,7 @@ QString fileOf(sqlite3 *handle)
 
 [[noreturn]] void raiseOfFile(std::string_view text, sqlite3 *handle)
 {
-    raise(Failure, namingFile(QUtf8StringView(text).toString(), fileOf(handle)));
+    throwError(Failure, namingFile(QUtf8StringView(text).toString(), fileOf(handle)));
 }
 
 [[noreturn]] void raiseLocked(sqlite3 *handle)
@@ -59,7 +59,8 @@ QString fileOf(sqlite3 *handle)
     const QString path = fileOf(handle);
     const QString holder = lockHolder(path);
     const QString by = holder.isEmpty() ? QStringLiteral("another program") : holder;
-    raise(Failure, namingFile(QStringLiteral("Could not update; currently locked by %1.").arg(by), path));
+    throwError(Failure,
+               namingFile(QStringLiteral("Could not update; currently locked by %1.").arg(by), path));
 }
 
 /// Whether the message is SQLite's word for a statement beyond its limits.

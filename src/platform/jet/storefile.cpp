@@ -27,10 +27,11 @@ quint32 numberAt(const QByteArray &header, qsizetype offset)
 
 [[noreturn]] void raiseInvalidPath(const QString &path)
 {
-    raise(Failure,
-          "'"_L1 + path +
-              "' is not a valid path.  Make sure that the path name is spelled correctly and that you are "
-              "connected to the server on which the file resides."_L1);
+    throwError(
+        Failure,
+        "'"_L1 + path +
+            "' is not a valid path.  Make sure that the path name is spelled correctly and that you are "
+            "connected to the server on which the file resides."_L1);
 }
 
 } // namespace
@@ -38,31 +39,32 @@ quint32 numberAt(const QByteArray &header, qsizetype offset)
 void checkStoreFile(const QString &path)
 {
     if (path.isEmpty())
-        raise(Failure, u"Could not find file ''. No store has been chosen."_s);
+        throwError(Failure, u"Could not find file ''. No store has been chosen."_s);
     const QFileInfo info(path);
     if (!info.exists() && info.dir().exists())
-        raise(Failure, "Could not find file '"_L1 + path + "'."_L1);
+        throwError(Failure, "Could not find file '"_L1 + path + "'."_L1);
     if (!info.isFile())
         raiseInvalidPath(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        raise(Failure, "Could not read file '"_L1 + path + "': "_L1 + file.errorString() + '.'_L1);
+        throwError(Failure, "Could not read file '"_L1 + path + "': "_L1 + file.errorString() + '.'_L1);
     const QByteArray header = file.read(headerSize);
     if (header.size() < headerSize || !header.startsWith("SQLite format 3") ||
         numberAt(header, applicationOffset) != ApplicationId)
-        raise(Failure, "Unrecognized database format '"_L1 + path + "'."_L1);
+        throwError(Failure, "Unrecognized database format '"_L1 + path + "'."_L1);
     if (const quint32 version = numberAt(header, versionOffset); version > FileVersion)
-        raise(Failure, "The store '"_L1 + path + "' was made by a newer version of the program (format "_L1 +
-                           QString::number(version) + "; this program knows formats up to "_L1 +
-                           QString::number(FileVersion) + ")."_L1);
+        throwError(Failure, "The store '"_L1 + path +
+                                "' was made by a newer version of the program (format "_L1 +
+                                QString::number(version) + "; this program knows formats up to "_L1 +
+                                QString::number(FileVersion) + ")."_L1);
 }
 
 void createDatabase(const QString &path)
 {
     if (path.isEmpty())
-        raise(Failure, u"Could not create a store: no file name was given."_s);
+        throwError(Failure, u"Could not create a store: no file name was given."_s);
     if (QFileInfo::exists(path) || QFileInfo(path).isSymLink())
-        raise(Failure, "Could not create '"_L1 + path + "': the file exists already."_L1);
+        throwError(Failure, "Could not create '"_L1 + path + "': the file exists already."_L1);
     sqlite3 *raw = nullptr;
     const int result =
         sqlite3_open_v2(path.toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
@@ -78,7 +80,7 @@ void createDatabase(const QString &path)
         runSqlite(raw, marks.constData());
     } catch (const Error &error) {
         QFile::remove(path);
-        raise(Failure, "Could not create '"_L1 + path + "': "_L1 + error.description());
+        throwError(Failure, "Could not create '"_L1 + path + "': "_L1 + error.description());
     }
 }
 

@@ -40,8 +40,9 @@ void WriteGroup::requireFileInPlace() const
     int moved = 0;
     sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     if (moved != 0)
-        raise(Failure, QStringLiteral("Could not find file '%1'. It was moved or deleted while it was open.")
-                           .arg(QString::fromUtf8(sqlite3_db_filename(m_handle, "main"))));
+        throwError(Failure,
+                   QStringLiteral("Could not find file '%1'. It was moved or deleted while it was open.")
+                       .arg(QString::fromUtf8(sqlite3_db_filename(m_handle, "main"))));
 }
 
 void WriteGroup::take(bool changed)

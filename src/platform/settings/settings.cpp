@@ -56,8 +56,8 @@ void saveSetting(const QString &application, const QString &section, const QStri
     file.setValue(pathOf(section, key), value);
     file.sync();
     if (file.status() != QSettings::NoError)
-        raise(FileAccessError, "The setting "_L1 % key % " could not be stored. The file "_L1 % name %
-                                   " cannot be written."_L1);
+        throwError(FileAccessError, "The setting "_L1 % key % " could not be stored. The file "_L1 % name %
+                                        " cannot be written."_L1);
 }
 
 } // namespace settings

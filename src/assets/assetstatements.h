@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/hwrecord.h"
+#include "assets/hwrecord.h"
 #include "store/relations.h"
 
 #include <QLatin1StringView>

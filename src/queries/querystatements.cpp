@@ -1,4 +1,4 @@
-#include "store/querystatements.h"
+#include "queries/querystatements.h"
 
 #include "store/statement.h"
 

@@ -1,4 +1,4 @@
-#include "store/assetstatements.h"
+#include "assets/assetstatements.h"
 
 #include "store/statement.h"
 

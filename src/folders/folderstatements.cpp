@@ -1,4 +1,4 @@
-#include "store/folderstatements.h"
+#include "folders/folderstatements.h"
 
 #include "store/statement.h"
 
