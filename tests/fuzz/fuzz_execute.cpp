@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     sqlite3_exec(handle, "PRAGMA synchronous = OFF", nullptr, nullptr, nullptr);
     for (const QString &statement : text.split(u'\n'))
         run(statement, connection);
-    jet::flushPendingWrites();
+    jet::commitPendingWrites();
     if (sqlite3_total_changes(handle) > 0)
         checkWhole(handle);
     connection.close();

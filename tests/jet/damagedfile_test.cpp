@@ -163,7 +163,7 @@ int fillUp(const QString &path, Error &refusal)
             connection.execute("INSERT INTO Tbl_Rooms (RoomNumber, Description) VALUES ('"_L1 +
                                QString::number(room) + "', '"_L1 + QString(300, u'x') + "')"_L1);
             if (room % 100 == 0) {
-                jet::flushPendingWrites();
+                jet::commitPendingWrites();
                 written = room;
             }
         }

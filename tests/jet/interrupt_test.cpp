@@ -101,7 +101,7 @@ TEST_F(InterruptTest, RefusesTheStoreToEventsThatRunMeanwhile)
                     refused.append(QLatin1StringView(use.name));
             }
         }
-        jet::flushPendingWrites();
+        jet::commitPendingWrites();
         return true;
     });
     EXPECT_THROW(connection.execute(longSelect), Error);

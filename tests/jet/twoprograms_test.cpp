@@ -178,7 +178,7 @@ TEST_F(TwoPrograms, AStatementFollowsTheTablesThatTheOtherChanges)
     };
     connection.execute(u"CREATE TABLE T (A TEXT)"_s);
     connection.execute(u"INSERT INTO T (A) VALUES ('7')"_s);
-    jet::flushPendingWrites();
+    jet::commitPendingWrites();
     EXPECT_EQ(read(), "7"_L1 + QString::number(int(jet::FieldType::Memo)));
 
     inTheOther({u"DROP TABLE T"_s, u"CREATE TABLE T (B LONG, A LONG)"_s, u"INSERT INTO T (A) VALUES (8)"_s});
@@ -197,7 +197,7 @@ TEST_F(TwoPrograms, AWriteThatWaitedFollowsTheTables)
 {
     connection.execute(u"CREATE TABLE T (A TEXT)"_s);
     connection.execute(u"INSERT INTO T (A) VALUES ('x')"_s);
-    jet::flushPendingWrites();
+    jet::commitPendingWrites();
     OtherProgram other(link(), {u"DROP TABLE T"_s, u"CREATE TABLE T (A LONG)"_s});
     std::thread later([&other] {
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
@@ -229,7 +229,7 @@ TEST_F(TwoConnections, OneReadsWhatTheOtherHasJustWritten)
         connection.execute("INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('"_L1 + QString::number(room) +
                            "')"_L1);
         if (room % 10 == 0)
-            jet::flushPendingWrites();
+            jet::commitPendingWrites();
         jet::Recordset rows;
         rows.open(u"SELECT * FROM Tbl_Rooms"_s, reader);
         ASSERT_EQ(rows.recordCount(), room);

@@ -69,7 +69,7 @@ QString decoded(const std::string &line)
 void flushBeforeWaiting(Console &console)
 {
     if (console.in.rdbuf()->in_avail() <= 0)
-        jet::flushPendingWrites();
+        jet::commitPendingWrites();
 }
 
 /// Whether the statement was accepted.

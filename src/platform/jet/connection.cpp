@@ -79,6 +79,11 @@ void flushPendingWrites()
     Database::flushAll();
 }
 
+void commitPendingWrites()
+{
+    Database::commitAll();
+}
+
 Connection::Connection() = default;
 Connection::~Connection() = default;
 

@@ -53,9 +53,11 @@ private:
 /// The connection text of a store file.
 [[nodiscard]] QString connectionString(const QString &path);
 
-/// Commits the pending group of writes of every open file of this process that no other program reads; raises
-/// ChangesLost where that fails for good. The one yield of the program calls this before it lets other events
-/// run.
+/// Commits the pending group of writes of every open file of this process that no other program reads. Never
+/// raises: where it fails for good, the next use of that file raises the ChangesLost. For the middle of other
+/// work, as when the program paints.
 void flushPendingWrites();
+/// The same where nothing uses the files any more: raises the first ChangesLost.
+void commitPendingWrites();
 
 } // namespace jet

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <exception>
 #include <map>
+#include <utility>
 
 namespace jet {
 namespace {
@@ -132,17 +133,19 @@ std::shared_ptr<Database> Database::open(const QString &path)
 
 void Database::flushAll()
 {
-    std::exception_ptr first;
     for (auto &[path, known] : openDatabases()) {
-        try {
-            if (const std::shared_ptr<Database> database = known.lock())
-                database->flushUnlessRead();
-        } catch (const Error &) {
-            first = first ? first : std::current_exception();
-        }
+        if (const std::shared_ptr<Database> database = known.lock())
+            database->flushUnlessRead();
     }
-    if (first)
-        std::rethrow_exception(first);
+}
+
+void Database::commitAll()
+{
+    flushAll();
+    for (auto &[path, known] : openDatabases()) {
+        if (const std::shared_ptr<Database> database = known.lock())
+            database->raiseLostBefore();
+    }
 }
 
 Database::Database(Handle handle)
@@ -176,6 +179,7 @@ void Database::requireIdle() const
 Catalog &Database::catalog()
 {
     requireIdle();
+    raiseLostBefore();
     if (!m_group.isOpen())
         forgetWhatOthersChanged();
     return m_catalog;
@@ -315,6 +319,7 @@ int Database::onProgress(void *database)
 bool Database::run(const QString &sql, RowSink &rows)
 {
     requireIdle();
+    raiseLostBefore();
     const ProgressWatch watch(*this);
     Reading reading(*this);
     // While a group is open nobody else can change the tables.
@@ -394,12 +399,24 @@ void Database::runWrite(Prepared &prepared)
 
 void Database::flushUnlessRead()
 {
-    if (!m_asking)
+    if (m_asking)
+        return;
+    try {
         m_group.commitUnlessRead();
+    } catch (const Error &) {
+        m_lostBefore = m_lostBefore ? m_lostBefore : std::current_exception();
+    }
+}
+
+void Database::raiseLostBefore()
+{
+    if (m_lostBefore)
+        std::rethrow_exception(std::exchange(m_lostBefore, nullptr));
 }
 
 void Database::close(bool last)
 {
+    raiseLostBefore();
     if (last)
         m_group.commitOrLose();
     else

@@ -9,6 +9,7 @@
 
 #include <QString>
 
+#include <exception>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -30,16 +31,18 @@ protected:
 /// compiled once for each shape and kept until the tables change. One thread only may use the engine.
 ///
 /// A statement that runs for long may let events run (interrupt.h). Whoever turns to the same file from
-/// there is refused with a Failure, but for flushAll(), which leaves the file alone.
+/// there is refused with a Failure, but for flushAll() and commitAll(), which leave the file alone.
 class Database final : public std::enable_shared_from_this<Database>
 {
 public:
     /// Opens the file, or joins those that have it open. Raises Failure with a text that
     /// names the file when it is missing, a folder, unreadable or no store.
     [[nodiscard]] static std::shared_ptr<Database> open(const QString &path);
-    /// Commits the pending writes of every open file that no other program reads. Raises the first
-    /// ChangesLost.
+    /// Commits the pending writes of every open file that no other program reads. What fails for good is
+    /// raised by the next use of the file.
     static void flushAll();
+    /// The same, and raises the first failure.
+    static void commitAll();
 
     ~Database();
     Database(const Database &) = delete;
@@ -95,6 +98,7 @@ private:
     bool forgetWhatOthersChanged();
     void forget();
     void flushUnlessRead();
+    void raiseLostBefore();
     static int onProgress(void *database);
 
     static constexpr sqlite3_int64 unknownVersion = -1;
@@ -108,7 +112,8 @@ private:
     sqlite3_int64 m_version = unknownVersion; ///< of the tables that the catalog and the statements know
     std::unordered_map<std::string, Prepared> m_prepared;
     Prepared m_schemaChange;
-    bool m_asking = false; ///< in the middle of a statement, events may run
+    std::exception_ptr m_lostBefore; ///< of a flush that had no one to report to
+    bool m_asking = false;           ///< in the middle of a statement, events may run
 
     // The statement at hand; the memory is used again.
     QByteArray m_text;
