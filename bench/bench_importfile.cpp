@@ -69,7 +69,7 @@ void ImportFile(benchmark::State &state)
 {
     const int lines = int(state.range(0));
     const QString file = fileOf(lines);
-    setMessageBoxHandler([](const QString &, int flags) {
+    setMessageBoxHandler([](QWidget *, const QString &, int flags) {
         return (flags & box::YesNoCancel) == box::YesNoCancel ? box::ResultNo : box::ResultOk;
     });
     for (auto _ : state) {
@@ -77,7 +77,7 @@ void ImportFile(benchmark::State &state)
         modRegistry::saveDataBase(store);
         forgetPeak();
         const double before = ownMemory("VmRSS:");
-        workbench::measure(state, [&] { modUsers::importUsersFromFile(file); });
+        workbench::measure(state, [&] { modUsers::importUsersFromFile(nullptr, file); });
         state.counters["bytes"] = ownMemory("VmHWM:") - before;
         expectUsers(store, lines);
         workbench::removeStore(store);

@@ -12,9 +12,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QPushButton>
-#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -61,11 +59,12 @@ frmImport::frmImport(QWidget *owner)
 
     const auto onClick = [this](QPushButton *button, std::function<void()> handler) {
         button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, [handler = std::move(handler)] { guarded(handler); });
+        connect(button, &QPushButton::clicked, this,
+                [this, handler = std::move(handler)] { guarded(this, handler); });
     };
-    onClick(cmdInfo, [this] { modImport::showFormat(cboImportType->currentText()); });
+    onClick(cmdInfo, [this] { modImport::showFormat(this, cboImportType->currentText()); });
     onClick(cmdBrowse, [this] { browse(); });
-    onClick(cmdPreview, [this] { modImport::previewFile(txtFileName->text()); });
+    onClick(cmdPreview, [this] { modImport::previewFile(this, txtFileName->text()); });
     onClick(cmdOK, [this] { OK(); });
     onClick(cmdCancel, [this] { reject(); });
     cmdOK->setDefault(true);
@@ -73,21 +72,7 @@ frmImport::frmImport(QWidget *owner)
 
 void frmImport::OK()
 {
-    if (m_running)
-        return;
-    const QPointer<QWidget> focused = focusWidget();
-    setResting(true);
-    const auto wake = qScopeGuard([this, focused] {
-        setResting(false);
-        (focused ? focused.data() : cmdOK)->setFocus();
-    });
-    modImport::startImport(cboImportType->currentText(), txtFileName->text());
-}
-
-void frmImport::reject()
-{
-    if (!m_running)
-        QDialog::reject();
+    modImport::startImport(this, cboImportType->currentText(), txtFileName->text());
 }
 
 void frmImport::arrange()
@@ -121,12 +106,4 @@ void frmImport::browse()
     dialog.filter = u"All Files | *.*"_s;
     if (attempt([&] { dialog.showOpen(this); }))
         txtFileName->setText(dialog.fileName);
-}
-
-void frmImport::setResting(bool resting)
-{
-    m_running = resting;
-    Frame1->setEnabled(!resting);
-    cmdOK->setEnabled(!resting);
-    cmdCancel->setEnabled(!resting);
 }

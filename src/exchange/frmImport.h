@@ -28,15 +28,10 @@ public:
     QPushButton *cmdOK;
     QPushButton *cmdCancel;
 
-    /// Runs the chosen import. The controls rest while it runs.
+    /// Runs the chosen import.
     void OK();
-
-    void reject() override;
 
 private:
     void arrange();
     void browse();
-    void setResting(bool resting);
-
-    bool m_running = false;
 };

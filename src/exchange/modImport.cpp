@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void notYetImplemented(const QString &)
+void notYetImplemented(QWidget *owner, const QString &)
 {
-    messageBox(u"Not yet implemented. Sorry for the Inconvenience"_s, box::Ok | box::InformationIcon);
+    messageBox(owner, u"Not yet implemented. Sorry for the Inconvenience"_s, box::Ok | box::InformationIcon);
 }
 
 constexpr modImport::ImportType types[] = {
@@ -89,18 +89,18 @@ constexpr modImport::ImportType types[] = {
      notYetImplemented},
 };
 
-void warn(const QString &text)
+void warn(QWidget *owner, const QString &text)
 {
-    messageBox(text, box::Ok | box::WarningIcon);
+    messageBox(owner, text, box::Ok | box::WarningIcon);
 }
 
 /// Tells what is wrong with the name of the data file, if anything is.
-bool isDataFile(const QString &path)
+bool isDataFile(QWidget *owner, const QString &path)
 {
     if (path.isEmpty())
-        warn(u"Please specify the Data File"_s);
+        warn(owner, u"Please specify the Data File"_s);
     else if (const QFileInfo file(path); !file.isFile())
-        warn(u"The File you specified could not be found"_s);
+        warn(owner, u"The File you specified could not be found"_s);
     else
         return true;
     return false;
@@ -130,29 +130,29 @@ void showImport(QWidget *owner)
     dialog.exec();
 }
 
-void startImport(const QString &typeName, const QString &path)
+void startImport(QWidget *owner, const QString &typeName, const QString &path)
 {
-    if (!isDataFile(path))
+    if (!isDataFile(owner, path))
         return;
-    if (messageBox(u"Are you sure you want to start the selected Import?"_s, box::YesNo | box::WarningIcon) !=
-        box::ResultYes)
+    if (messageBox(owner, u"Are you sure you want to start the selected Import?"_s,
+                   box::YesNo | box::WarningIcon) != box::ResultYes)
         return;
     if (const ImportType *type = importType(typeName))
-        type->read(path);
+        type->read(owner, path);
     else
-        warn(u"Please Select the Import Type"_s);
+        warn(owner, u"Please Select the Import Type"_s);
 }
 
-void previewFile(const QString &path)
+void previewFile(QWidget *owner, const QString &path)
 {
-    if (isDataFile(path) && !desktop::openDocument(path))
-        warn("The File '"_L1 + path + "' could not be opened: there is no program for it."_L1);
+    if (isDataFile(owner, path) && !desktop::openDocument(path))
+        warn(owner, "The File '"_L1 + path + "' could not be opened: there is no program for it."_L1);
 }
 
-void showFormat(const QString &typeName)
+void showFormat(QWidget *owner, const QString &typeName)
 {
     const ImportType *type = importType(typeName);
-    showResult(type ? type->format : "The Information you requested could not be found."_L1,
+    showResult(owner, type ? type->format : "The Information you requested could not be found."_L1,
                u"Import Format Information"_s);
 }
 

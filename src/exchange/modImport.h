@@ -15,7 +15,7 @@ struct ImportType
 {
     QLatin1StringView name;   ///< as the user picks it
     QLatin1StringView format; ///< what the information button shows
-    void (*read)(const QString &path);
+    void (*read)(QWidget *owner, const QString &path);
 };
 
 /// In the order in which they are offered.
@@ -28,10 +28,10 @@ void showImport(QWidget *owner);
 
 /// The Import button: refuses what is incomplete, asks, and runs the reader of the type,
 /// which reports by itself.
-void startImport(const QString &typeName, const QString &path);
+void startImport(QWidget *owner, const QString &typeName, const QString &path);
 /// Hands the file to the program that the user opens such files with.
-void previewFile(const QString &path);
+void previewFile(QWidget *owner, const QString &path);
 /// Shows the format of the type in the result window.
-void showFormat(const QString &typeName);
+void showFormat(QWidget *owner, const QString &typeName);
 
 } // namespace modImport

@@ -1,8 +1,6 @@
 #include "exchange/modImportSteps.h"
 
 #include "exchange/modImportFile.h"
-#include "messages/guard.h"
-#include "messages/modProgress.h"
 #include "messages/showresult.h"
 #include "toolkit/messagebox.h"
 
@@ -34,10 +32,11 @@ QString errorReport(const QString &path, const QString &fileErrors, const QStrin
 
 namespace modImportSteps {
 
-std::optional<bool> askLeaveExisting()
+std::optional<bool> askLeaveExisting(QWidget *owner)
 {
     const int answer =
-        messageBox(u"Importing the selected Data will update Entries already in the database\r\n"
+        messageBox(owner,
+                   u"Importing the selected Data will update Entries already in the database\r\n"
                    "Would you like to update existing data?"_s,
                    box::YesNoCancel | box::WarningIcon);
     if (answer == box::ResultYes)
@@ -47,39 +46,20 @@ std::optional<bool> askLeaveExisting()
     return std::nullopt;
 }
 
-ImportProgress::~ImportProgress()
+int strideOf(int total)
 {
-    if (m_begun)
-        guarded(endProgress);
+    return std::max(1, total / stepsOfAPhase);
 }
 
-void ImportProgress::begin(const QString &title, int total)
-{
-    m_begun = true;
-    m_total = total;
-    m_stride = std::max(1, total / stepsOfAPhase);
-    startProgress(1, total, title, true, true);
-}
-
-bool ImportProgress::isDue(int position) const
-{
-    return position % m_stride == 0 || position == 1 || position == m_total;
-}
-
-bool ImportProgress::step(const QString &item, int position)
-{
-    return !stepProgress(item, position);
-}
-
-bool readLines(const QString &path, const LineFormat &format, ImportProgress &progress, QString &errors,
+bool readLines(const QString &path, const LineFormat &format, Steps &steps, QString &errors,
                const std::function<void(const Fields &)> &take)
 {
     ImportFile file(path);
-    progress.begin(u"Reading Data from File. Please Wait."_s, file.lineCount());
+    steps.phase(u"Reading Data from File. Please Wait."_s, file.lineCount(), strideOf(file.lineCount()));
     QString line;
     for (int number = 1; file.readLine(line); ++number) {
         const Fields fields = QStringView(line).split(u';');
-        if (progress.isDue(number) && !progress.step(fields.front().toString(), number))
+        if (!steps.step(fields.front().toString()))
             return false;
         const QString fault = faultOf(fields, format);
         if (fault.isEmpty())
@@ -87,20 +67,20 @@ bool readLines(const QString &path, const LineFormat &format, ImportProgress &pr
         else
             errors += "\r\n"_L1 + fault + QString::number(number);
     }
-    return !isProgressCancelled();
+    return true;
 }
 
-void reportImport(const QString &path, const QString &fileErrors, const QString &batchErrors,
+void reportImport(QWidget *owner, const QString &path, const QString &fileErrors, const QString &batchErrors,
                   const QString &success)
 {
     if (fileErrors.isEmpty() && batchErrors.isEmpty())
-        messageBox(success, box::Ok | box::InformationIcon);
+        messageBox(owner, success, box::Ok | box::InformationIcon);
     else
-        showResult(errorReport(path, fileErrors, batchErrors), resultTitle);
+        showResult(owner, errorReport(path, fileErrors, batchErrors), resultTitle);
 }
 
-void reportCancelledImport(const QString &path, const ImportCounts &counts, const QString &fileErrors,
-                           const QString &batchErrors)
+void reportCancelledImport(QWidget *owner, const QString &path, const ImportCounts &counts,
+                           const QString &fileErrors, const QString &batchErrors)
 {
     QString text = u"The Import was cancelled. What was written stays in the Database.\r\n\r\n"
                    "New Users:     \t\t%1\r\nUpdated Users: \t\t%2\r\nErrors encountered: \t%3\r\n\r\n"_s
@@ -109,7 +89,7 @@ void reportCancelledImport(const QString &path, const ImportCounts &counts, cons
                        .arg(counts.failed);
     if (!fileErrors.isEmpty() || !batchErrors.isEmpty())
         text += errorReport(path, fileErrors, batchErrors);
-    showResult(text, resultTitle);
+    showResult(owner, text, resultTitle);
 }
 
 } // namespace modImportSteps

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/steps.h"
+
 #include <QList>
 #include <QString>
 #include <QStringView>
@@ -8,34 +10,17 @@
 #include <optional>
 #include <span>
 
+class QWidget;
+
 /// The steps that the imports from a file share. A reader asks its question, reads and
 /// checks the lines, hands what is good to one batch and reports.
 namespace modImportSteps {
 
 /// Whether known objects are left as they are; nothing when the user cancels.
-[[nodiscard]] std::optional<bool> askLeaveExisting();
+[[nodiscard]] std::optional<bool> askLeaveExisting(QWidget *owner);
 
-/// The progress window over the phases of one import. It is brought up to date about a
-/// hundred times a phase, so that the events it lets through cost less than the work.
-class ImportProgress final
-{
-public:
-    ImportProgress() = default;
-    ~ImportProgress();
-    ImportProgress(const ImportProgress &) = delete;
-    ImportProgress &operator=(const ImportProgress &) = delete;
-
-    void begin(const QString &title, int total);
-    /// Whether the position is one to be shown.
-    [[nodiscard]] bool isDue(int position) const;
-    /// Shows it; false when the user has cancelled. Yields.
-    [[nodiscard]] bool step(const QString &item, int position);
-
-private:
-    int m_total = 0;
-    int m_stride = 1;
-    bool m_begun = false;
-};
+/// The stride that shows about a hundred items of a phase, so that showing them costs less than the work.
+[[nodiscard]] int strideOf(int total);
 
 /// What a good line is.
 struct LineFormat
@@ -49,12 +34,12 @@ using Fields = QList<QStringView>;
 /// Splits each line at its semicolons and hands the good ones over, in the order of the
 /// file; a bad one adds a message with its number to the errors. False when the user has
 /// cancelled. Raises FileAccessError.
-[[nodiscard]] bool readLines(const QString &path, const LineFormat &format, ImportProgress &progress,
-                             QString &errors, const std::function<void(const Fields &)> &take);
+[[nodiscard]] bool readLines(const QString &path, const LineFormat &format, Steps &steps, QString &errors,
+                             const std::function<void(const Fields &)> &take);
 
 /// The success text in a box when neither the lines nor the batch had errors, otherwise
 /// both kinds in the result window.
-void reportImport(const QString &path, const QString &fileErrors, const QString &batchErrors,
+void reportImport(QWidget *owner, const QString &path, const QString &fileErrors, const QString &batchErrors,
                   const QString &success);
 
 struct ImportCounts
@@ -65,7 +50,7 @@ struct ImportCounts
 };
 
 /// An import that was cancelled while it wrote: what is done stays, so it is told.
-void reportCancelledImport(const QString &path, const ImportCounts &counts, const QString &fileErrors,
-                           const QString &batchErrors);
+void reportCancelledImport(QWidget *owner, const QString &path, const ImportCounts &counts,
+                           const QString &fileErrors, const QString &batchErrors);
 
 } // namespace modImportSteps

@@ -1,6 +1,5 @@
 #include "messages/frmProgress.h"
 
-#include "messages/modProgress.h"
 #include "toolkit/banner.h"
 #include "toolkit/imagelist.h"
 
@@ -38,6 +37,7 @@ frmProgress::frmProgress(QWidget *owner)
 {
     setObjectName("frmProgress"_L1);
     setWindowTitle(u"Progress"_s);
+    setWindowModality(Qt::ApplicationModal);
     picInfo->setObjectName("picInfo"_L1);
     picLogoContainer->setPicture(imageLists().ImageListToolbar, busyPicture);
     lblObject->setTextFormat(Qt::PlainText);
@@ -61,7 +61,7 @@ frmProgress::frmProgress(QWidget *owner)
     all->addWidget(frameStatus);
     all->addLayout(buttons);
 
-    connect(cmdCancel, &QPushButton::clicked, this, [] { setProgressCancelled(true); });
+    connect(cmdCancel, &QPushButton::clicked, this, [this] { m_cancelled = true; });
 }
 
 void frmProgress::reject()

@@ -8,8 +8,8 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 
-/// The progress window of a batch. Modeless; it lives from startProgress() to
-/// endProgress(), so its close box and Esc ask the batch to stop instead of closing it.
+/// The progress window of long work (see ProgressSteps). No other window takes input while it is shown. Its
+/// close box and Esc ask the work to stop instead of closing it.
 class frmProgress final : public QDialog
 {
     Q_OBJECT
@@ -25,5 +25,10 @@ public:
     QProgressBar *ProgressBar;
     QPushButton *cmdCancel;
 
+    [[nodiscard]] bool isCancelled() const { return m_cancelled; }
+
     void reject() override;
+
+private:
+    bool m_cancelled = false;
 };

@@ -56,7 +56,7 @@ frmResult::frmResult(QWidget *owner)
     resize(widthInCharacters * fontMetrics().averageCharWidth(), heightInLines * fontMetrics().lineSpacing());
     txtResult->setFocus();
 
-    connect(mnuFileSave, &QAction::triggered, this, [this] { guarded([this] { Save(); }); });
+    connect(mnuFileSave, &QAction::triggered, this, [this] { guarded(this, [this] { Save(); }); });
     connect(mnuExit, &QAction::triggered, this, &QWidget::close);
 }
 
@@ -76,7 +76,7 @@ void frmResult::Save()
     const QString name = Dialog.fileName;
     if (QFile::exists(name)) {
         const QString question = fillMarker(u"The File $ already exists. Overwrite?"_s, name);
-        if (messageBox(question, box::YesNo | box::WarningIcon) != box::ResultYes)
+        if (messageBox(this, question, box::YesNo | box::WarningIcon) != box::ResultYes)
             return;
     }
     // Written beside and renamed, so that a full disk leaves the old file.

@@ -4,28 +4,32 @@
 #include "base/errornumbers.h"
 #include "toolkit/messagebox.h"
 
+#include <QPointer>
+#include <QWidget>
+
 #include <new>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void report(int number, const QString &description)
+void report(QWidget *owner, int number, const QString &description)
 {
-    messageBox(QString::number(number) % "\r\n"_L1 % description, box::StopIcon);
+    messageBox(owner, QString::number(number) % "\r\n"_L1 % description, box::StopIcon);
 }
 
 } // namespace
 
-void guarded(const std::function<void()> &handler)
+void guarded(QWidget *owner, const std::function<void()> &handler)
 {
+    const QPointer<QWidget> alive = owner;
     try {
         handler();
     } catch (const Error &error) {
-        report(error.number(), error.description());
+        report(alive, error.number(), error.description());
     } catch (const std::bad_alloc &) {
-        report(OutOfMemory, u"Out of memory"_s);
+        report(alive, OutOfMemory, u"Out of memory"_s);
     } catch (const std::exception &error) {
-        report(RuleViolation, QString::fromUtf8(error.what()));
+        report(alive, RuleViolation, QString::fromUtf8(error.what()));
     }
 }

@@ -1,7 +1,6 @@
 #include "messages/showresult.h"
 
 #include "messages/frmResult.h"
-#include "messages/status.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -11,21 +10,25 @@
 
 namespace {
 
+// Only windows of the dialog kind are kept above their owner.
+constexpr Qt::WindowFlags windowFlags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                        Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+
 // A window that belongs to a dialog ends with it, so it is handed on when the dialog
 // finishes: the result stays readable.
 void giveTo(QPointer<frmResult> window, QWidget *owner)
 {
     if (window->parentWidget() != owner)
-        window->setParent(owner, Qt::Window);
+        window->setParent(owner, windowFlags);
     const auto *dialog = qobject_cast<QDialog *>(owner);
     if (!dialog)
         return;
     QObject::connect(
         dialog, &QDialog::finished, window,
-        [window] {
-            if (!window || !window->isVisible())
+        [window, dialog] {
+            if (!window || !window->isVisible() || window->parentWidget() != dialog)
                 return;
-            giveTo(window, ownerOfNewWindows());
+            giveTo(window, dialog->parentWidget() ? dialog->parentWidget()->window() : nullptr);
             window->show();
         },
         Qt::SingleShotConnection);
@@ -45,13 +48,13 @@ void place(QWidget &window, const QWidget *owner)
 
 } // namespace
 
-void showResult(const QString &text, const QString &title)
+void showResult(QWidget *owner, const QString &text, const QString &title)
 {
     static QPointer<frmResult> window;
     const bool isNew = !window;
     if (isNew)
         window = new frmResult;
-    giveTo(window, ownerOfNewWindows());
+    giveTo(window, owner ? owner->window() : nullptr);
     if (isNew)
         place(*window, window->parentWidget());
     window->setResult(text, title);

@@ -2,5 +2,8 @@
 
 #include <QString>
 
-/// Shows the one result window, modeless, with the text and the title in its banner.
-void showResult(const QString &text, const QString &title);
+class QWidget;
+
+/// Shows the one result window, modeless, with the text and the title in its banner. It belongs to the
+/// owner's window and stays above it; when that is a dialog and closes, to the window behind the dialog.
+void showResult(QWidget *owner, const QString &text, const QString &title);

@@ -6,8 +6,8 @@
 #include "toolkit/statusbar.h"
 #include "toolkit/yield.h"
 
-#include <QApplication>
 #include <QPointer>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -53,19 +53,13 @@ void setStatusTarget(StatusBar *bar, QWidget *window)
     target() = {bar, window};
 }
 
-QWidget *ownerOfNewWindows()
-{
-    QWidget *dialog = QApplication::activeModalWidget();
-    return dialog ? dialog : target().window.data();
-}
-
 void showStatusReading()
 {
     showHourglass(true);
     showText("Reading Data. Please stand by"_L1, busyPicture);
     if (target().bar)
         target().bar->repaint();
-    yieldToEvents();
+    paintNow();
 }
 
 void showStatusWriting()
@@ -73,19 +67,19 @@ void showStatusWriting()
     showHourglass(true);
     showText("Writing Data. Please stand by"_L1, busyPicture);
     showMainCaption();
-    yieldToEvents();
+    paintNow();
 }
 
 void showStatusPrinting()
 {
     showText("Printing Data. Please stand by"_L1, keepPicture);
     showMainCaption();
-    yieldToEvents();
+    paintNow();
 }
 
 void showStatusReady()
 {
     showText("Ready"_L1, readyPicture);
     showMainCaption();
-    yieldToEvents();
+    paintNow();
 }

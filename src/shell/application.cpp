@@ -58,9 +58,10 @@ void resolveNetwork()
 {
     attempt(modServers::resolveSession);
     if (modServers::DomainName.isEmpty())
-        messageBox(u"Warning! The Domain Name could not be resolved."_s, box::WarningIcon);
+        messageBox(nullptr, u"Warning! The Domain Name could not be resolved."_s, box::WarningIcon);
     if (modServers::PDCName.isEmpty())
-        messageBox(u"Warning! The Primary Domain Controller Name could not be resolved. The Default Domain "
+        messageBox(nullptr,
+                   u"Warning! The Primary Domain Controller Name could not be resolved. The Default Domain "
                    "Controller will be used or you will be prompted to provide the PDC Name if necessary"_s,
                    box::WarningIcon);
 }
@@ -70,7 +71,8 @@ void testStore()
     clsUsers users;
     if (attempt([&] { users.TestConnection(getConnectionString()); }))
         return;
-    messageBox(currentError().description %
+    messageBox(nullptr,
+               currentError().description %
                    "\r\n\r\nThe connection to the database could not be established\r\n"
                    "Check your settings in the Main Menu under Tools > Options..."_L1,
                box::StopIcon);
@@ -90,9 +92,9 @@ void Main()
     registerFamilies();
 
     attempt(showStartWindow);
-    attempt(yieldToEvents);
+    paintNow();
     resolveNetwork();
-    attempt(yieldToEvents);
+    paintNow();
     testStore();
     mainForm().show();
     attempt(showStatusReady);
@@ -108,7 +110,7 @@ frmMain &mainForm()
 
 void endProcess()
 {
-    jet::flushPendingWrites();
+    jet::commitPendingWrites();
     if (processEnd()) {
         processEnd()();
         return;

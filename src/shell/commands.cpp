@@ -51,7 +51,7 @@ constexpr ToolbarButton toolbarTable[] = {
 // The commands run with errors skipped: the modules below report their own.
 auto command(frmMain &window, void (*run)(frmMain &))
 {
-    return [&window, run] { guarded([&] { attempt([&] { run(window); }); }); };
+    return [&window, run] { guarded(&window, [&] { attempt([&] { run(window); }); }); };
 }
 
 } // namespace

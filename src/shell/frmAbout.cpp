@@ -65,7 +65,7 @@ frmAbout::frmAbout(QWidget *owner)
     TimerClose->setSingleShot(true);
     TimerClose->setInterval(shownForMilliseconds);
     TimerClose->stop();
-    yieldToEvents();
+    paintNow();
     TimerClose->start();
 }
 

@@ -152,7 +152,7 @@ bool frmMain::event(QEvent *event)
     // active before, which Qt still holds.
     if (event->type() == QEvent::WindowActivate)
         QMetaObject::invokeMethod(
-            this, [this] { guarded([this] { activate(); }); }, Qt::QueuedConnection);
+            this, [this] { guarded(this, [this] { activate(); }); }, Qt::QueuedConnection);
     return handled;
 }
 
@@ -207,9 +207,9 @@ void frmMain::resizeEvent(QResizeEvent *event)
 void frmMain::closeEvent(QCloseEvent *event)
 {
     event->ignore();
-    guarded([event] {
+    guarded(this, [this, event] {
         const QString question = fillMarker(u"Do you really want to quit $?"_s, programTitle());
-        if (messageBox(question, box::YesNo | box::QuestionIcon) != box::ResultYes)
+        if (messageBox(this, question, box::YesNo | box::QuestionIcon) != box::ResultYes)
             return;
         endProcess();
         event->accept();

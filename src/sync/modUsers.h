@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QWidget;
 class frmDisplay;
 
 /// The views of users and of what belongs to a user, and the import of users from a file.
@@ -27,6 +28,6 @@ void listUsersByHW(frmDisplay *view, int hardwareType, const QString &name);
 /// Asks whether known users are to be updated, reads the file, writes its users to the
 /// store and reports. Nothing is read when the question is cancelled, nothing is written
 /// when the reading is. Raises nothing.
-void importUsersFromFile(const QString &path);
+void importUsersFromFile(QWidget *owner, const QString &path);
 
 } // namespace modUsers

@@ -2,6 +2,7 @@
 
 #include "exchange/modImportSteps.h"
 #include "messages/guard.h"
+#include "messages/progresssteps.h"
 #include "platform/jet/recordset.h"
 #include "session/connectionstring.h"
 #include "store/clsUsers.h"
@@ -66,20 +67,21 @@ struct Outcome
 };
 
 /// Nothing when the user cancels before anything is written.
-std::optional<Outcome> readAndWrite(const QString &path, bool leaveExisting)
+std::optional<Outcome> readAndWrite(QWidget *owner, const QString &path, bool leaveExisting)
 {
     const Hourglass hourglass;
-    modImportSteps::ImportProgress progress;
+    ProgressSteps steps(owner);
     Outcome outcome;
     const QString store = getConnectionString();
     UserLines users(store);
-    if (!modImportSteps::readLines(path, userLine, progress, outcome.fileErrors,
+    if (!modImportSteps::readLines(path, userLine, steps, outcome.fileErrors,
                                    [&](const modImportSteps::Fields &fields) { users.add(fields); }))
         return std::nullopt;
 
-    progress.begin(u"Writing Users to DB. Please Wait."_s, users.records.recordCount());
-    const auto showWritten = [&](int done) {
-        outcome.cancelled = progress.isDue(done) && !progress.step(users.currentName(), done);
+    const int count = users.records.recordCount();
+    steps.phase(u"Writing Users to DB. Please Wait."_s, count, modImportSteps::strideOf(count));
+    const auto showWritten = [&](int) {
+        outcome.cancelled = !steps.step(users.currentName());
         return !outcome.cancelled;
     };
     clsUsers().AddBatchFromFile(store, users.records, leaveExisting, outcome.counts.added,
@@ -88,26 +90,26 @@ std::optional<Outcome> readAndWrite(const QString &path, bool leaveExisting)
     return outcome;
 }
 
-void importUsers(const QString &path)
+void importUsers(QWidget *owner, const QString &path)
 {
-    const std::optional<bool> leaveExisting = modImportSteps::askLeaveExisting();
+    const std::optional<bool> leaveExisting = modImportSteps::askLeaveExisting(owner);
     if (!leaveExisting)
         return;
-    const std::optional<Outcome> outcome = readAndWrite(path, *leaveExisting);
+    const std::optional<Outcome> outcome = readAndWrite(owner, path, *leaveExisting);
     if (!outcome)
         return;
     if (outcome->cancelled)
-        modImportSteps::reportCancelledImport(path, outcome->counts, outcome->fileErrors,
+        modImportSteps::reportCancelledImport(owner, path, outcome->counts, outcome->fileErrors,
                                               outcome->batchErrors);
     else
-        modImportSteps::reportImport(path, outcome->fileErrors, outcome->batchErrors,
+        modImportSteps::reportImport(owner, path, outcome->fileErrors, outcome->batchErrors,
                                      u"The Operation was completed successfully\r\nYou may refresh your User "
                                      "Database View to see changes applied to your existing Users"_s);
 }
 
 } // namespace
 
-void modUsers::importUsersFromFile(const QString &path)
+void modUsers::importUsersFromFile(QWidget *owner, const QString &path)
 {
-    guarded([&] { importUsers(path); });
+    guarded(owner, [&] { importUsers(owner, path); });
 }

@@ -3,8 +3,8 @@
 #include "session/identity.h"
 #include "toolkit/pointer.h"
 
-#include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 
 #include <algorithm>
 #include <span>
@@ -64,12 +64,13 @@ MessageBoxHandler &handlerInPlace()
     return handler;
 }
 
-int askUser(const QString &text, int flags)
+int askUser(QWidget *owner, const QString &text, int flags)
 {
     const PointerScope normalPointer(false);
     const std::span<const Choice> choices = choicesOf(flags);
 
-    QMessageBox dialog(QApplication::activeWindow());
+    QPointer<QWidget> window = owner ? owner->window() : nullptr;
+    QMessageBox dialog(window);
     dialog.setObjectName("messageBox"_L1);
     dialog.setWindowTitle(programTitle());
     dialog.setIcon(iconOf(flags));
@@ -82,6 +83,8 @@ int askUser(const QString &text, int flags)
     dialog.setEscapeButton(choices.back().button);
 
     const int button = dialog.exec();
+    if (window)
+        window->activateWindow();
     const auto chosen =
         std::ranges::find(choices, button, [](const Choice &choice) { return int(choice.button); });
     return chosen == choices.end() ? choices.back().result : chosen->result;
@@ -89,11 +92,11 @@ int askUser(const QString &text, int flags)
 
 } // namespace
 
-int messageBox(const QString &text, int flags)
+int messageBox(QWidget *owner, const QString &text, int flags)
 {
     // A copy: a box may be answered by something that sets another handler.
     const MessageBoxHandler handler = handlerInPlace();
-    return handler ? handler(text, flags) : askUser(text, flags);
+    return handler ? handler(owner, text, flags) : askUser(owner, text, flags);
 }
 
 void setMessageBoxHandler(MessageBoxHandler handler)

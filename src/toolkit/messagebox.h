@@ -4,6 +4,8 @@
 
 #include <functional>
 
+class QWidget;
+
 /// Flags and results of messageBox().
 namespace box {
 
@@ -33,11 +35,12 @@ inline constexpr int ResultNo = 7;
 
 } // namespace box
 
-/// Asks or tells, titled with the program's title, and waits for the answer. The flags
-/// are the sum of one button set and one icon. The text is shown as it stands, never as
+/// Asks or tells, titled with the program's title, and waits for the answer. The box belongs to the
+/// owner's window, which is active again afterwards; without an owner it stands alone. The flags
+/// are the sum of one button set and one icon. The text is shown as it is, never as
 /// markup. Closing the box without an answer is the last of its buttons: OK, Cancel or No.
-int messageBox(const QString &text, int flags);
+int messageBox(QWidget *owner, const QString &text, int flags);
 
-using MessageBoxHandler = std::function<int(const QString &text, int flags)>;
+using MessageBoxHandler = std::function<int(QWidget *owner, const QString &text, int flags)>;
 /// Answers every box in place of the user; an empty handler brings the boxes back.
 void setMessageBoxHandler(MessageBoxHandler handler);

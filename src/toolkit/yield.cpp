@@ -3,19 +3,19 @@
 #include "platform/jet/connection.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 
-#include <exception>
-
-void yieldToEvents()
+void paintNow()
 {
-    // A store that cannot be written must not keep Cancel from being clicked.
-    std::exception_ptr failure;
-    try {
-        jet::flushPendingWrites();
-    } catch (...) {
-        failure = std::current_exception();
-    }
+    jet::flushPendingWrites();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void takeInput(std::chrono::milliseconds time)
+{
+    jet::flushPendingWrites();
+    const QDeadlineTimer end(time);
     QCoreApplication::processEvents();
-    if (failure)
-        std::rethrow_exception(failure);
+    while (!end.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, int(end.remainingTime()));
 }

@@ -140,7 +140,7 @@ void frmDisplay::joinArea(QMdiArea &area)
 void frmDisplay::activated()
 {
     if (!m_showing && !m_closing)
-        guarded([this] { PrepareForm(); });
+        guarded(this, [this] { PrepareForm(); });
 }
 
 void frmDisplay::PrepareForm()
@@ -166,7 +166,7 @@ void frmDisplay::PrepareForm()
     step([this] { modRender::showRecordCount(*this, listDisplay->rowCount()); });
     step([this] { listDisplay->setFocus(); });
     step([this] { takeCaption(); });
-    step([] { yieldToEvents(); });
+    step([] { paintNow(); });
     step([this] { RenderListIcons(); });
     step([this] { listDisplay->setUpdatesEnabled(true); });
     step([] { showStatusReady(); });
@@ -187,7 +187,7 @@ void frmDisplay::RenderListIcons()
 {
     const QPointer<frmDisplay> alive = this;
     const Hourglass hourglass;
-    yieldToEvents();
+    paintNow();
     if (alive && listDisplay->columnCount() > firstVisibleColumn)
         listDisplay->setColumnPicture(firstVisibleColumn, displayMode(m_action).rowPicture);
 }
@@ -236,7 +236,7 @@ bool frmDisplay::eventFilter(QObject *watched, QEvent *event)
         close();
         return true;
     case Qt::Key_F5:
-        guarded([this] { ViewRefresh(); });
+        guarded(this, [this] { ViewRefresh(); });
         return true;
     default:
         return QMdiSubWindow::eventFilter(watched, event);

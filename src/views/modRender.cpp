@@ -149,7 +149,7 @@ void modRender::showRecordCount(frmDisplay &view, int count)
 {
     view.StatusBar->setPanelText(2, QString::number(count) % " Record(s)"_L1);
     view.StatusBar->repaint();
-    yieldToEvents();
+    paintNow();
 }
 
 void modRender::showSelectedCount(const ListView &list, StatusBar &bar, int panel)

@@ -13,9 +13,20 @@
 #include "views/modRender.h"
 
 #include <QLabel>
+#include <QMdiArea>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QWidget *ownerOfViews()
+{
+    MainWindowLink *window = mainWindow();
+    return window ? &window->mdiArea() : nullptr;
+}
+
+} // namespace
 
 void openListRecordset(ListRecordset &recordset)
 {
@@ -41,7 +52,8 @@ frmDisplay *openView(frmDisplay *view, QStringView mode, const QString &title, L
     QPointer<frmDisplay> target = view ? view : fresh.get();
     frmDisplay *shown = nullptr;
 
-    guarded([&] {
+    QWidget *owner = view ? view : ownerOfViews();
+    guarded(owner, [&] {
         openListRecordset(recordset);
         if (!target)
             return; // closed inside the yield
@@ -49,7 +61,7 @@ frmDisplay *openView(frmDisplay *view, QStringView mode, const QString &title, L
         modRender::renderList(*target->listDisplay, *recordset);
         target->SetAction(mode.toString());
         if (recordset->recordCount() == 0) {
-            messageBox(u"The requested query did not return data"_s, box::InformationIcon);
+            messageBox(owner, u"The requested query did not return data"_s, box::InformationIcon);
             return;
         }
         target->LblInfo->setText(title);

@@ -45,13 +45,22 @@ TEST_F(GuardTest, ShowsWhatAHandlerRaises)
         {"memory", [] { throw std::bad_alloc(); }, "7\r\nOut of memory"},
         {"library", [] { throw std::runtime_error("broken"); }, "1973\r\nbroken"},
     };
+    QWidget owner;
     for (const Case &row : cases) {
         SCOPED_TRACE(row.name);
         expectBox(QString::fromLatin1(row.text), box::StopIcon);
-        guarded(row.handler);
+        guarded(&owner, row.handler);
         verify();
+        EXPECT_EQ(lastBoxOwner(), &owner);
     }
-    guarded([] {});
+    guarded(nullptr, [] {});
+    auto closing = std::make_unique<QWidget>();
+    expectBox(u"1973\r\nclosed"_s, box::StopIcon);
+    guarded(closing.get(), [&] {
+        closing.reset();
+        throwError(RuleViolation, u"closed"_s);
+    });
+    EXPECT_EQ(lastBoxOwner(), nullptr) << "The handler deleted the owner.";
 }
 
 TEST_F(StatusTest, TextsPicturesHourglassAndCaption)
@@ -103,5 +112,5 @@ TEST_F(StatusTest, WorksOnWhenTheBarHasGone)
     bool ran = false;
     QTimer::singleShot(0, qApp, [&] { ran = true; });
     showStatusReady();
-    EXPECT_TRUE(ran) << "a status call yields";
+    EXPECT_TRUE(ran) << "A status call lets the windows paint.";
 }

@@ -1,16 +1,17 @@
-#include "base/error.h"
-#include "messages/batch.h"
+#include "base/steps.h"
 #include "messages/frmProgress.h"
 #include "messages/frmResult.h"
-#include "messages/modProgress.h"
+#include "messages/progresssteps.h"
+#include "messages/reportbatch.h"
 #include "support/windowtest.h"
-#include "toolkit/listview.h"
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -19,12 +20,6 @@ namespace {
 class ProgressTest : public WindowTest
 {
 protected:
-    void TearDown() override
-    {
-        endProgress();
-        WindowTest::TearDown();
-    }
-
     static frmProgress *window() { return find<frmProgress>(u"frmProgress"_s); }
 };
 
@@ -32,54 +27,52 @@ constexpr auto successText = "The Operation was completed successfully"_L1;
 
 } // namespace
 
-TEST_F(ProgressTest, WindowShowsTitleItemAndPosition)
+TEST_F(ProgressTest, TheWindowShowsPhasesAndItemsAndGoesWithTheWork)
 {
-    startProgress(1, 12, u"Deleting Users"_s, true, true);
-    frmProgress *shown = window();
-    ASSERT_TRUE(shown);
-    EXPECT_TRUE(shown->isVisible());
-    EXPECT_FALSE(shown->isModal());
-    EXPECT_EQ(shown->windowTitle(), u"Progress"_s);
-    EXPECT_EQ(shown->LblInfo->text(), u"Deleting Users"_s);
-    EXPECT_EQ(shown->frameStatus->title(), u"Status"_s);
-    EXPECT_EQ(shown->ProgressBar->minimum(), 1);
-    EXPECT_EQ(shown->ProgressBar->maximum(), 12);
+    QWidget owner;
+    {
+        ProgressSteps steps(&owner);
+        EXPECT_FALSE(window()->isVisible()) << "There is nothing to show yet.";
+        steps.phase(u"Deleting Users"_s, 12);
+        frmProgress *shown = window();
+        EXPECT_TRUE(shown->isVisible());
+        EXPECT_EQ(shown->parentWidget(), &owner);
+        EXPECT_EQ(shown->LblInfo->text(), u"Deleting Users"_s);
+        EXPECT_EQ(shown->frameStatus->title(), u"Status"_s);
 
-    EXPECT_FALSE(stepProgress(u"CENTRAL\\<b>keller"_s, 5));
-    EXPECT_EQ(shown->windowTitle(), u"[5 of 12]"_s);
-    EXPECT_EQ(shown->lblObject->text(), u"CENTRAL\\<b>keller"_s);
-    EXPECT_EQ(shown->lblObject->textFormat(), Qt::PlainText);
-    EXPECT_EQ(shown->ProgressBar->value(), 5);
+        EXPECT_TRUE(steps.step(u"first"_s));
+        EXPECT_TRUE(steps.step(u"CENTRAL\\<b>keller"_s));
+        EXPECT_EQ(shown->windowTitle(), u"[2 of 12]"_s);
+        EXPECT_EQ(shown->lblObject->text(), u"CENTRAL\\<b>keller"_s);
+        EXPECT_EQ(shown->lblObject->textFormat(), Qt::PlainText);
+        EXPECT_EQ(shown->ProgressBar->value(), 2);
+        EXPECT_EQ(shown->ProgressBar->maximum(), 12);
 
-    endProgress();
+        const int height = shown->height();
+        EXPECT_TRUE(steps.step(QString(1'000'000, u'x')));
+        EXPECT_LT(shown->lblObject->text().size(), 1000);
+        EXPECT_LT(shown->height(), 2 * height) << "The window grows with its item.";
+
+        steps.phase(u"Exporting User Settings"_s, 0);
+        EXPECT_EQ(window(), shown);
+        EXPECT_EQ(shown->LblInfo->text(), u"Exporting User Settings"_s);
+        EXPECT_EQ(shown->lblObject->text(), QString());
+    }
     settle();
     EXPECT_TRUE(findAll<frmProgress>(u"frmProgress"_s).isEmpty());
 }
 
-TEST_F(ProgressTest, AnEndlessItemIsCut)
+TEST_F(ProgressTest, AStrideShowsEachSoManyTheFirstAndTheLast)
 {
-    startProgress(1, 2, u"Reading"_s, true, true);
-    const int height = window()->height();
-    EXPECT_FALSE(stepProgress(QString(1'000'000, u'x'), 1));
-    EXPECT_TRUE(window()->lblObject->text().startsWith(u"xxxxxxxx"_s));
-    EXPECT_TRUE(window()->lblObject->text().endsWith(u"x\u2026"_s));
-    EXPECT_LT(window()->lblObject->text().size(), 1000);
-    EXPECT_LT(window()->height(), 2 * height) << "The window grows with its item.";
-    EXPECT_FALSE(stepProgress(u"short"_s, 2));
-    EXPECT_EQ(window()->lblObject->text(), u"short"_s);
-}
-
-TEST_F(ProgressTest, ASecondStartTakesOverTheWindow)
-{
-    startProgress(1, 12, u"Deleting Users"_s, true, false);
-    EXPECT_FALSE(stepProgress(u"first"_s, 12));
-    startProgress(1, 3, u"Exporting User Settings"_s, false, true);
-    ASSERT_EQ(findAll<frmProgress>(u"frmProgress"_s).size(), 1);
-    EXPECT_EQ(window()->LblInfo->text(), u"Exporting User Settings"_s);
-    EXPECT_EQ(window()->lblObject->text(), QString());
-    EXPECT_EQ(window()->ProgressBar->value(), 1);
-    EXPECT_FALSE(window()->ProgressBar->isVisible());
-    EXPECT_TRUE(window()->cmdCancel->isEnabled());
+    ProgressSteps steps(nullptr);
+    steps.phase(u"Reading"_s, 25, 10);
+    QStringList shown;
+    for (int item = 1; item <= 25; ++item) {
+        ASSERT_TRUE(steps.step(QString::number(item)));
+        if (shown.isEmpty() || shown.last() != window()->lblObject->text())
+            shown.append(window()->lblObject->text());
+    }
+    EXPECT_EQ(shown, (QStringList{u"1"_s, u"10"_s, u"20"_s, u"25"_s}));
 }
 
 TEST_F(ProgressTest, EveryWayToCancelIsTheButton)
@@ -97,82 +90,65 @@ TEST_F(ProgressTest, EveryWayToCancelIsTheButton)
     for (const Case &row : cases) {
         SCOPED_TRACE(row.name);
         for (const bool allowed : {false, true}) {
-            startProgress(1, 3, u"Deleting Users"_s, true, allowed);
-            row.cancel(*window());
-            EXPECT_EQ(isProgressCancelled(), allowed);
-            EXPECT_EQ(stepProgress(u"next"_s, 2), allowed);
-            EXPECT_TRUE(window()->isVisible()) << "the window belongs to the batch";
-            endProgress();
             settle();
-            EXPECT_FALSE(isProgressCancelled());
+            ProgressSteps steps(nullptr, !allowed, allowed);
+            steps.phase(u"Deleting Users"_s, 3);
+            auto *shown = window();
+            EXPECT_EQ(shown->ProgressBar->isVisible(), !allowed);
+            EXPECT_TRUE(steps.step(u"first"_s));
+            QTimer::singleShot(0, shown, [&] { row.cancel(*shown); });
+            EXPECT_EQ(steps.step(u"second"_s), !allowed);
+            EXPECT_TRUE(shown->isVisible()) << "The window belongs to the work.";
         }
     }
 }
 
-TEST_F(ProgressTest, CountsSelectedRows)
+TEST_F(ProgressTest, AWaitShowsItsReasonAndCanBeCancelled)
 {
-    ListView list;
-    list.setColumns({u"ID"_s, u"Name"_s});
-    for (int row = 0; row < 5; ++row)
-        list.addRow(QString::number(row), {u"name"_s});
-    EXPECT_EQ(countSelected(list), 0);
-    list.setRowSelected(1);
-    list.setRowSelected(4);
-    EXPECT_EQ(countSelected(list), 2);
+    ProgressSteps steps(nullptr);
+    steps.phase(u"Writing"_s, 3);
+    EXPECT_TRUE(steps.wait(u"locked by 'x'"_s));
+    EXPECT_EQ(window()->lblObject->text(), u"locked by 'x'"_s);
+    QTimer::singleShot(0, window()->cmdCancel, &QPushButton::click);
+    EXPECT_FALSE(steps.wait(u"locked by 'x'"_s));
 }
 
-TEST_F(ProgressTest, CancelAfterTheFirstOfThreeLeavesTheFirstDone)
+TEST_F(ProgressTest, OnlyCancelTakesInput)
 {
-    QStringList done;
-    expectBox(successText, box::InformationIcon);
-
-    Batch batch(3, u"Deleting Users"_s);
-    for (const QString &name : {u"first"_s, u"second"_s, u"third"_s}) {
-        const bool goOn = batch.item(name, [&] {
-            done.append(name);
-            window()->cmdCancel->click();
-        });
-        if (!goOn)
-            break;
-    }
-    EXPECT_TRUE(batch.isCancelled());
-    batch.report(u"The following Users could not be deleted:"_s);
-
-    EXPECT_EQ(done, QStringList{u"first"_s});
-    EXPECT_EQ(batch.done(), 1);
-    EXPECT_EQ(batch.failed(), 0);
-    EXPECT_FALSE(isProgressCancelled());
-}
-
-TEST_F(ProgressTest, FailuresAreCollectedInOneResult)
-{
-    Batch batch(4, u"Deleting Users"_s);
-    EXPECT_TRUE(batch.item(u"good"_s, [] {}));
-    EXPECT_TRUE(batch.item(u"raises"_s, [] { throwError(RuleViolation, u"no"_s); }));
-    EXPECT_TRUE(batch.item(
-        u"sets"_s, [] { currentError().set(Error(9010, u"no access"_s)); }, u"CENTRAL\\sets"_s));
-    EXPECT_TRUE(batch.item(u"good again"_s, [] {}));
-    EXPECT_EQ(batch.done(), 2);
-    EXPECT_EQ(batch.failed(), 2);
-    batch.report(u"The following Users could not be deleted:"_s);
-    settle();
-
-    EXPECT_TRUE(findAll<frmProgress>(u"frmProgress"_s).isEmpty());
-    auto *result = find<frmResult>(u"frmResult"_s);
-    ASSERT_TRUE(result);
-    EXPECT_EQ(result->LblInfo->text(), u"Import/Export Result"_s);
-    EXPECT_EQ(result->txtResult->toPlainText(),
-              u"The following Users could not be deleted:\n\nraises\nCENTRAL\\sets\n"_s);
-    result->close();
-}
-
-TEST_F(ProgressTest, ABatchThatBreaksOffClosesItsWindow)
-{
-    try {
-        const Batch batch(2, u"Deleting Users"_s);
-        throw Error(7, u"out"_s);
-    } catch (const Error &) {
+    QLineEdit other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    {
+        ProgressSteps steps(&other);
+        steps.phase(u"Deleting Users"_s, 2);
+        QTest::mouseClick(other.windowHandle(), Qt::RightButton, {}, QPoint(3, 3));
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "A command could start inside the work.";
+        EXPECT_TRUE(steps.step(u"first"_s));
     }
     settle();
-    EXPECT_TRUE(findAll<frmProgress>(u"frmProgress"_s).isEmpty());
+    EXPECT_EQ(QApplication::activeWindow(), &other);
+}
+
+TEST_F(ProgressTest, ThreeEndsOfABatch)
+{
+    const QString heading = u"The following Users could not be deleted:"_s;
+    QWidget owner;
+    for (const Report::End end : {Report::End::Finished, Report::End::Cancelled}) {
+        expectBox(successText, box::InformationIcon);
+        reportBatch(&owner, {.done = 1, .failed = 0, .end = end, .text = {}}, heading);
+        EXPECT_EQ(lastBoxOwner(), &owner);
+    }
+    const auto shown = [&](const Report &report) {
+        reportBatch(&owner, report, heading);
+        const auto *result = find<frmResult>(u"frmResult"_s);
+        EXPECT_EQ(result->LblInfo->text(), u"Import/Export Result"_s);
+        EXPECT_EQ(result->parentWidget(), &owner);
+        return result->txtResult->toPlainText();
+    };
+    EXPECT_EQ(shown({.done = 1, .failed = 1, .end = Report::End::Finished, .text = u"CENTRAL\\anna\r\n"_s}),
+              heading + u"\n\nCENTRAL\\anna\n"_s);
+    EXPECT_EQ(shown({.done = 1, .failed = 0, .end = Report::End::Lost, .text = u"No space."_s}),
+              u"The Operation was broken off because the Database can no longer be written.\n\n"_s + heading +
+                  u"\n\nNo space."_s);
 }

@@ -1,6 +1,5 @@
 #include "messages/frmResult.h"
 #include "messages/showresult.h"
-#include "messages/status.h"
 #include "support/windowtest.h"
 
 #include <QDialog>
@@ -28,9 +27,9 @@ protected:
         WindowTest::TearDown();
     }
 
-    static frmResult *show(const QString &text)
+    static frmResult *show(const QString &text, QWidget *owner = nullptr)
     {
-        showResult(text, u"Import/Export Result"_s);
+        showResult(owner, text, u"Import/Export Result"_s);
         return find<frmResult>(u"frmResult"_s);
     }
 
@@ -73,7 +72,7 @@ TEST_F(ResultTest, ShowsTextAndTitleModeless)
     EXPECT_EQ(window->txtResult->toPlainText(), u"One\nTwo"_s);
     EXPECT_EQ(window->mnuFile->title(), u"&File"_s);
 
-    showResult(u"Three"_s, u"Other"_s);
+    showResult(nullptr, u"Three"_s, u"Other"_s);
     EXPECT_EQ(findAll<frmResult>(u"frmResult"_s).size(), 1);
     EXPECT_EQ(window->txtResult->toPlainText(), u"Three"_s);
 
@@ -86,18 +85,16 @@ TEST_F(ResultTest, AppearsOverItsOwnerAndStaysWhereItIsPut)
 {
     QWidget owner;
     owner.setGeometry(300, 200, 200, 100);
-    setStatusTarget(nullptr, &owner);
-    frmResult *window = show(u"One"_s);
+    frmResult *window = show(u"One"_s, &owner);
     ASSERT_TRUE(window);
     const QRect screen = window->screen()->availableGeometry();
     EXPECT_TRUE(screen.contains(window->geometry().topLeft()));
     EXPECT_TRUE(window->geometry().contains(owner.geometry().center()));
     window->move(5, 7);
-    showResult(u"Two"_s, u"Other"_s);
+    showResult(&owner, u"Two"_s, u"Other"_s);
     EXPECT_EQ(window->pos(), QPoint(5, 7));
     window->close();
     settle();
-    setStatusTarget(nullptr, nullptr);
 }
 
 TEST_F(ResultTest, SavesTheBytesAsTheyAre)
@@ -130,6 +127,7 @@ TEST_F(ResultTest, AnExistingFileIsAskedAbout)
 
     expectBox(overwrite(u"old.txt"_s), question, box::ResultNo);
     save(u"old.txt"_s);
+    EXPECT_EQ(lastBoxOwner(), find<frmResult>(u"frmResult"_s));
     EXPECT_EQ(read(u"old.txt"_s), "old");
 
     expectBox(overwrite(u"old.txt"_s), question, box::ResultYes);
@@ -152,21 +150,22 @@ TEST_F(ResultTest, ControlASelectsTheWholeText)
     EXPECT_EQ(window->txtResult->textCursor().selectedText(), u"One\u2029Two"_s);
 }
 
-TEST_F(ResultTest, OutlivesTheDialogThatShowedIt)
+TEST_F(ResultTest, StaysAboveTheDialogThatShowedItAndOutlivesIt)
 {
-    {
-        QDialog dialog;
-        QTimer::singleShot(0, &dialog, [&] {
-            frmResult *window = show(u"format help"_s);
-            EXPECT_EQ(window->parentWidget(), &dialog) << "else the dialog would block it";
-            dialog.accept();
-        });
-        whenShown<frmResult>([](frmResult &) {});
-        whenShown<QDialog>([](QDialog &) {});
-        dialog.exec();
-    }
+    QWidget main;
+    QDialog dialog(&main);
+    QTimer::singleShot(0, &dialog, [&] {
+        frmResult *window = show(u"format help"_s, &dialog);
+        EXPECT_EQ(window->parentWidget(), &dialog) << "else the dialog would block it";
+        EXPECT_EQ(window->windowType(), Qt::Dialog) << "else the window manager lets it sink below its owner";
+        dialog.accept();
+    });
+    whenShown<frmResult>([](frmResult &) {});
+    whenShown<QDialog>([](QDialog &) {});
+    dialog.exec();
     auto *window = find<frmResult>(u"frmResult"_s);
     ASSERT_TRUE(window);
+    EXPECT_EQ(window->parentWidget(), &main);
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->txtResult->toPlainText(), u"format help"_s);
 }

@@ -1,5 +1,5 @@
 #include "exchange/frmImport.h"
-#include "messages/modProgress.h"
+#include "messages/progresssteps.h"
 #include "platform/jet/recordset.h"
 #include "session/modRegistry.h"
 #include "shelltest.h"
@@ -55,10 +55,11 @@ TEST_F(MainWindowTest, BecomesActiveAsTheProgressWindowGoes)
 {
     start();
     for (int i = 0; i < 3; ++i) {
-        startProgress(1, 3, u"Batch"_s, true, true);
-        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow() != &mainForm(); }));
-        endProgress();
-        mainForm().activateWindow();
+        {
+            ProgressSteps steps(&mainForm());
+            steps.phase(u"Batch"_s, 3);
+            ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow() != &mainForm(); }));
+        }
         settle();
         EXPECT_EQ(QApplication::activeWindow(), &mainForm());
     }

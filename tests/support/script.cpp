@@ -30,7 +30,8 @@ std::string told(CommonDialog::Kind kind, const QString &filter)
 
 Script::Script()
 {
-    setMessageBoxHandler([this](const QString &text, int flags) { return answerBox(text, flags); });
+    setMessageBoxHandler(
+        [this](QWidget *owner, const QString &text, int flags) { return answerBox(owner, text, flags); });
     setCommonDialogHandler(
         [this](const CommonDialog &dialog, CommonDialog::Kind kind) { return answerFile(dialog, kind); });
 }
@@ -62,8 +63,9 @@ void Script::verify()
     m_files.clear();
 }
 
-int Script::answerBox(const QString &text, int flags)
+int Script::answerBox(QWidget *owner, const QString &text, int flags)
 {
+    m_lastOwner = owner;
     m_asked.push_back({text, flags});
     if (m_boxes.empty()) {
         ADD_FAILURE() << "Unexpected box: " << told(text, flags);

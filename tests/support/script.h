@@ -3,7 +3,9 @@
 #include "toolkit/commondialog.h"
 #include "toolkit/messagebox.h"
 
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 
 #include <deque>
 #include <vector>
@@ -34,6 +36,8 @@ public:
 
     /// Every box that was asked so far.
     [[nodiscard]] const std::vector<Box> &asked() const { return m_asked; }
+    /// The owner of the last one.
+    [[nodiscard]] QWidget *lastOwner() const { return m_lastOwner; }
 
 private:
     struct BoxAnswer
@@ -48,10 +52,11 @@ private:
         QString path;
     };
 
-    int answerBox(const QString &text, int flags);
+    int answerBox(QWidget *owner, const QString &text, int flags);
     QString answerFile(const CommonDialog &dialog, CommonDialog::Kind kind);
 
     std::deque<BoxAnswer> m_boxes;
     std::deque<FileAnswer> m_files;
     std::vector<Box> m_asked;
+    QPointer<QWidget> m_lastOwner;
 };

@@ -24,6 +24,7 @@ protected:
         m_script->expectFile(kind, filter, path);
     }
     [[nodiscard]] const std::vector<Script::Box> &asked() const { return m_script->asked(); }
+    [[nodiscard]] QWidget *lastBoxOwner() const { return m_script->lastOwner(); }
 
     /// Drives the next window of the type that appears, once it is there and its loop
     /// runs. A modal window must be closed when the function returns.

@@ -15,6 +15,13 @@ std::string nameOf(const QWidget *window)
     return window->metaObject()->className() + (" \"" + window->windowTitle().toStdString() + '"');
 }
 
+/// The progress window is modal, too, but the work that shows it has the loop.
+bool runsALoop(const QWidget *window)
+{
+    return qobject_cast<const QDialog *>(window) && window->isModal() &&
+           window->objectName() != QLatin1StringView("frmProgress");
+}
+
 } // namespace
 
 WindowWatch::WindowWatch()
@@ -58,7 +65,7 @@ void WindowWatch::shown(QWidget *window)
         driveInLoop(window, level, drive);
         return;
     }
-    if (qobject_cast<QDialog *>(window) && window->isModal())
+    if (runsALoop(window))
         driveInLoop(window, level, [](QWidget *unexpected) {
             ADD_FAILURE() << "Unexpected window: " << nameOf(unexpected);
             static_cast<QDialog *>(unexpected)->reject();
@@ -71,7 +78,7 @@ void WindowWatch::driveInLoop(const QPointer<QWidget> &window, int levelBefore,
     QTimer::singleShot(0, this, [=, this] {
         if (!window)
             return;
-        const bool modal = window->isModal();
+        const bool modal = runsALoop(window);
         // A dialog that yields while it is being shown has no loop of its own yet.
         if (modal && window->isVisible() && QThread::currentThread()->loopLevel() <= levelBefore) {
             driveInLoop(window, levelBefore, drive);

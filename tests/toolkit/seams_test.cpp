@@ -54,12 +54,13 @@ TEST_P(MessageBoxTest, ButtonsAndResults)
                 if (button->text().remove(u'&') == c.buttons.at(i))
                     QTest::mouseClick(button, Qt::LeftButton);
         });
-        EXPECT_EQ(messageBox(u"Text"_s, c.flags), c.results[std::size_t(i)]);
+        EXPECT_EQ(messageBox(nullptr, u"Text"_s, c.flags), c.results[std::size_t(i)]);
     }
     whenShown<QDialog>([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    EXPECT_EQ(messageBox(u"Text"_s, c.flags), c.closed);
+    EXPECT_EQ(messageBox(nullptr, u"Text"_s, c.flags), c.closed);
     whenShown<QDialog>([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    EXPECT_EQ(messageBox(u"Text"_s, c.flags), c.results.front()) << "The first button is the default.";
+    EXPECT_EQ(messageBox(nullptr, u"Text"_s, c.flags), c.results.front())
+        << "The first button is the default.";
 }
 
 INSTANTIATE_TEST_SUITE_P(Boxes, MessageBoxTest, testing::ValuesIn(boxCases),
@@ -79,7 +80,7 @@ TEST_F(SeamsTest, TextIsNoMarkupAndTheHourglassIsOffWhileTheBoxAsks)
         EXPECT_EQ(label->textFormat(), Qt::PlainText);
         dialog.reject();
     });
-    messageBox(u"<b>1973</b>\r\ntext"_s, box::StopIcon);
+    messageBox(nullptr, u"<b>1973</b>\r\ntext"_s, box::StopIcon);
     EXPECT_TRUE(isHourglassShown());
     showHourglass(false);
 }
@@ -88,15 +89,16 @@ TEST_F(SeamsTest, TheScriptReportsAnUnexpectedAWrongAndAMissingBox)
 {
     Script script;
     int answer = 0;
-    EXPECT_NONFATAL_FAILURE(answer = messageBox(u"Sure?"_s, box::YesNo + box::WarningIcon), "Unexpected box");
+    EXPECT_NONFATAL_FAILURE(answer = messageBox(nullptr, u"Sure?"_s, box::YesNo + box::WarningIcon),
+                            "Unexpected box");
     EXPECT_EQ(answer, box::ResultNo);
     script.expectBox(u"Delete?"_s, 52, box::ResultYes);
-    EXPECT_NONFATAL_FAILURE(answer = messageBox(u"Really?"_s, 52), "Expected box: \"Delete?\"");
+    EXPECT_NONFATAL_FAILURE(answer = messageBox(nullptr, u"Really?"_s, 52), "Expected box: \"Delete?\"");
     EXPECT_EQ(answer, box::ResultNo);
     script.expectBox(u"Delete?"_s, 52, box::ResultYes);
     EXPECT_NONFATAL_FAILURE(script.verify(), "never came");
     script.expectBox(u"Delete?"_s, 52, box::ResultYes);
-    EXPECT_EQ(messageBox(u"Delete?"_s, 52), box::ResultYes);
+    EXPECT_EQ(messageBox(nullptr, u"Delete?"_s, 52), box::ResultYes);
     ASSERT_EQ(script.asked().size(), 3U);
     EXPECT_EQ(script.asked()[1], (Script::Box{u"Really?"_s, 52}));
 }
@@ -153,12 +155,41 @@ TEST_F(SeamsTest, TheHourglassIsAStateAndScopesBringItBack)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(SeamsTest, AYieldRunsWhatWaitsAndReturns)
+TEST_F(SeamsTest, ABoxBelongsToItsOwnerWhichIsActiveAgainAfterwards)
 {
-    int ran = 0;
-    QTimer::singleShot(0, [&] { ++ran; });
-    yieldToEvents();
-    EXPECT_EQ(ran, 1);
+    setMessageBoxHandler({});
+    QWidget other;
+    QWidget window;
+    auto *owner = new QPushButton(&window);
+    window.show();
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    whenShown<QDialog>([&](QDialog &dialog) {
+        EXPECT_EQ(dialog.parentWidget(), &window);
+        dialog.reject();
+    });
+    messageBox(owner, u"Text"_s, box::StopIcon);
+    settle();
+    EXPECT_EQ(QApplication::activeWindow(), &window);
+}
+
+TEST_F(SeamsTest, PaintingPaints)
+{
+    class Painted final : public QWidget
+    {
+    public:
+        int times = 0;
+
+    protected:
+        void paintEvent(QPaintEvent *) override { ++times; }
+    } widget;
+    widget.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+    const int before = widget.times;
+    widget.update();
+    paintNow();
+    EXPECT_GT(widget.times, before);
 }
 
 TEST_F(SeamsTest, TheClipboardHoldsTheText)

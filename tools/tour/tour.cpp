@@ -5,7 +5,7 @@
 #include "base/error.h"
 #include "messages/frmProgress.h"
 #include "messages/frmResult.h"
-#include "messages/modProgress.h"
+#include "messages/progresssteps.h"
 #include "messages/showresult.h"
 #include "shell/application.h"
 #include "shell/frmAbout.h"
@@ -68,7 +68,7 @@ void trigger(const QString &entry)
     if (!action)
         missing(entry);
     action->trigger();
-    yieldToEvents();
+    paintNow();
 }
 
 template <typename Window>
@@ -87,14 +87,14 @@ void walkMainWindow(Gallery &gallery)
     window.showNormal();
     window.resize(mainWindowSize);
     window.activateWindow();
-    yieldToEvents();
+    paintNow();
     gallery.add(window, u"main"_s);
 
     auto *users = window.findChild<QMenu *>(u"mnuUsers"_s);
     if (!users)
         missing(u"mnuUsers"_s);
     users->popup(window.mapToGlobal(QPoint(0, 0)));
-    yieldToEvents();
+    paintNow();
     gallery.add(*users, u"menu-users"_s);
     users->close();
 }
@@ -107,33 +107,36 @@ void walkViews(Gallery &gallery)
         missing(u"frmDisplay"_s);
     view->listDisplay->setRowSelected(1);
     view->listDisplay->setRowSelected(2);
-    yieldToEvents();
+    paintNow();
     gallery.add(mainForm(), u"users"_s);
 
     trigger(u"mnuShowAllUsers"_s);
     mainForm().Arrange(1);
-    yieldToEvents();
+    paintNow();
     gallery.add(mainForm(), u"users-tiled"_s);
     mainForm().mdiArea().closeAllSubWindows();
-    yieldToEvents();
+    paintNow();
 }
 
 void walkMessages(Gallery &gallery)
 {
-    startProgress(1, 12, u"Exporting User Settings"_s, true, true);
-    if (stepProgress(u"CENTRAL\\m.keller"_s, 5))
-        missing(u"frmProgress"_s);
-    gallery.add(topLevel<frmProgress>(), u"progress"_s);
-    endProgress();
+    {
+        ProgressSteps steps(&mainForm());
+        steps.phase(u"Exporting User Settings"_s, 12);
+        for (const QString &item : {u"CENTRAL\\a.weber"_s, u"CENTRAL\\m.keller"_s})
+            static_cast<void>(steps.step(item));
+        gallery.add(topLevel<frmProgress>(), u"progress"_s);
+    }
 
     showResult(
+        &mainForm(),
         u"The following Users could not be deleted:\r\n\r\nCENTRAL\\m.keller\r\nCENTRAL\\j.meyer\r\n"_s,
         u"Import/Export Result"_s);
-    yieldToEvents();
+    paintNow();
     auto &result = topLevel<frmResult>();
     gallery.add(result, u"result"_s);
     result.close();
-    yieldToEvents();
+    paintNow();
 }
 
 } // namespace
