@@ -8,6 +8,7 @@
 #include "shell/frmMain.h"
 #include "store/clsUsers.h"
 #include "sync/modUsers.h"
+#include "views/families.h"
 #include "views/frmDisplay.h"
 #include "views/mainwindowlink.h"
 
@@ -60,7 +61,7 @@ void GetAllByHand(benchmark::State &state)
 /// The view of all users, open and painted.
 void openAllUsers()
 {
-    modUsers::listAllUsers(nullptr);
+    runWithoutList(&mainForm(), Mode::Users, Op::ListAll);
     QApplication::processEvents();
     if (!mainWindow()->targetDisplay())
         throwError(1, u"No view was opened."_s);
@@ -78,6 +79,7 @@ void closeAllUsers()
 void warmUp()
 {
     modRegistry::saveDataBase(workbench::sampleStore(10));
+    registerHandlers(modUsers::handlers());
     mainForm().show();
     openAllUsers();
     closeAllUsers();

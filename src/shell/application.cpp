@@ -1,5 +1,7 @@
 #include "shell/application.h"
 
+#include "assets/modHW.h"
+#include "assets/modRooms.h"
 #include "base/error.h"
 #include "exchange/modImport.h"
 #include "messages/status.h"
@@ -37,7 +39,9 @@ std::function<void()> &processEnd()
 // One line a family.
 void registerFamilies()
 {
-    modUsers::registerFamily();
+    registerHandlers(modUsers::handlers());
+    registerHandlers(modHW::handlers());
+    registerHandlers(modRooms::handlers());
 }
 
 void installDesktop()

@@ -11,7 +11,9 @@
 #include "shell/windowmenu.h"
 #include "toolkit/imagelist.h"
 #include "toolkit/messagebox.h"
+#include "toolkit/pointer.h"
 #include "toolkit/statusbar.h"
+#include "views/viewmenus.h"
 
 #include <QActionEvent>
 #include <QCloseEvent>
@@ -20,6 +22,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QToolBar>
 
 #include <algorithm>
@@ -67,6 +70,7 @@ frmMain::frmMain()
     , StatusBar(new ::StatusBar(PanelCount))
     , m_area(new QMdiArea)
     , m_ownMenus(buildMenus(*this, mainMenu()))
+    , m_viewMenus(new ViewMenus(this, *ToolBarDisplay))
     , m_windowMenu(makeWindowMenu(*m_area, this))
 {
     setObjectName("frmMain"_L1);
@@ -78,16 +82,17 @@ frmMain::frmMain()
     connect(m_area, &QMdiArea::subWindowActivated, this, [this] {
         if (m_area->currentSubWindow())
             return;
-        setViewMenus({});
+        setTargetDisplay(nullptr);
         setWindowMenuShown(false);
     });
     setMainWindow(this);
     fillToolbar(*this, *ToolbarMain, mainToolbar());
     showOnlyToolbar(Toolbar::Main);
 
-    // The sidebar takes its frames as they come; without any there is nothing to show.
-    auto *sidebar = new QVBoxLayout(picControlContainer);
-    sidebar->setAlignment(Qt::AlignTop);
+    auto *frames = new QVBoxLayout(picControlContainer);
+    frames->setAlignment(Qt::AlignTop);
+    frames->setContentsMargins(4, 4, 4, 4);
+    fillSidebar(*this, *frames, sidebar());
     auto *inside = new QWidget;
     auto *layout = new QHBoxLayout(inside);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -101,6 +106,7 @@ frmMain::frmMain()
     StatusBar->setPanelWidth(ServerPanel, serverPanelCharacters * character);
     setStatusBar(StatusBar);
     showMenus();
+    addKeys();
     paintArea();
 
     setStatusTarget(StatusBar, this);
@@ -171,6 +177,9 @@ void frmMain::paintArea()
 
 void frmMain::activate()
 {
+    // A window that comes up in the middle of work does not end it.
+    if (isHourglassShown())
+        return;
     prepareMainWindow();
     showStatusReady();
     if (!m_area->currentSubWindow())
@@ -179,8 +188,7 @@ void frmMain::activate()
 
 void frmMain::prepareMainWindow()
 {
-    const bool hasFrames = !picControlContainer->layout()->isEmpty();
-    picControlContainer->setVisible(hasFrames && modRegistry::getShowSideBar());
+    picControlContainer->setVisible(modRegistry::getShowSideBar());
     showStatusReady();
     fitStatusPanels();
     StatusBar->setPanelText(StorePanel, modRegistry::getDataBase());
@@ -227,30 +235,51 @@ void frmMain::setWindowMenuShown(bool shown)
     m_windowMenu->menuAction()->setVisible(shown);
 }
 
-void frmMain::setViewMenus(const QList<QMenu *> &menus)
+void frmMain::setTargetDisplay(CommandTarget *target)
 {
-    m_viewMenus = QList<QPointer<QMenu>>(menus.begin(), menus.end());
+    m_viewMenus->dress(target);
     showMenus();
 }
 
-// The menus of the active view with the window menu behind them, or the window's own with
-// the window menu before Help, which stands last.
+CommandTarget *frmMain::targetDisplay() const
+{
+    return m_viewMenus->target();
+}
+
+QMenu *frmMain::editMenu() const
+{
+    return m_viewMenus->editMenu();
+}
+
+// The menus of the active view followed by the window menu, or the window's own with the window menu before
+// Help, which is last.
 void frmMain::showMenus()
 {
     QList<QAction *> shown;
-    for (const QPointer<QMenu> &menu : m_viewMenus) {
-        if (menu)
-            shown.append(menu->menuAction());
-    }
-    const bool own = shown.isEmpty();
-    if (own) {
-        for (const QMenu *menu : m_ownMenus)
-            shown.append(menu->menuAction());
-    }
+    const bool own = !m_viewMenus->target();
+    for (const QMenu *menu : own ? m_ownMenus : m_viewMenus->menus())
+        shown.append(menu->menuAction());
     shown.insert(own ? shown.size() - 1 : shown.size(), m_windowMenu->menuAction());
     m_windowMenu->menuAction()->setVisible(m_windowMenuShown);
     if (menuBar()->actions() == shown)
         return;
     menuBar()->clear();
     menuBar()->addActions(shown);
+}
+
+void frmMain::addKeys()
+{
+    const auto onKey = [this](const QKeySequence &key, auto run) {
+        auto *shortcut = new QShortcut(key, this);
+        connect(shortcut, &QShortcut::activated, this, run);
+    };
+    onKey(QKeySequence(Qt::CTRL | Qt::Key_F4), [this] { m_area->closeActiveSubWindow(); });
+    onKey(QKeySequence(Qt::Key_F10), [this] {
+        for (QAction *menu : menuBar()->actions()) {
+            if (menu->isVisible()) {
+                menuBar()->setActiveAction(menu);
+                return;
+            }
+        }
+    });
 }

@@ -4,7 +4,9 @@
 #include "views/mainwindowlink.h"
 
 #include <QMainWindow>
-#include <QPointer>
+
+class QMenu;
+class ViewMenus;
 
 /// The parent window of the application: the menu, the sidebar, the three toolbars, the
 /// main status bar and the area of the object views. Every command is one call into the
@@ -32,13 +34,14 @@ public:
     void Arrange(int arrangement);
 
     // MainWindowLink
+    [[nodiscard]] QWidget &window() override { return *this; }
     [[nodiscard]] QMdiArea &mdiArea() override { return *m_area; }
     [[nodiscard]] ::StatusBar &mainStatusBar() override { return *StatusBar; }
     [[nodiscard]] QToolBar &toolbar(Toolbar which) override;
-    void setTargetDisplay(QWidget *view) override { m_targetDisplay = view; }
-    [[nodiscard]] QWidget *targetDisplay() const override { return m_targetDisplay; }
+    void setTargetDisplay(CommandTarget *target) override;
+    [[nodiscard]] CommandTarget *targetDisplay() const override;
+    [[nodiscard]] QMenu *editMenu() const override;
     void setWindowMenuShown(bool shown) override;
-    void setViewMenus(const QList<QMenu *> &menus) override;
 
 protected:
     bool event(QEvent *event) override;
@@ -53,11 +56,11 @@ private:
     void paintArea();
     void fitStatusPanels();
     void showMenus();
+    void addKeys();
 
     QMdiArea *m_area;
     QList<QMenu *> m_ownMenus;
-    QList<QPointer<QMenu>> m_viewMenus;
+    ViewMenus *m_viewMenus;
     QMenu *m_windowMenu;
     bool m_windowMenuShown = false;
-    QPointer<QWidget> m_targetDisplay;
 };

@@ -1,5 +1,7 @@
 #include "shell/windowmenu.h"
 
+#include "views/captions.h"
+
 #include <QActionGroup>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -69,6 +71,20 @@ void arrangeIcons(const QMdiArea &area)
     }
 }
 
+void cascade(const QMdiArea &area)
+{
+    const QSize room = area.viewport()->size();
+    const QMdiSubWindow *before = nullptr;
+    for (QMdiSubWindow *window : shownWindows(area, false)) {
+        if (window->isMaximized())
+            window->showNormal();
+        window->resize(window->size().boundedTo(room));
+        window->move(before ? cascadedFrom(*before, area) : QPoint(0, 0));
+        window->raise();
+        before = window;
+    }
+}
+
 void fillWindowList(QMenu &list, QMdiArea &area)
 {
     list.clear();
@@ -92,7 +108,7 @@ void arrange(QMdiArea &area, Arrangement arrangement)
 {
     switch (arrangement) {
     case Arrangement::Cascade:
-        area.cascadeSubWindows();
+        cascade(area);
         break;
     case Arrangement::TileHorizontally:
         tile(area, Qt::Vertical);

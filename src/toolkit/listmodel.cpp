@@ -2,6 +2,9 @@
 
 #include "toolkit/imagelist.h"
 
+#include <algorithm>
+#include <numeric>
+
 ListModel::ListModel(QObject *parent) : QAbstractTableModel(parent) {}
 
 void ListModel::setImages(const ImageList *cells, const ImageList *headers)
@@ -17,6 +20,7 @@ void ListModel::setColumns(const QStringList &headings)
     for (const QString &heading : headings)
         m_headings.push_back({.text = heading});
     m_rows = ListRows(int(headings.size()));
+    m_ordered = false;
     endResetModel();
 }
 
@@ -45,71 +49,98 @@ void ListModel::setRows(ListRows rows)
     beginResetModel();
     m_rows = std::move(rows);
     m_rows.squeeze();
+    m_ordered = false;
+    m_order = {};
     endResetModel();
+}
+
+int ListModel::rowOfKey(int key) const
+{
+    if (!m_ordered)
+        return key >= 0 && key < m_rows.rowCount() ? key : -1;
+    const auto found = std::ranges::find(m_order, key);
+    return found == m_order.end() ? -1 : int(found - m_order.begin());
+}
+
+void ListModel::makeOrder()
+{
+    if (m_ordered)
+        return;
+    m_order.resize(std::size_t(m_rows.rowCount()));
+    std::iota(m_order.begin(), m_order.end(), 0);
+    m_ordered = true;
 }
 
 int ListModel::appendRow(const QString &itemText, const QStringList &subItems)
 {
-    const int row = m_rows.rowCount();
+    const int row = rowCount();
     beginInsertRows({}, row, row);
-    m_rows.addRow();
-    m_rows.setText(row, 0, itemText);
+    const int added = m_rows.addRow();
+    m_rows.setText(added, 0, itemText);
     for (qsizetype i = 0; i < subItems.size(); ++i)
-        m_rows.setText(row, int(i) + 1, subItems.at(i));
+        m_rows.setText(added, int(i) + 1, subItems.at(i));
+    if (m_ordered)
+        m_order.push_back(added);
     endInsertRows();
     return row;
 }
 
 void ListModel::removeRow(int row)
 {
+    makeOrder();
     beginRemoveRows({}, row, row);
-    m_rows.removeRow(row);
+    m_order.erase(m_order.begin() + row);
     endRemoveRows();
 }
 
 void ListModel::takeRows(std::span<const int> rows)
 {
     beginResetModel();
-    m_rows.take(rows);
+    std::vector<int> order;
+    order.reserve(rows.size());
+    for (const int row : rows)
+        order.push_back(key(row));
+    m_order = std::move(order);
+    m_ordered = true;
     endResetModel();
 }
 
 void ListModel::setText(int row, int column, const QString &text)
 {
-    m_rows.setText(row, column, text);
+    m_rows.setText(key(row), column, text);
     Q_EMIT dataChanged(index(row, column), index(row, column), {Qt::DisplayRole});
 }
 
 void ListModel::setPicture(int row, int column, int picture)
 {
-    m_rows.setPicture(row, column, picture);
+    m_rows.setPicture(key(row), column, picture);
     Q_EMIT dataChanged(index(row, column), index(row, column), {Qt::DecorationRole});
 }
 
 void ListModel::setColumnPicture(int column, int picture)
 {
-    if (m_rows.rowCount() == 0)
+    if (rowCount() == 0)
         return;
     m_rows.setColumnPicture(column, picture);
-    Q_EMIT dataChanged(index(0, column), index(m_rows.rowCount() - 1, column), {Qt::DecorationRole});
-}
-
-void ListModel::setTag(int row, const QString &tag)
-{
-    m_rows.setTag(row, tag);
+    Q_EMIT dataChanged(index(0, column), index(rowCount() - 1, column), {Qt::DecorationRole});
 }
 
 void ListModel::reorder(std::span<const int> order)
 {
-    Q_ASSERT(order.size() == std::size_t(m_rows.rowCount()));
+    Q_ASSERT(order.size() == std::size_t(rowCount()));
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
-    std::vector<int> placeOf(order.size());
-    for (std::size_t row = 0; row < order.size(); ++row)
-        placeOf[std::size_t(order[row])] = int(row);
-
-    m_rows.take(order);
-
+    // What is selected or current moves with its row; of the others nobody holds an index.
     const QModelIndexList before = persistentIndexList();
+    std::vector<int> placeOf(before.isEmpty() ? 0 : order.size());
+    std::vector<int> keys(order.size());
+    for (std::size_t row = 0; row < order.size(); ++row) {
+        keys[row] = key(order[row]);
+        if (!placeOf.empty())
+            placeOf[std::size_t(order[row])] = int(row);
+    }
+    m_order = std::move(keys);
+    m_ordered = true;
+
     QModelIndexList after;
     after.reserve(before.size());
     for (const QModelIndex &at : before)
@@ -118,9 +149,16 @@ void ListModel::reorder(std::span<const int> order)
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
+std::size_t ListModel::bytes() const
+{
+    return m_rows.bytes() + m_order.capacity() * sizeof(int);
+}
+
 int ListModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_rows.rowCount();
+    if (parent.isValid())
+        return 0;
+    return m_ordered ? int(m_order.size()) : m_rows.rowCount();
 }
 
 int ListModel::columnCount(const QModelIndex &parent) const
@@ -134,11 +172,14 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return m_rows.text(index.row(), index.column());
+        return text(index.row(), index.column());
     case Qt::DecorationRole:
-        if (const int picture = m_rows.picture(index.row(), index.column()); picture != 0 && m_cellImages)
-            return m_cellImages->icon(picture);
+        if (const int number = picture(index.row(), index.column()); number != 0 && m_cellImages)
+            return m_cellImages->icon(number);
         return {};
+    case Qt::AccessibleTextRole:
+        // An empty text would be replaced by the one shown.
+        return index.column() == m_silentColumn ? QVariant(QStringLiteral(" ")) : QVariant();
     default:
         return {};
     }

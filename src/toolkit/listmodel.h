@@ -5,11 +5,15 @@
 #include <QAbstractTableModel>
 #include <QStringList>
 
+#include <span>
+#include <vector>
+
 class ImageList;
 
-/// The model below ListView: headings and a block of rows. A fill is one reset, a sort
-/// one layout change in which the selection stays with its rows. Row and column numbers
-/// are checked by ListView; here they are asserted.
+/// The model below ListView: headings, a block of rows, and the order in which the rows are
+/// shown. Sorting and removing change the order alone, four bytes a row; the texts stay where
+/// they are. A fill is one reset, a sort one layout change in which the selection stays with
+/// its rows. Row and column numbers are checked by ListView; here they are asserted.
 class ListModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -28,7 +32,15 @@ public:
 
     /// In place of all rows. Columns that the block lacks are empty.
     void setRows(ListRows rows);
-    [[nodiscard]] const ListRows &rows() const { return m_rows; }
+
+    /// A number of the row that sorting and removing others does not change. Filling makes all
+    /// numbers void.
+    [[nodiscard]] int key(int row) const { return m_ordered ? m_order[std::size_t(row)] : row; }
+    /// -1 for a row that has gone. O(rows) once the list was sorted.
+    [[nodiscard]] int rowOfKey(int key) const;
+    [[nodiscard]] QUtf8StringView view(int row, int column) const { return m_rows.view(key(row), column); }
+    [[nodiscard]] QString text(int row, int column) const { return m_rows.text(key(row), column); }
+    [[nodiscard]] int picture(int row, int column) const { return m_rows.picture(key(row), column); }
 
     int appendRow(const QString &itemText, const QStringList &subItems);
     void removeRow(int row);
@@ -37,8 +49,11 @@ public:
     void setText(int row, int column, const QString &text);
     void setPicture(int row, int column, int picture);
     void setColumnPicture(int column, int picture);
-    void setTag(int row, const QString &tag);
+    /// Row i becomes what row order[i] was.
     void reorder(std::span<const int> order);
+    /// What assistive tools are not to read out: the column of the ids.
+    void setSilentColumn(int column) { m_silentColumn = column; }
+    [[nodiscard]] std::size_t bytes() const;
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
@@ -52,8 +67,13 @@ private:
         int picture = 0;
     };
 
+    void makeOrder();
+
     std::vector<Heading> m_headings;
     ListRows m_rows;
+    std::vector<int> m_order; ///< of the block's rows, once it is not the block's own
+    bool m_ordered = false;
+    int m_silentColumn = -1;
     const ImageList *m_cellImages = nullptr;
     const ImageList *m_headerImages = nullptr;
 };

@@ -5,7 +5,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <span>
 #include <vector>
 
 /// The rows of a list as a block, column by column: a row costs what its texts cost.
@@ -24,9 +23,6 @@ public:
     int addRow();
     /// Appends so many rows without texts.
     void addRows(int count) { m_rows += std::size_t(count); }
-    /// O(rows).
-    void removeRow(int row);
-
     [[nodiscard]] QString text(int row, int column) const;
     [[nodiscard]] QUtf8StringView view(int row, int column) const;
     void setText(int row, int column, QStringView text);
@@ -38,16 +34,6 @@ public:
     void setPicture(int row, int column, int picture);
     /// The same picture for every row there is.
     void setColumnPicture(int column, int picture);
-
-    /// A text of the caller's that belongs to the row and is not shown.
-    [[nodiscard]] QString tag(int row) const;
-    void setTag(int row, QStringView tag);
-
-    /// Row i becomes what row rows[i] was; rows that are not named go.
-    void take(std::span<const int> rows);
-    /// The permutation that sorts by the text of a column: without regard to case, by
-    /// code point, rows that compare equal in the order they are in.
-    [[nodiscard]] std::vector<int> sortedOrder(int column, Qt::SortOrder order) const;
 
     /// Gives unused memory back.
     void squeeze();
@@ -62,5 +48,4 @@ private:
 
     std::size_t m_rows = 0;
     std::vector<Column> m_columns;
-    TextColumn m_tags;
 };

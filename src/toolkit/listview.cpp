@@ -7,7 +7,9 @@
 
 #include <QHeaderView>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QSet>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -52,7 +54,7 @@ ListView::ListView(QWidget *parent) : QTreeView(parent), m_model(new ListModel(t
     setItemsExpandable(false);
     setIndentation(0);
     setUniformRowHeights(true);
-    setAllColumnsShowFocus(true);
+    setAllColumnsShowFocus(false);
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
     setEditTriggers(NoEditTriggers);
@@ -67,6 +69,11 @@ ListView::ListView(QWidget *parent) : QTreeView(parent), m_model(new ListModel(t
     header()->setDefaultSectionSize(defaultColumnWidth);
     header()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     connect(header(), &QHeaderView::sectionClicked, this, &ListView::columnClicked);
+    connect(header(), &QHeaderView::sectionResized, this, [this] {
+        if (!m_fitting)
+            m_spread = false; // by hand
+    });
+    m_model->setSilentColumn(0);
 
     // A reset empties the selection without telling.
     connect(m_model, &QAbstractItemModel::modelReset, this, &ListView::selectedChanged);
@@ -88,10 +95,10 @@ void ListView::requireColumn(int column) const
 
 void ListView::setColumns(const QStringList &headings)
 {
-    m_spreadPending = false;
     m_model->setColumns(headings);
     for (int column = 0; column < columnCount(); ++column)
         setColumnWidth(column, defaultColumnWidth);
+    ++m_fillNumber;
 }
 
 int ListView::addColumn(const QString &heading, int width)
@@ -133,6 +140,7 @@ int ListView::headingPicture(int column) const
 void ListView::setColumnWidth(int column, int width)
 {
     requireColumn(column);
+    m_spread = false;
     setColumnHidden(column, width <= 0);
     if (width > 0)
         header()->resizeSection(column, width);
@@ -146,7 +154,7 @@ int ListView::columnWidth(int column) const
 
 void ListView::spreadColumns()
 {
-    m_spreadPending = !isVisible();
+    m_spread = true;
     applySpread();
 }
 
@@ -154,7 +162,8 @@ void ListView::applySpread()
 {
     if (columnCount() == 0)
         return;
-    setColumnWidth(0, 0);
+    const QScopedValueRollback fitting(m_fitting, true);
+    setColumnHidden(0, true);
     if (columnCount() == 1)
         return;
     int room = width() - 2 * frameWidth();
@@ -165,18 +174,67 @@ void ListView::applySpread()
             room -= verticalScrollBar()->sizeHint().width();
     }
     const int share = qMax(smallestColumnWidth, room / (columnCount() - 1));
-    for (int column = 1; column < columnCount(); ++column)
-        setColumnWidth(column, share);
+    for (int column = 1; column < columnCount(); ++column) {
+        setColumnHidden(column, false);
+        header()->resizeSection(column, share);
+    }
+}
+
+void ListView::fill(ListRows rows)
+{
+    m_model->setRows(std::move(rows));
+    ++m_fillNumber;
+    if (m_spread)
+        applySpread();
 }
 
 void ListView::setRows(ListRows rows)
 {
-    m_model->setRows(std::move(rows));
+    fill(std::move(rows));
 }
 
-const ListRows &ListView::rows() const
+void ListView::replaceRows(ListRows rows)
 {
-    return m_model->rows();
+    const auto idOf = [this](int row) { return m_model->view(row, 0).toString(); };
+    const auto isId = [](const QString &text) { return !text.isEmpty() && text != "0"_L1; };
+    QSet<QString> selected;
+    for (const int row : selectedRows())
+        if (const QString id = idOf(row); isId(id))
+            selected.insert(id);
+    const QString current = currentRow() >= 0 ? idOf(currentRow()) : QString();
+    const int currentColumn = currentIndex().column();
+    const int scrolled = verticalScrollBar()->value();
+    const int scrolledAcross = horizontalScrollBar()->value();
+
+    fill(std::move(rows));
+
+    QItemSelection selection;
+    int newCurrent = -1;
+    const auto select = [&](int first, int last) {
+        selection.append({m_model->index(first, 0), m_model->index(last, columnCount() - 1)});
+    };
+    int first = -1;
+    const bool wanted = !selected.isEmpty() || isId(current);
+    for (int row = 0; wanted && row < rowCount(); ++row) {
+        const QString id = idOf(row);
+        if (isId(current) && id == current)
+            newCurrent = row;
+        if (selected.contains(id)) {
+            first = first < 0 ? row : first;
+        } else if (first >= 0) {
+            select(first, row - 1);
+            first = -1;
+        }
+    }
+    if (first >= 0)
+        select(first, rowCount() - 1);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (newCurrent >= 0)
+        selectionModel()->setCurrentIndex(m_model->index(newCurrent, currentColumn),
+                                          QItemSelectionModel::NoUpdate);
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(scrolled);
+    horizontalScrollBar()->setValue(scrolledAcross);
 }
 
 int ListView::rowCount() const
@@ -221,7 +279,7 @@ QString ListView::text(int row, int column) const
 {
     requireRow(row);
     requireColumn(column);
-    return m_model->rows().text(row, column);
+    return m_model->text(row, column);
 }
 
 void ListView::setText(int row, int column, const QString &text)
@@ -235,7 +293,7 @@ int ListView::picture(int row, int column) const
 {
     requireRow(row);
     requireColumn(column);
-    return m_model->rows().picture(row, column);
+    return m_model->picture(row, column);
 }
 
 void ListView::setPicture(int row, int column, int picture)
@@ -251,16 +309,15 @@ void ListView::setColumnPicture(int column, int picture)
     m_model->setColumnPicture(column, picture);
 }
 
-QString ListView::tag(int row) const
+int ListView::rowKey(int row) const
 {
     requireRow(row);
-    return m_model->rows().tag(row);
+    return m_model->key(row);
 }
 
-void ListView::setTag(int row, const QString &tag)
+int ListView::rowOfKey(int key) const
 {
-    requireRow(row);
-    m_model->setTag(row, tag);
+    return m_model->rowOfKey(key);
 }
 
 bool ListView::isRowSelected(int row) const
@@ -313,7 +370,8 @@ int ListView::currentRow() const
 
 QModelIndex ListView::visibleIndex(int row) const
 {
-    return m_model->index(row, columnCount() > 1 ? 1 : 0);
+    const int column = currentIndex().isValid() ? currentIndex().column() : 1;
+    return m_model->index(row, column < columnCount() ? column : 0);
 }
 
 void ListView::setCurrentRow(int row)
@@ -338,12 +396,6 @@ void ListView::ensureVisible(int row)
     const int scrolled = horizontalScrollBar()->value();
     scrollTo(visibleIndex(row), EnsureVisible);
     horizontalScrollBar()->setValue(scrolled);
-}
-
-void ListView::sortByText(int column, Qt::SortOrder order)
-{
-    requireColumn(column);
-    reorder(rows().sortedOrder(column, order));
 }
 
 void ListView::reorder(std::span<const int> order)

@@ -15,7 +15,7 @@ class ListModel;
 ///
 /// Filling is meant to be done with setRows(): one reset, whatever the number of rows.
 /// The selection is kept as ranges; nothing here walks the rows on a click.
-class ListView final : public QTreeView
+class ListView : public QTreeView
 {
     Q_OBJECT
 
@@ -35,14 +35,17 @@ public:
     /// 0 hides the column.
     void setColumnWidth(int column, int width);
     [[nodiscard]] int columnWidth(int column) const;
-    /// Hides column 0 and gives every other the same share of the list's width. A list
-    /// that is not on the screen yet does so once more when it gets its size.
+    /// Hides column 0 and gives every other the same share of the list's width, which they
+    /// follow until somebody sets the width of one.
     void spreadColumns();
 
     // Rows.
     /// In place of all rows.
     void setRows(ListRows rows);
-    [[nodiscard]] const ListRows &rows() const;
+    /// The same where the rows are read again: what was selected and current stays so, found by
+    /// its item text unless that is 0, and the list stays scrolled as it was. O(rows).
+    void replaceRows(ListRows rows);
+    [[nodiscard]] const ListModel &rows() const { return *m_model; }
     [[nodiscard]] int rowCount() const;
     void clearRows();
     /// Appends a row and gives its index.
@@ -58,8 +61,12 @@ public:
     void setPicture(int row, int column, int picture);
     /// The same picture for the cells of all rows, at once.
     void setColumnPicture(int column, int picture);
-    [[nodiscard]] QString tag(int row) const;
-    void setTag(int row, const QString &tag);
+    /// A number of the row that neither sorting nor the removal of others changes, and the row
+    /// of such a number, -1 when it has gone. Filling makes all numbers void.
+    [[nodiscard]] int rowKey(int row) const;
+    [[nodiscard]] int rowOfKey(int key) const;
+    /// Raised by each fill.
+    [[nodiscard]] int fillNumber() const { return m_fillNumber; }
 
     // Selection.
     [[nodiscard]] bool isRowSelected(int row) const;
@@ -79,11 +86,9 @@ public:
     void ensureVisible(int row);
 
     // Order.
-    /// Sorts by a column as text (ListRows::sortedOrder). Rows added later go to the end.
-    void sortByText(int column, Qt::SortOrder order);
     /// Row i becomes what row order[i] was; selection and current row go with their rows.
     void reorder(std::span<const int> order);
-    /// Kept for whoever sorts; only told here, nothing is sorted by it.
+    /// Of the last sort. Kept for the code that sorts; setting it sorts nothing.
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
     void setSortOrder(Qt::SortOrder order) { m_sortOrder = order; }
 
@@ -108,6 +113,8 @@ Q_SIGNALS:
     void mouseReleased(Qt::MouseButton button, QPoint globalPosition);
     /// The right button went up, or the key for menus was pressed.
     void contextMenuAsked(QPoint globalPosition);
+    /// The keys Left and Right chose a column.
+    void columnChosen(int column);
     /// Selection or rows changed.
     void selectedChanged();
     void focusReceived();
@@ -119,7 +126,6 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
-    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -133,11 +139,16 @@ private:
     void requireRow(int row) const;
     void requireColumn(int column) const;
     void applySpread();
+    void fill(ListRows rows);
+    void stepColumn(int step);
     [[nodiscard]] QModelIndex visibleIndex(int row) const;
     [[nodiscard]] QPoint menuPlace() const;
 
     ListModel *m_model;
     bool m_gridLines = false;
-    bool m_spreadPending = false;
-    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    bool m_spread = false;  ///< the columns follow the list's width
+    bool m_fitting = false; ///< and are doing so
+    int m_fillNumber = 0;
+    // So that the first sort is ascending.
+    Qt::SortOrder m_sortOrder = Qt::DescendingOrder;
 };

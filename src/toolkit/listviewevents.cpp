@@ -1,5 +1,7 @@
 #include "toolkit/listview.h"
 
+#include "toolkit/listmodel.h"
+
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QToolTip>
@@ -35,10 +37,30 @@ void ListView::keyPressEvent(QKeyEvent *event)
 
 QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
+    if (action == MoveLeft || action == MoveRight) {
+        stepColumn(action == MoveLeft ? -1 : 1);
+        return currentIndex();
+    }
     // Without a current row every key would lead to the first.
     if (action == MoveEnd && currentRow() < 0 && rowCount() > 0)
         return visibleIndex(rowCount() - 1);
     return QTreeView::moveCursor(action, modifiers);
+}
+
+// Among the visible columns; the selection stays as it is.
+void ListView::stepColumn(int step)
+{
+    if (currentRow() < 0)
+        return;
+    int column = currentIndex().column() + step;
+    while (column >= 0 && column < columnCount() && isColumnHidden(column))
+        column += step;
+    if (column < 0 || column >= columnCount())
+        return;
+    const QModelIndex cell = m_model->index(currentRow(), column);
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    scrollTo(cell);
+    Q_EMIT columnChosen(column);
 }
 
 void ListView::mousePressEvent(QMouseEvent *event)
@@ -89,27 +111,10 @@ void ListView::focusInEvent(QFocusEvent *event)
     Q_EMIT focusReceived();
 }
 
-void ListView::showEvent(QShowEvent *event)
-{
-    QTreeView::showEvent(event);
-    if (!m_spreadPending)
-        return;
-    // Once the sizes have settled that come with being shown.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (m_spreadPending && isVisible()) {
-                applySpread();
-                m_spreadPending = false;
-            }
-        },
-        Qt::QueuedConnection);
-}
-
 void ListView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
-    if (m_spreadPending)
+    if (m_spread)
         applySpread();
 }
 

@@ -5,12 +5,14 @@
 #include "messages/status.h"
 #include "session/modRegistry.h"
 #include "toolkit/banner.h"
-#include "toolkit/imagelist.h"
-#include "toolkit/listview.h"
+#include "toolkit/childwindowstyle.h"
+#include "toolkit/messagebox.h"
 #include "toolkit/pointer.h"
 #include "toolkit/statusbar.h"
 #include "toolkit/yield.h"
-#include "views/family.h"
+#include "views/captions.h"
+#include "views/families.h"
+#include "views/listpane.h"
 #include "views/mainwindowlink.h"
 #include "views/modRender.h"
 
@@ -18,7 +20,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
-#include <QPointer>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -27,7 +28,12 @@ namespace {
 
 constexpr QSize defaultSize(640, 480);
 constexpr int firstVisibleColumn = 1;
-constexpr int selectedPanel = 3;
+
+/// The modes whose rows a double click edits.
+bool canBeEdited(std::optional<Mode> mode)
+{
+    return mode && *mode < Mode::Unknown;
+}
 
 } // namespace
 
@@ -36,6 +42,7 @@ frmDisplay::frmDisplay()
     setObjectName("frmDisplay"_L1);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(u"Generating Display..."_s);
+    setStyle(childWindowStyle());
     build();
     connectList();
     load();
@@ -55,10 +62,11 @@ void frmDisplay::build()
     picContext = picLogoContainer->picContext;
     LblInfo = picLogoContainer->LblInfo;
     picNT = picLogoContainer->picNT;
-    listDisplay = new ListView(pane);
+    listDisplay = new ListPane(pane);
     listDisplay->setObjectName("listDisplay"_L1);
     StatusBar = new ::StatusBar(3, pane);
     StatusBar->setObjectName("StatusBar"_L1);
+    listDisplay->setCountsBar(StatusBar);
 
     auto *list = new QHBoxLayout;
     list->setContentsMargins(4, 4, 4, 4);
@@ -85,14 +93,13 @@ void frmDisplay::load()
 
 void frmDisplay::connectList()
 {
-    connect(listDisplay, &ListView::mousePressed, this,
-            [this](Qt::MouseButton, int column) { m_contextColumn = column; });
-    connect(listDisplay, &ListView::selectedChanged, this,
-            [this] { modRender::showSelectedCount(*listDisplay, *StatusBar, selectedPanel); });
     connect(listDisplay, &ListView::focusReceived, this,
             [] { showOnlyToolbar(MainWindowLink::Toolbar::Display); });
-    connect(listDisplay, &ListView::columnClicked, this, &frmDisplay::columnClicked);
-    connect(listDisplay, &ListView::contextMenuAsked, this, &frmDisplay::contextMenuAsked);
+    connect(listDisplay, &ListView::enterPressed, this, [this] { run(Op::Properties); });
+    connect(listDisplay, &ListView::rowDoubleClicked, this, [this] {
+        if (canBeEdited(m_mode))
+            run(Op::Edit);
+    });
 }
 
 void frmDisplay::showView()
@@ -111,70 +118,63 @@ void frmDisplay::showView()
         show();
     area.setActiveSubWindow(this);
     m_showing = false;
-    // Only now, with the size and the place that it keeps: preparing yields.
+    // Only now, with the size and the place that it keeps.
     if (!wasActive && area.activeSubWindow() == this)
         activated();
 }
 
 void frmDisplay::joinArea(QMdiArea &area)
 {
-    const bool first = area.activeSubWindow() == nullptr;
     bool maximized = false;
     attempt([&] { maximized = modRegistry::getMaximizeWindows(); });
 
+    const QMdiSubWindow *active = area.activeSubWindow();
+    const QPoint place = active && !active->isMaximized() ? cascadedFrom(*active, area) : QPoint(0, 0);
     area.addSubWindow(this);
     connect(&area, &QMdiArea::subWindowActivated, this, [this](const QMdiSubWindow *active) {
         if (active == this)
             activated();
     });
+    if (MainWindowLink *window = mainWindow())
+        listDisplay->setContextMenu(window->editMenu());
     if (maximized) {
         showMaximized();
         return;
     }
     resize(defaultSize);
     show();
-    if (first)
-        move(0, 0);
+    move(place);
 }
 
 void frmDisplay::activated()
 {
     if (!m_showing && !m_closing)
-        guarded(this, [this] { PrepareForm(); });
+        guarded(window(), [this] { PrepareForm(); });
 }
 
 void frmDisplay::PrepareForm()
 {
-    const QPointer<frmDisplay> alive = this;
-    const auto step = [&alive](auto &&doIt) {
-        if (alive)
-            attempt(doIt);
-    };
     MainWindowLink *window = mainWindow();
-    // Painted once, with its pictures, however often the steps between yield.
-    step([this] { listDisplay->setUpdatesEnabled(false); });
-    step([&] {
-        if (window)
-            window->setWindowMenuShown(true);
-    });
-    step([this] { prepareToolbar(); });
-    step([this] { modRender::renderContext(*this, m_action); });
-    step([&] {
-        if (window)
-            window->setTargetDisplay(this);
-    });
-    step([this] { modRender::showRecordCount(*this, listDisplay->rowCount()); });
-    step([this] { listDisplay->setFocus(); });
-    step([this] { takeCaption(); });
-    step([] { paintNow(); });
-    step([this] { RenderListIcons(); });
-    step([this] { listDisplay->setUpdatesEnabled(true); });
-    step([] { showStatusReady(); });
+    // Painted once, with its pictures.
+    listDisplay->setUpdatesEnabled(false);
+    if (window)
+        window->setWindowMenuShown(true);
+    prepareToolbar();
+    modRender::renderContext({*picLogoContainer, *StatusBar, *this}, m_mode);
+    if (window)
+        window->setTargetDisplay(this);
+    listDisplay->showCounts();
+    listDisplay->setFocus();
+    takeCaption();
+    RenderListIcons();
+    listDisplay->setUpdatesEnabled(true);
+    paintNow();
+    showStatusReady();
 }
 
 void frmDisplay::takeCaption()
 {
-    setWindowTitle(LblInfo->text());
+    setWindowTitle(numberedCaption(LblInfo->text(), *this));
     listDisplay->setAccessibleName(LblInfo->text());
 }
 
@@ -185,21 +185,92 @@ void frmDisplay::prepareToolbar()
 
 void frmDisplay::RenderListIcons()
 {
-    const QPointer<frmDisplay> alive = this;
-    const Hourglass hourglass;
-    paintNow();
-    if (alive && listDisplay->columnCount() > firstVisibleColumn)
-        listDisplay->setColumnPicture(firstVisibleColumn, displayMode(m_action).rowPicture);
+    if (listDisplay->columnCount() > firstVisibleColumn)
+        listDisplay->setColumnPicture(firstVisibleColumn, lookOf(m_mode).rowPicture);
+}
+
+CommandContext frmDisplay::context()
+{
+    const int row = listDisplay->currentRow();
+    return {.mode = m_mode.value_or(Mode::Unknown),
+            .owner = window(),
+            .view = this,
+            .pane = listDisplay,
+            .row = row,
+            .id = listDisplay->idOf(row),
+            .name = row < 0 || !m_mode ? QString() : modRender::objectName(*m_mode, *listDisplay, row)};
+}
+
+bool frmDisplay::hasWhatItNeeds(Op op, const CommandContext &context)
+{
+    const auto refuse = [&](const QString &text) {
+        messageBox(context.owner, text, box::WarningIcon);
+        return false;
+    };
+    const Needs needs = needsOf(op);
+    if (needs == Needs::EditableRow && context.row >= 0 && context.id == 0)
+        return refuse(u"Please refresh this view by pressing F5 to edit the selected object"_s);
+    const bool needsRow = needs == Needs::EditableRow || needs == Needs::StoredRow;
+    if ((needsRow && context.id == 0) || (needs == Needs::Selection && listDisplay->selectedCount() == 0))
+        return refuse(u"Please select an Item from list"_s);
+    return true;
+}
+
+void frmDisplay::run(Op op)
+{
+    guarded(window(), [this, op] {
+        switch (op) {
+        case Op::Copy:
+            return listDisplay->Copy();
+        case Op::Sort:
+            return listDisplay->Sort();
+        case Op::ViewRefresh:
+            return ViewRefresh();
+        default:
+            break;
+        }
+        const CommandContext target = context();
+        if (!hasWhatItNeeds(op, target))
+            return;
+        const Handler none;
+        const Handler &handler = m_mode ? handlerOf(*m_mode, op) : none;
+        if (!handler)
+            messageBox(target.owner,
+                       op == Op::ViewGlobalGroups
+                           ? u"The opration you requested has not been implemented yet"_s
+                           : notYetImplemented(),
+                       box::Ok);
+        else if (op == Op::Delete)
+            Delete(target);
+        else
+            handler(target);
+    });
+}
+
+void frmDisplay::Delete(const CommandContext &context)
+{
+    const int answer = messageBox(
+        context.owner,
+        u"Warning! The selected Root Object(s) and all its Relationships will be deleted. This operation "
+        "cannot be undone\r\nAre you sure to delete the selected Root Object(s)?"_s,
+        box::YesNo | box::WarningIcon);
+    if (answer != box::ResultYes)
+        return;
+    {
+        const Hourglass hourglass;
+        showStatusWriting();
+        guarded(context.owner, [&] { handlerOf(context.mode, Op::Delete)(context); });
+        showStatusReady();
+    }
+    ViewRefresh();
 }
 
 void frmDisplay::ViewRefresh()
 {
-    const QPointer<frmDisplay> alive = this;
-    const DisplayFamily *family = familyOf(m_action);
-    if (family && family->listAll)
-        family->listAll(this);
-    if (!alive)
-        return;
+    if (m_mode) {
+        if (const Handler &listAll = handlerOf(*m_mode, Op::ListAll))
+            listAll({.mode = *m_mode, .owner = window(), .view = this});
+    }
     takeCaption();
     PrepareForm();
 }
@@ -224,7 +295,7 @@ void frmDisplay::unload()
     swapToolbars(MainWindowLink::Toolbar::Main, {MainWindowLink::Toolbar::Display});
     window->setWindowMenuShown(false);
     window->setTargetDisplay(nullptr);
-    attempt([] { showStatusReady(); });
+    showStatusReady();
 }
 
 bool frmDisplay::eventFilter(QObject *watched, QEvent *event)
@@ -235,8 +306,8 @@ bool frmDisplay::eventFilter(QObject *watched, QEvent *event)
     case Qt::Key_Escape:
         close();
         return true;
-    case Qt::Key_F5:
-        guarded(this, [this] { ViewRefresh(); });
+    case Qt::Key_F5: // where no menu has it
+        run(Op::ViewRefresh);
         return true;
     default:
         return QMdiSubWindow::eventFilter(watched, event);

@@ -1,21 +1,23 @@
 #pragma once
 
-#include "views/displaymodes.h"
+#include "views/modes.h"
+#include "views/viewmenus.h"
 
 #include <QMdiSubWindow>
 
 class Banner;
-class ListView;
+class ListPane;
 class QLabel;
 class StatusBar;
+struct CommandContext;
 
-/// The list window of every kind of object. The module of an object fills the list, sets
-/// the mode and the title; the window dresses itself from the mode whenever it is
-/// activated. What a mode can do is in the family registry.
+/// The list window of every kind of object. The module of an object fills the list, sets the mode and the
+/// title; the window dresses itself from the mode whenever it is activated. What can be done in a mode is in
+/// the table of handlers (views/families.h): the window knows no family.
 ///
-/// A new view is nobody's until showView() gives it to the main window; it dies when it
+/// A new view belongs to the caller until showView() gives it to the main window; it deletes itself when it
 /// is closed.
-class frmDisplay final : public QMdiSubWindow
+class frmDisplay final : public QMdiSubWindow, public CommandTarget
 {
     Q_OBJECT
 
@@ -24,42 +26,39 @@ public:
     ~frmDisplay() override;
 
     /// Stores the mode; nothing is shown of it before the next activation.
-    void SetAction(const QString &mode) { m_action = mode; }
-    [[nodiscard]] const QString &action() const { return m_action; }
+    void SetAction(Mode mode) { m_mode = mode; }
+    /// A text that is no mode leaves the view without one.
+    void SetAction(QStringView mode) { m_mode = modeOf(mode); }
+    [[nodiscard]] std::optional<Mode> mode() const override { return m_mode; }
     /// The group whose live members the view shows.
     void setGlobalGroupName(const QString &name) { m_globalGroupName = name; }
     [[nodiscard]] const QString &globalGroupName() const { return m_globalGroupName; }
     void setLocalGroupName(const QString &name) { m_localGroupName = name; }
     [[nodiscard]] const QString &localGroupName() const { return m_localGroupName; }
-    void setDoNotResizeIDColumn(bool set) { m_doNotResizeIDColumn = set; }
-    /// The column under the last press of a mouse button on the list; 0 is the id.
-    [[nodiscard]] int contextColumn() const { return m_contextColumn; }
-    void setContextColumn(int column) { m_contextColumn = column; }
 
-    /// Shows the view in the main window, which takes it over, and makes it the active one;
-    /// becoming active prepares it.
+    /// Shows the view in the main window, which takes it over, and makes it the active one; becoming active
+    /// prepares it.
     void showView();
 
     Banner *picLogoContainer;
     QLabel *picContext;
     QLabel *LblInfo;
     QLabel *picNT;
-    ListView *listDisplay;
+    ListPane *listDisplay;
     ::StatusBar *StatusBar;
 
+    /// Runs the operation on the list: copy, sort and refresh itself, all others by the handler of the mode.
+    /// Says why an operation cannot run.
+    void run(Op op) override;
+
 public Q_SLOTS:
-    /// Dresses the window from its mode. A step that fails is skipped. Yields.
+    /// Dresses the window from its mode. A step that fails is skipped.
     void PrepareForm();
-    /// Puts the mode's picture on the first visible cell of every row. Yields.
+    /// Puts the mode's picture on the first visible cell of every row.
     void RenderListIcons();
     void prepareToolbar();
     /// Runs the mode's list of all objects on this window, whatever narrower list it shows.
     void ViewRefresh();
-
-Q_SIGNALS:
-    /// A click on a heading.
-    void columnClicked(int column);
-    void contextMenuAsked(QPoint globalPosition);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -71,14 +70,16 @@ private:
     void connectList();
     void unload();
     void joinArea(QMdiArea &area);
+    void placeIn(const QMdiArea &area);
     void activated();
     void takeCaption();
+    [[nodiscard]] CommandContext context();
+    [[nodiscard]] bool hasWhatItNeeds(Op op, const CommandContext &context);
+    void Delete(const CommandContext &context);
 
-    QString m_action;
+    std::optional<Mode> m_mode;
     QString m_globalGroupName;
     QString m_localGroupName;
-    int m_contextColumn = 0;
-    bool m_doNotResizeIDColumn = false;
     bool m_showing = false;
     bool m_closing = false;
 };

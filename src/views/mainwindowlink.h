@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QList>
-
 #include <initializer_list>
 
+class CommandTarget;
 class QMdiArea;
 class QMenu;
 class QToolBar;
@@ -18,22 +17,24 @@ public:
 
     virtual ~MainWindowLink() = default;
 
+    /// The owner of the boxes and dialogs that views open.
+    [[nodiscard]] virtual QWidget &window() = 0;
     /// The parent of all views.
     [[nodiscard]] virtual QMdiArea &mdiArea() = 0;
     [[nodiscard]] virtual StatusBar &mainStatusBar() = 0;
     /// The buttons are actions named by their keys.
     [[nodiscard]] virtual QToolBar &toolbar(Toolbar which) = 0;
 
-    /// The view that the buttons of the display toolbars act on, by the names of its
-    /// operations; nothing when there is none. A view tells before it dies.
-    virtual void setTargetDisplay(QWidget *view) = 0;
-    [[nodiscard]] virtual QWidget *targetDisplay() const = 0;
+    /// What the menus of views and the buttons of the display toolbars act on: the menu bar shows the menus
+    /// of its mode in place of the main window's own. Nothing brings its own back. A target says so before it
+    /// dies.
+    virtual void setTargetDisplay(CommandTarget *target) = 0;
+    [[nodiscard]] virtual CommandTarget *targetDisplay() const = 0;
+    /// The menu that is also the context menu of lists.
+    [[nodiscard]] virtual QMenu *editMenu() const = 0;
 
     /// The entries of mnuWindow: tile, cascade, arrange and the list of open views.
     virtual void setWindowMenuShown(bool shown) = 0;
-    /// The menu bar shows these menus, followed by mnuWindow, in place of the main
-    /// window's own; no menus bring its own back. The menus stay their view's.
-    virtual void setViewMenus(const QList<QMenu *> &menus) = 0;
 };
 
 /// Nothing before the main window was made and after it has gone.

@@ -7,9 +7,6 @@
 #include "toolkit/imagelist.h"
 #include "toolkit/listview.h"
 #include "toolkit/statusbar.h"
-#include "toolkit/yield.h"
-#include "views/displaymodes.h"
-#include "views/frmDisplay.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -62,6 +59,16 @@ public:
 private:
     std::vector<const PictureTest *> m_tests;
 };
+
+bool hasHeadings(const ListView &list, const QStringList &headings)
+{
+    if (headings.isEmpty() || list.columnCount() != headings.size())
+        return false;
+    for (int column = 0; column < list.columnCount(); ++column)
+        if (list.heading(column) != headings[column])
+            return false;
+    return true;
+}
 
 void readTexts(jet::Recordset &recordset, int field, ListRows &rows)
 {
@@ -117,39 +124,64 @@ void modRender::renderList(ListView &list, jet::Recordset &recordset)
         for (int field = 0; field < fields.count(); ++field)
             headings += fields.item(field).name();
     });
-    list.setColumns(headings);
+    const bool sameColumns = hasHeadings(list, headings);
+    if (!sameColumns)
+        list.setColumns(headings);
+    ListRows rows(int(headings.size()));
     if (recordset.state() != 0 && !headings.isEmpty())
-        attempt([&] { list.setRows(readRows(recordset, headings)); });
+        attempt([&] { rows = readRows(recordset, headings); });
+    if (sameColumns) {
+        list.replaceRows(std::move(rows));
+        return;
+    }
+    list.setRows(std::move(rows));
     list.spreadColumns();
 }
 
-void modRender::renderContext(frmDisplay &view, QStringView mode)
+void modRender::renderContext(const Context &context, std::optional<Mode> mode)
 {
-    const DisplayMode &look = displayMode(mode);
-    view.picLogoContainer->setPicture(look.bannerPicture);
-    view.setWindowIcon(imageLists().ImageListContext.iconOnPlate(look.bannerPicture));
+    const ModeLook &look = lookOf(mode);
+    context.banner.setPicture(look.bannerPicture);
+    context.window.setWindowIcon(imageLists().ImageListContext.iconOnPlate(look.bannerPicture));
     if (look.family == ModeFamily::None)
         return;
 
     const bool live = look.family == ModeFamily::Live;
     const FamilyLook &family = live ? liveLook : databaseLook;
     ImageLists &images = imageLists();
-    view.StatusBar->setPanelPicture(2, images.ImageListDataContext, family.dataPicture);
-    view.StatusBar->setPanelPicture(1, images.ImageListToolbar, family.toolbarPicture);
-    view.StatusBar->setPanelText(1, family.text);
+    context.bar.setPanelPicture(2, images.ImageListDataContext, family.dataPicture);
+    context.bar.setPanelPicture(1, images.ImageListToolbar, family.toolbarPicture);
+    context.bar.setPanelText(1, family.text);
     if (live) {
-        QPalette palette = view.LblInfo->palette();
-        palette.setColor(view.LblInfo->foregroundRole(), liveTitleColor);
-        view.LblInfo->setPalette(palette);
-        view.picNT->show();
+        QLabel &title = *context.banner.LblInfo;
+        QPalette palette = title.palette();
+        palette.setColor(title.foregroundRole(), liveTitleColor);
+        title.setPalette(palette);
+        if (context.banner.picNT)
+            context.banner.picNT->show();
     }
 }
 
-void modRender::showRecordCount(frmDisplay &view, int count)
+void modRender::showRecordCount(StatusBar &bar, int count)
 {
-    view.StatusBar->setPanelText(2, QString::number(count) % " Record(s)"_L1);
-    view.StatusBar->repaint();
-    paintNow();
+    bar.setPanelText(2, QString::number(count) % " Record(s)"_L1);
+}
+
+QString modRender::objectName(Mode mode, const ListView &list, int row)
+{
+    QString name;
+    const QLatin1StringView pattern = lookOf(mode).objectName;
+    for (qsizetype at = 0; at < pattern.size(); ++at) {
+        if (pattern[at] != u'{') {
+            name += pattern[at];
+            continue;
+        }
+        const int column = QChar(pattern[++at]).digitValue();
+        ++at; // the brace that closes
+        if (column < list.columnCount())
+            name += list.subItem(row, column);
+    }
+    return name;
 }
 
 void modRender::showSelectedCount(const ListView &list, StatusBar &bar, int panel)

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "views/modes.h"
+
 #include <QString>
 
+class Banner;
 class ListView;
 class QComboBox;
+class QWidget;
 class StatusBar;
-class frmDisplay;
 
 namespace jet {
 class Recordset;
@@ -17,15 +20,26 @@ namespace modRender {
 /// Rebuilds columns and rows from all records of the recordset: the first field is the
 /// item text in a hidden column, the others share the list's width. A recordset that is
 /// not open gives its headings and no rows. A value that cannot be read leaves its cell empty.
+/// A list that has these columns already keeps their widths, and what is selected stays so.
 void renderList(ListView &list, jet::Recordset &recordset);
 
-/// Banner and status bar from the mode; a mode without a family leaves the bar as it is.
-void renderContext(frmDisplay &view, QStringView mode);
+/// What a window with a list shows of its mode.
+struct Context
+{
+    Banner &banner;
+    StatusBar &bar;
+    QWidget &window; ///< gets the mode's icon
+};
+/// Banner and status bar from the mode; without a mode the bar stays as it is.
+void renderContext(const Context &context, std::optional<Mode> mode);
 
-/// The number of records in panel 2. Yields.
-void showRecordCount(frmDisplay &view, int count);
+/// The number of records in panel 2.
+void showRecordCount(StatusBar &bar, int count);
 /// The number of selected rows in a panel.
 void showSelectedCount(const ListView &list, StatusBar &bar, int panel = 3);
+
+/// The name of a row's object as titles show it; empty in a mode whose rows have none.
+[[nodiscard]] QString objectName(Mode mode, const ListView &list, int row);
 
 /// One entry a record: field 1 is its text, field 0 its numeric data.
 void fillComboFromRecordset(jet::Recordset &recordset, QComboBox &combo);

@@ -1,6 +1,5 @@
 #include "views/openview.h"
 
-#include "base/error.h"
 #include "messages/guard.h"
 #include "messages/status.h"
 #include "platform/jet/recordset.h"
@@ -9,58 +8,30 @@
 #include "toolkit/pointer.h"
 #include "toolkit/statusbar.h"
 #include "views/frmDisplay.h"
+#include "views/listpane.h"
 #include "views/mainwindowlink.h"
 #include "views/modRender.h"
 
 #include <QLabel>
-#include <QMdiArea>
-#include <QPointer>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QWidget *ownerOfViews()
-{
-    MainWindowLink *window = mainWindow();
-    return window ? &window->mdiArea() : nullptr;
-}
-
-} // namespace
-
-void openListRecordset(ListRecordset &recordset)
-{
-    recordset.reset();
-    showHourglass(true);
-    showStatusReading();
-    // Only now: a command that ran inside the yield may have used the variable.
-    recordset = std::make_unique<jet::Recordset>();
-}
-
-void closeListRecordset(ListRecordset &recordset)
-{
-    recordset.reset();
-    showHourglass(false);
-    if (MainWindowLink *window = mainWindow())
-        window->mainStatusBar().setPanelText(1, u"Ready"_s);
-}
-
-frmDisplay *openView(frmDisplay *view, QStringView mode, const QString &title, ListRecordset &recordset,
-                     const ReadRows &read)
+frmDisplay *openView(QWidget *owner, frmDisplay *view, Mode mode, const QString &title, const ReadRows &read)
 {
     std::unique_ptr<frmDisplay> fresh(view ? nullptr : new frmDisplay);
-    QPointer<frmDisplay> target = view ? view : fresh.get();
+    frmDisplay *const target = view ? view : fresh.get();
     frmDisplay *shown = nullptr;
 
-    QWidget *owner = view ? view : ownerOfViews();
     guarded(owner, [&] {
-        openListRecordset(recordset);
-        if (!target)
-            return; // closed inside the yield
-        read(getConnectionString(), *recordset);
-        modRender::renderList(*target->listDisplay, *recordset);
-        target->SetAction(mode.toString());
-        if (recordset->recordCount() == 0) {
+        const Hourglass hourglass;
+        showStatusReading();
+        jet::Recordset recordset;
+        read(getConnectionString(), recordset);
+        modRender::renderList(*target->listDisplay, recordset);
+        target->SetAction(mode);
+        if (recordset.recordCount() == 0) {
             messageBox(owner, u"The requested query did not return data"_s, box::InformationIcon);
             return;
         }
@@ -69,6 +40,7 @@ frmDisplay *openView(frmDisplay *view, QStringView mode, const QString &title, L
         target->showView();
         shown = target;
     });
-    closeListRecordset(recordset);
+    if (MainWindowLink *window = mainWindow())
+        window->mainStatusBar().setPanelText(1, u"Ready"_s);
     return shown;
 }

@@ -2,10 +2,14 @@
 #include "messages/progresssteps.h"
 #include "platform/jet/recordset.h"
 #include "session/modRegistry.h"
+#include "shell/commands.h"
 #include "shelltest.h"
 #include "store/storesession.h"
 #include "toolkit/listview.h"
 #include "toolkit/pointer.h"
+#include "views/listpane.h"
+
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -44,8 +48,12 @@ protected:
     }
 };
 
-const QStringList ownMenus{u"mnuUsers"_s, u"mnuTools"_s, u"mnuHelp"_s};
-const QStringList menusWithView{u"mnuUsers"_s, u"mnuTools"_s, u"mnuWindow"_s, u"mnuHelp"_s};
+const QStringList ownMenus{u"mnuGlobalGroups"_s, u"mnuLocalGroups"_s, u"mnuUsers"_s,     u"mnuFolders"_s,
+                           u"mnuHardware"_s,     u"mnuSoftware"_s,    u"mnuRooms"_s,     u"mnuCustomQRY"_s,
+                           u"mnuSearch"_s,       u"mnuReport"_s,      u"mnuWindowsNT"_s, u"mnuTools"_s,
+                           u"mnuHelp"_s};
+const QStringList menusOfView{u"mnuEditParent"_s, u"mnuView"_s,   u"mnuViewWindowsNT"_s, u"mnuReport"_s,
+                              u"mnuTools"_s,      u"mnuWizard"_s, u"mnuWindow"_s};
 
 } // namespace
 
@@ -179,12 +187,12 @@ TEST_F(MainWindowTest, TheWindowMenuIsThereWithTheViews)
     trigger(u"mnuShowAllUsers"_s);
     trigger(u"mnuShowAllUsers"_s);
     settle();
-    EXPECT_EQ(menus(), menusWithView);
+    EXPECT_EQ(menus(), menusOfView);
 
     auto *list = find<QMenu>(u"mnuWindowList"_s);
     Q_EMIT list->aboutToShow();
     ASSERT_EQ(list->actions().size(), 2);
-    EXPECT_EQ(list->actions().at(1)->text(), u"All Users"_s);
+    EXPECT_EQ(list->actions().at(1)->text(), u"All Users (2)"_s);
     EXPECT_TRUE(list->actions().at(1)->isChecked());
     const frmDisplay *second = activeView();
     list->actions().at(0)->trigger();
@@ -192,24 +200,6 @@ TEST_F(MainWindowTest, TheWindowMenuIsThereWithTheViews)
     EXPECT_NE(activeView(), second);
 
     mainForm().mdiArea().closeAllSubWindows();
-    settle();
-    EXPECT_EQ(menus(), ownMenus);
-}
-
-TEST_F(MainWindowTest, AViewBringsItsOwnMenus)
-{
-    start();
-    trigger(u"mnuShowAllUsers"_s);
-    settle();
-    auto edit = std::make_unique<QMenu>(u"Edit"_s);
-    edit->menuAction()->setObjectName("mnuEditParent"_L1);
-    mainForm().setViewMenus({edit.get()});
-    EXPECT_EQ(menus(), (QStringList{u"mnuEditParent"_s, u"mnuWindow"_s}));
-    mainForm().setViewMenus({});
-    EXPECT_EQ(menus(), menusWithView);
-
-    mainForm().setViewMenus({edit.get()});
-    activeView()->close();
     settle();
     EXPECT_EQ(menus(), ownMenus);
 }
@@ -243,33 +233,79 @@ TEST_F(MainWindowTest, TilingFillsTheAreaAndLeavesMinimizedViewsOut)
     EXPECT_EQ(views[1]->x(), views[0]->geometry().right() + 1);
 }
 
-TEST_F(MainWindowTest, TheSidebarFollowsTheSettingOnceItHasFrames)
+TEST_F(MainWindowTest, TheSidebarFollowsTheSettingAndDoesWhatTheMenusDo)
 {
     frmMain &window = start();
-    EXPECT_TRUE(window.picControlContainer->isHidden()) << "nothing is in it";
-
-    window.picControlContainer->layout()->addWidget(new QPushButton(u"Servers"_s));
-    window.prepareMainWindow();
     EXPECT_TRUE(window.picControlContainer->isVisible());
+    for (const SidebarButton &button : sidebar()) {
+        const auto *made = find<QToolButton>(button.name, window.picControlContainer);
+        const auto *entry = find<QAction>(button.entry, &window);
+        ASSERT_TRUE(made && entry) << button.name.data();
+        EXPECT_EQ(made->isEnabled(), entry->isEnabled()) << button.name.data();
+    }
     modRegistry::saveShowSideBar(false);
     window.prepareMainWindow();
     EXPECT_TRUE(window.picControlContainer->isHidden());
 }
 
-TEST_F(MainWindowTest, AToolbarWithoutButtonsTakesNoRoom)
+TEST_F(MainWindowTest, WhatIsToComeIsGreyAndSaysSo)
 {
     start();
-    QToolBar &bar = *mainForm().ToolBarDisplay;
-    const auto height = [&bar] {
-        settle();
-        return bar.height();
-    };
+    const auto *entry = find<QAction>(u"mnuReportAllUsersList"_s);
+    EXPECT_FALSE(entry->isEnabled());
+    EXPECT_EQ(entry->toolTip(), u"Not yet implemented. Sorry for the Inconvenience"_s);
     trigger(u"mnuShowAllUsers"_s);
-    EXPECT_EQ(height(), 0);
-    QAction *button = bar.addAction(u"Rooms"_s);
-    EXPECT_GE(height(), bar.iconSize().height());
-    button->setVisible(false);
-    EXPECT_EQ(height(), 0);
+    settle();
+    const auto *wizard = find<QAction>(u"mnuWizardRoom"_s);
+    EXPECT_TRUE(wizard->isVisible());
+    EXPECT_FALSE(wizard->isEnabled());
+}
+
+TEST_F(MainWindowTest, KeysCloseTheViewAndOpenTheMenuBar)
+{
+    frmMain &window = start();
+    trigger(u"mnuShowAllUsers"_s);
+    settle();
+    QTest::keyClick(&window, Qt::Key_F10);
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    settle();
+    while (QWidget *popup = QApplication::activePopupWidget())
+        popup->close();
+    window.activateWindow();
+    settle();
+    QTest::keyClick(activeView()->listDisplay, Qt::Key_F4, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(activeView(), nullptr);
+    EXPECT_EQ(toolbars(), u"M"_s);
+}
+
+TEST_F(MainWindowTest, ClosingAViewRightAfterARefreshKeepsTheToolbar)
+{
+    start();
+    for (int i = 0; i < 12; ++i) {
+        find<QAction>(u"Users"_s, mainForm().ToolbarMain)->trigger();
+        QTest::keyClick(activeView()->listDisplay, Qt::Key_F5);
+        QTest::keyClick(activeView()->listDisplay, Qt::Key_Escape);
+    }
+    settle();
+    EXPECT_EQ(toolbars(), u"M"_s);
+    EXPECT_EQ(menus(), ownMenus);
+}
+
+TEST_F(MainWindowTest, ACascadeKeepsTheSizes)
+{
+    start();
+    for (int i = 0; i < 3; ++i)
+        trigger(u"mnuShowAllUsers"_s);
+    settle();
+    trigger(u"mnuWindowTileHorizontally"_s);
+    const QList<QMdiSubWindow *> views = mainForm().mdiArea().subWindowList();
+    views[0]->resize(500, 300);
+    trigger(u"mnuWindowCascade"_s);
+    EXPECT_EQ(views[0]->size(), QSize(500, 300));
+    EXPECT_EQ(views[0]->pos(), QPoint(0, 0));
+    EXPECT_EQ(views[2]->pos(), 2 * views[1]->pos());
 }
 
 TEST_F(MainWindowTest, TheAreaFollowsThePalette)

@@ -1,8 +1,9 @@
 #include "support/windowtest.h"
 #include "sync/modUsers.h"
 #include "toolkit/listview.h"
-#include "views/family.h"
+#include "views/families.h"
 #include "views/frmDisplay.h"
+#include "views/listpane.h"
 
 #include <QLabel>
 
@@ -59,64 +60,44 @@ protected:
 
 } // namespace
 
-TEST_F(UserListsTest, EachListOpensItsView)
+TEST_F(UserListsTest, EachDrillDownOpensItsView)
 {
-    const QString name = u"SRV01\\anna"_s;
+    registerHandlers(modUsers::handlers());
+    runWithoutList(nullptr, Mode::Users, Op::ListAll);
+    ASSERT_EQ(views().size(), 1);
+    frmDisplay *users = views().first();
+    ASSERT_EQ(users->listDisplay->rowCount(), 2);
+    EXPECT_EQ(users->LblInfo->text(), u"All Users"_s);
+    const int anna = users->listDisplay->itemText(0) == u"1"_s ? 0 : 1;
     const struct
     {
-        std::function<void()> list;
+        Op op;
         QString title;
-        QString mode;
-        QString firstCells; ///< of the first row
-        int rows;
+        Mode mode;
+        QString firstCells; ///< of the one row
     } cases[] = {
-        {[] { modUsers::listAllUsers(nullptr); }, u"All Users"_s, u"DisplayUsers"_s, u"2|"_s, 2},
-        {[] { modUsers::findUsers(nullptr, u"AN"_s, u"ärm"_s); }, u"User(s) - search criteria = AN ärm"_s,
-         u"DisplayUsers"_s, u"1|Ärmel"_s, 1},
-        {[&] { modUsers::listUserFolders(nullptr, 1, name); }, u"Permission(s) for User SRV01\\anna"_s,
-         u"DisplayFolders"_s, u"1|D:\\Data\\"_s, 1},
-        {[&] { modUsers::listUserSW(nullptr, 1, name); }, u"Software for User SRV01\\anna"_s, u"DisplaySW"_s,
-         u"1|Office"_s, 1},
-        {[&] { modUsers::listUserRooms(nullptr, 1, name); }, u"Room(s) for User SRV01\\anna"_s,
-         u"DisplayRooms"_s, u"1|101"_s, 1},
-        {[&] { modUsers::listUserGlobalGroups(nullptr, 1, name); }, u"Global Group(s) for User SRV01\\anna"_s,
-         u"DisplayGlobalGroups"_s, u"1|Staff"_s, 1},
-        {[&] { modUsers::listUserLocalGroups(nullptr, 1, name); }, u"Local Group(s) for User SRV01\\anna"_s,
-         u"DisplayLocalGroups"_s, u"1|SRV01\\Printers"_s, 1},
-        {[&] { modUsers::listUserHW(nullptr, 1, name); }, u"Hardware for User SRV01\\anna"_s, u"DisplayHW"_s,
-         u"1|PC Maker M 7"_s, 1},
-        {[] { modUsers::listUsersByHW(nullptr, 1, u"PC Maker"_s); }, u"Users that have Hardware PC Maker"_s,
-         u"DisplayUsers"_s, u"1|Ärmel"_s, 1},
+        {Op::ViewFolders, u"Permission(s) for User SRV01\\anna"_s, Mode::Folders, u"1|D:\\Data\\"_s},
+        {Op::ViewSW, u"Software for User SRV01\\anna"_s, Mode::SW, u"1|Office"_s},
+        {Op::ViewRooms, u"Room(s) for User SRV01\\anna"_s, Mode::Rooms, u"1|101"_s},
+        {Op::ViewGlobalGroups, u"Global Group(s) for User SRV01\\anna"_s, Mode::GlobalGroups, u"1|Staff"_s},
+        {Op::ViewLocalGroups, u"Local Group(s) for User SRV01\\anna"_s, Mode::LocalGroups,
+         u"1|SRV01\\Printers"_s},
+        {Op::ViewHardware, u"Hardware for User SRV01\\anna"_s, Mode::HW, u"1|PC Maker M 7"_s},
     };
     for (const auto &c : cases) {
-        c.list();
-        ASSERT_EQ(views().size(), 1) << c.title.toStdString();
-        frmDisplay *view = views().first();
+        users->listDisplay->chooseRow(anna);
+        users->run(c.op);
+        ASSERT_EQ(views().size(), 2) << c.title.toStdString();
+        frmDisplay *view = views().first() == users ? views().last() : views().first();
         EXPECT_TRUE(view->isVisible());
         EXPECT_EQ(view->LblInfo->text(), c.title);
-        EXPECT_EQ(view->action(), c.mode) << c.title.toStdString();
-        ASSERT_EQ(view->listDisplay->rowCount(), c.rows) << c.title.toStdString();
+        EXPECT_EQ(view->mode(), c.mode) << c.title.toStdString();
+        ASSERT_EQ(view->listDisplay->rowCount(), 1) << c.title.toStdString();
         EXPECT_EQ(view->listDisplay->itemText(0) + u'|' + view->listDisplay->subItem(0, 1), c.firstCells);
         delete view;
     }
-}
-
-TEST_F(UserListsTest, NothingToShowIsTold)
-{
     expectBox(u"The requested query did not return data"_s, box::InformationIcon);
-    modUsers::listUserRooms(nullptr, 2, u"SRV02\\bert"_s);
-    EXPECT_TRUE(views().isEmpty());
-}
-
-TEST_F(UserListsTest, TheRegisteredFamilyRefreshesAGivenView)
-{
-    modUsers::registerFamily();
-    const DisplayFamily *family = familyOf(u"DisplayUsers");
-    ASSERT_TRUE(family && family->listAll);
-    modUsers::listUserGlobalGroups(nullptr, 1, u"SRV01\\anna"_s);
-    ASSERT_EQ(views().size(), 1);
-    family->listAll(views().first());
-    ASSERT_EQ(views().size(), 1) << "The view is filled anew, no other is opened.";
-    EXPECT_EQ(views().first()->LblInfo->text(), u"All Users"_s);
-    EXPECT_EQ(views().first()->listDisplay->rowCount(), 2);
+    users->listDisplay->chooseRow(1 - anna);
+    users->run(Op::ViewRooms);
+    EXPECT_EQ(views().size(), 1) << "Nothing to show is no view.";
 }

@@ -78,8 +78,8 @@ TEST_F(ListModelTest, PicturesGoWithTheirRowsAndAreShownByNumber)
     model.setPicture(2, 1, 11);
     model.setPicture(0, 1, 4);
     model.removeRow(0);
-    EXPECT_EQ(model.rows().picture(0, 1), 0);
-    EXPECT_EQ(model.rows().picture(1, 1), 11);
+    EXPECT_EQ(model.picture(0, 1), 0);
+    EXPECT_EQ(model.picture(1, 1), 11);
     EXPECT_FALSE(model.index(0, 1).data(Qt::DecorationRole).isValid());
     EXPECT_EQ(model.index(1, 1).data(Qt::DecorationRole).value<QIcon>().cacheKey(),
               imageLists().ImageListList.icon(11).cacheKey());
@@ -87,9 +87,9 @@ TEST_F(ListModelTest, PicturesGoWithTheirRowsAndAreShownByNumber)
     QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
     model.setColumnPicture(1, 3);
     EXPECT_EQ(changes.count(), 1);
-    EXPECT_EQ(model.rows().picture(0, 1), 3);
-    EXPECT_EQ(model.rows().picture(1, 1), 3);
-    EXPECT_EQ(model.rows().picture(0, 2), 0);
+    EXPECT_EQ(model.picture(0, 1), 3);
+    EXPECT_EQ(model.picture(1, 1), 3);
+    EXPECT_EQ(model.picture(0, 2), 0);
 }
 
 TEST_F(ListModelTest, AnAppendedRowHasNoPictureAfterAWholeColumnGotOne)
@@ -97,16 +97,26 @@ TEST_F(ListModelTest, AnAppendedRowHasNoPictureAfterAWholeColumnGotOne)
     model.setRows(threeRows());
     model.setColumnPicture(1, 3);
     const int row = model.appendRow(u"0"_s, {u"new"_s});
-    EXPECT_EQ(model.rows().picture(row, 1), 0);
+    EXPECT_EQ(model.picture(row, 1), 0);
 }
 
-TEST_F(ListModelTest, TagsAreKeptAndNeverShown)
+TEST_F(ListModelTest, KeysFindTheirRowsAfterSortingRemovingAndAdding)
 {
     model.setRows(threeRows());
-    model.setTag(2, u"mine"_s);
-    model.removeRow(0);
-    EXPECT_EQ(model.rows().tag(1), u"mine"_s);
-    EXPECT_EQ(model.rows().tag(0), u""_s);
+    const int alpha = model.key(1);
+    const int atna = model.key(2);
+    model.reorder(std::vector<int>{2, 0, 1});
+    EXPECT_EQ(column(model, 0), (QStringList{u"9"_s, u"7"_s, u"8"_s}));
+    EXPECT_EQ(model.rowOfKey(alpha), 2);
+    model.removeRow(1);
+    model.appendRow(u"0"_s, {u"new"_s});
+    EXPECT_EQ(model.rowOfKey(alpha), 1);
+    EXPECT_EQ(model.rowOfKey(atna), 0);
+    EXPECT_EQ(column(model, 1), (QStringList{u"ätna €"_s, u"Alpha"_s, u"new"_s}));
+    model.setText(1, 1, u"changed"_s);
+    model.takeRows(std::vector<int>{1});
+    EXPECT_EQ(column(model, 1), QStringList{u"changed"_s});
+    EXPECT_EQ(model.rowOfKey(atna), -1);
 }
 
 TEST_F(ListModelTest, HeadingsChange)
@@ -121,54 +131,3 @@ TEST_F(ListModelTest, HeadingsChange)
     model.appendRow(u"1"_s, {u"a"_s, u"b"_s, u"c"_s});
     EXPECT_EQ(model.index(0, 3).data().toString(), u"c"_s);
 }
-
-namespace {
-
-struct SortCase
-{
-    const char *name;
-    QStringList before;
-    Qt::SortOrder order;
-    QStringList after;
-};
-
-class ListRowsSortTest : public testing::TestWithParam<SortCase>
-{
-};
-
-const SortCase sortCases[] = {
-    {"CaseDoesNotCount",
-     {u"b"_s, u"A"_s, u"a"_s, u"B"_s},
-     Qt::AscendingOrder,
-     {u"A"_s, u"a"_s, u"b"_s, u"B"_s}},
-    {"EqualStayInOrderDescendingToo",
-     {u"b"_s, u"A"_s, u"a"_s, u"B"_s},
-     Qt::DescendingOrder,
-     {u"b"_s, u"B"_s, u"A"_s, u"a"_s}},
-    {"EmptyIsFirst", {u"x"_s, u""_s, u"1"_s}, Qt::AscendingOrder, {u""_s, u"1"_s, u"x"_s}},
-    {"NumbersSortAsText", {u"9"_s, u"10"_s, u"100"_s}, Qt::AscendingOrder, {u"10"_s, u"100"_s, u"9"_s}},
-    {"AccentsFoldTheirCase", {u"ÉB"_s, u"éa"_s}, Qt::AscendingOrder, {u"éa"_s, u"ÉB"_s}},
-};
-
-} // namespace
-
-TEST_P(ListRowsSortTest, SortsAsText)
-{
-    ListRows rows(2);
-    for (const QString &text : GetParam().before) {
-        const int row = rows.addRow();
-        rows.setText(row, 1, text);
-        rows.setPicture(row, 1, row + 1);
-    }
-    const std::vector<int> order = rows.sortedOrder(1, GetParam().order);
-    rows.take(order);
-    QStringList after;
-    for (int row = 0; row < rows.rowCount(); ++row) {
-        after += rows.text(row, 1);
-        EXPECT_EQ(rows.picture(row, 1), order[std::size_t(row)] + 1);
-    }
-    EXPECT_EQ(after, GetParam().after);
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, ListRowsSortTest, testing::ValuesIn(sortCases),
-                         [](const auto &info) { return std::string(info.param.name); });

@@ -35,11 +35,13 @@ TEST(TourTest, EveryVariantLeavesTheSamePictures)
     ASSERT_EQ(result.status, 0) << qPrintable(result.errors);
     EXPECT_FALSE(result.errors.contains("Cannot open file"_L1)) << qPrintable(result.errors);
 
-    const QStringList names{u"start"_s,       u"warning-domain"_s, u"warning-controller"_s,
-                            u"main"_s,        u"menu-users"_s,     u"users"_s,
-                            u"users-tiled"_s, u"import"_s,         u"about"_s,
-                            u"progress"_s,    u"result"_s};
-    EXPECT_EQ(out.entryList(QDir::Files).size(), names.size() * 3);
+    QStringList names = out.entryList(QDir::Files);
+    const qsizetype pictures = names.size();
+    names.removeIf(
+        [](const QString &name) { return name.contains("-dark."_L1) || name.contains("-200."_L1); });
+    EXPECT_EQ(pictures, names.size() * 3);
+    EXPECT_GE(names.size(), 11);
+    names.replaceInStrings(u".png"_s, QString());
     for (const QString &name : names) {
         SCOPED_TRACE(qPrintable(name));
         const QImage light(out.filePath(name + u".png"_s));

@@ -3,8 +3,10 @@
 #include "session/modRegistry.h"
 #include "toolkit/banner.h"
 #include "toolkit/listview.h"
-#include "views/family.h"
+#include "views/families.h"
 #include "views/openview.h"
+
+#include <QHeaderView>
 
 #include <QLabel>
 #include <QPointer>
@@ -79,23 +81,22 @@ TEST_F(FrmDisplayTest, FocusInTheListBringsTheToolbarBack)
     EXPECT_EQ(window->shownToolbars(), QStringList{u"ToolBarDisplay"_s});
 }
 
-TEST_F(FrmDisplayTest, F5WidensANarrowedViewToAllObjects)
+TEST_F(FrmDisplayTest, F5WidensANarrowedViewToAllObjectsAndKeepsWhatIsChosen)
 {
     int calls = 0;
-    registerFamily(
-        u"DisplayUsers",
-        {.listAll =
-             [&](frmDisplay *view) {
-                 ++calls;
-                 open(u"DisplayUsers", u"All Users"_s, {u"UserID"_s, u"LastName"_s},
-                      {{Value(1), Value(u"A"_s)}, {Value(2), Value(u"B"_s)}, {Value(3), Value(u"C"_s)}},
-                      view);
-             },
-         .operations = {}});
+    const OpRow listAll[] = {
+        {Mode::Users, Op::ListAll, [&](const CommandContext &context) {
+             ++calls;
+             open(Mode::Users, u"All Users"_s,
+                  {u"UserID"_s, u"LastName"_s, u"FirstName"_s, u"UserName"_s, u"ServerName"_s},
+                  {{Value(9), Value(u"Abel"_s)}, {Value(11), Value(u"Ames"_s)}, {Value(12)}}, context.view);
+         }}};
+    registerHandlers(listAll);
     frmDisplay *view = openUsers(u"User(s) of Global Group SRV\\Admins"_s);
     frmDisplay *other = openUsers(u"Other"_s);
     window->mdiArea().setActiveSubWindow(view);
-    view->listDisplay->selectAll();
+    view->listDisplay->chooseRow(0);
+    view->listDisplay->header()->resizeSection(2, 55);
     QTest::keyClick(view->listDisplay, Qt::Key_F5);
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(viewCount(), 2);
@@ -103,21 +104,92 @@ TEST_F(FrmDisplayTest, F5WidensANarrowedViewToAllObjects)
     EXPECT_EQ(view->LblInfo->text(), u"All Users"_s);
     EXPECT_EQ(view->windowTitle(), u"All Users"_s);
     EXPECT_EQ(view->StatusBar->panelText(2), u"3 Record(s)"_s);
-    EXPECT_EQ(view->StatusBar->panelText(3), u"0 Object(s) Selected"_s);
+    EXPECT_EQ(view->listDisplay->selectedRows(), std::vector<int>{1}) << "Ames, wherever he is now.";
+    EXPECT_EQ(view->listDisplay->columnWidth(2), 55);
     EXPECT_EQ(view->listDisplay->picture(2, 1), 3);
     EXPECT_EQ(other->listDisplay->rowCount(), 2) << "Views do not watch one another.";
-    registerFamily(u"DisplayUsers", {});
+
+    view->SetAction(Mode::NTUsers);
+    QTest::keyClick(view->listDisplay, Qt::Key_F5);
+    EXPECT_EQ(calls, 1) << "A mode without a list of all reads nothing.";
+    EXPECT_EQ(view->StatusBar->panelText(1), u"You are Viewing Live System Objects"_s)
+        << "It is prepared anew all the same.";
+    const OpRow none[] = {{Mode::Users, Op::ListAll, {}}};
+    registerHandlers(none);
 }
 
-TEST_F(FrmDisplayTest, F5InAModeWithoutAListOfAllReadsNothing)
+TEST_F(FrmDisplayTest, WhatAnOperationLacksIsSaidBeforeItRuns)
 {
+    int ran = 0;
+    const auto count = [&ran](const CommandContext &) { ++ran; };
+    const OpRow rows[] = {{Mode::Users, Op::Edit, count},
+                          {Mode::Users, Op::Properties, count},
+                          {Mode::Users, Op::Delete, count}};
+    registerHandlers(rows);
     frmDisplay *view = openUsers();
-    view->SetAction(u"NTDisplayUsers"_s);
-    view->listDisplay->removeRow(0);
-    QTest::keyClick(view->listDisplay, Qt::Key_F5);
-    EXPECT_EQ(view->listDisplay->rowCount(), 1);
-    EXPECT_EQ(view->StatusBar->panelText(2), u"1 Record(s)"_s) << "It is prepared anew all the same.";
-    EXPECT_EQ(view->StatusBar->panelText(1), u"You are Viewing Live System Objects"_s);
+    const QString select = u"Please select an Item from list"_s;
+    const QString notYet = u"Not yet implemented. Sorry for the Inconvenience"_s;
+    const auto refused = [&](Op op, const QString &text, int flags) {
+        expectBox(text, flags);
+        view->run(op);
+        verify();
+        EXPECT_EQ(ran, 0);
+    };
+    refused(Op::Properties, select, box::WarningIcon);
+    refused(Op::Edit, select, box::WarningIcon);
+    refused(Op::Delete, select, box::WarningIcon);
+    refused(Op::WizardUsers, notYet, box::Ok);
+
+    view->listDisplay->chooseRow(view->listDisplay->addRow(u"0"_s, {u"New"_s}));
+    refused(Op::Edit, u"Please refresh this view by pressing F5 to edit the selected object"_s,
+            box::WarningIcon);
+    refused(Op::ViewRooms, select, box::WarningIcon);
+
+    view->listDisplay->chooseRow(0);
+    refused(Op::ViewUsers, notYet, box::Ok);
+    refused(Op::ViewGlobalGroups, u"The opration you requested has not been implemented yet"_s, box::Ok);
+    const QString question =
+        u"Warning! The selected Root Object(s) and all its Relationships will be deleted. This operation "
+        "cannot be undone\r\nAre you sure to delete the selected Root Object(s)?"_s;
+    expectBox(question, box::YesNo | box::WarningIcon, box::ResultNo);
+    view->run(Op::Delete);
+    EXPECT_EQ(ran, 0);
+    QTest::keyClick(view->listDisplay, Qt::Key_Return);
+    EXPECT_EQ(ran, 1) << "Enter shows the properties.";
+    for (const OpRow &row : rows) {
+        const OpRow none[] = {{row.mode, row.op, {}}};
+        registerHandlers(none);
+    }
+}
+
+TEST_F(FrmDisplayTest, AHandlerGetsTheRowAndTheNameOfItsObject)
+{
+    CommandContext got;
+    const OpRow rows[] = {
+        {Mode::Users, Op::ViewRooms, [&](const CommandContext &context) { got = context; }}};
+    registerHandlers(rows);
+    frmDisplay *view = openUsers();
+    view->listDisplay->chooseRow(1);
+    view->run(Op::ViewRooms);
+    EXPECT_EQ(got.id, 12);
+    EXPECT_EQ(got.name, u"SRV2\\burr"_s);
+    EXPECT_EQ(got.view, view);
+    EXPECT_EQ(got.owner, window.get());
+    const OpRow none[] = {{Mode::Users, Op::ViewRooms, {}}};
+    registerHandlers(none);
+}
+
+TEST_F(FrmDisplayTest, ViewsOfOneTitleAreNumberedAndCascade)
+{
+    const frmDisplay *first = openUsers();
+    const frmDisplay *second = openUsers();
+    const frmDisplay *third = openUsers();
+    EXPECT_EQ(first->windowTitle(), u"All Users"_s);
+    EXPECT_EQ(second->windowTitle(), u"All Users (2)"_s);
+    EXPECT_EQ(third->windowTitle(), u"All Users (3)"_s);
+    EXPECT_EQ(second->LblInfo->text(), u"All Users"_s);
+    EXPECT_EQ(second->pos() - first->pos(), third->pos() - second->pos());
+    EXPECT_GT(second->y(), 0);
 }
 
 TEST_F(FrmDisplayTest, SelectedObjectsAreCounted)
@@ -129,17 +201,6 @@ TEST_F(FrmDisplayTest, SelectedObjectsAreCounted)
     EXPECT_EQ(view->StatusBar->panelText(3), u"2 Object(s) Selected"_s);
     clickRow(*view, 0, 1, Qt::ControlModifier);
     EXPECT_EQ(view->StatusBar->panelText(3), u"1 Object(s) Selected"_s);
-}
-
-TEST_F(FrmDisplayTest, TheColumnOfTheLastPressIsKept)
-{
-    frmDisplay *view = openUsers();
-    EXPECT_EQ(view->contextColumn(), 0);
-    clickRow(*view, 1, 3);
-    EXPECT_EQ(view->contextColumn(), 3);
-    QTest::mouseClick(view->listDisplay->viewport(), Qt::LeftButton, {},
-                      QPoint(5, view->listDisplay->viewport()->height() - 3));
-    EXPECT_EQ(view->contextColumn(), 0);
 }
 
 TEST_F(FrmDisplayTest, GeometryOfTheFirstAndTheNextViews)
@@ -195,7 +256,7 @@ TEST_F(FrmDisplayTest, FortyThousandRowsAreListedAndAllSelected)
     for (int i = 0; i < 40'000; ++i)
         records.push_back({Value(i + 1), Value(u"Room %1"_s.arg(i)), Value(u"Floor"_s)});
     frmDisplay *view =
-        open(u"DisplayRooms", u"All Rooms"_s, {u"ID"_s, u"RoomNumber"_s, u"Description"_s}, records);
+        open(Mode::Rooms, u"All Rooms"_s, {u"ID"_s, u"RoomNumber"_s, u"Description"_s}, records);
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(view->StatusBar->panelText(2), u"40000 Record(s)"_s);
     EXPECT_EQ(view->listDisplay->picture(39'999, 1), 6);

@@ -142,23 +142,23 @@ TEST_F(RenderTest, ContextOfTheModes)
 {
     struct Case
     {
-        QStringView mode;
+        std::optional<Mode> mode;
         int banner;
         QString text;
         int panel1, panel2;
         bool live;
     };
     const Case cases[] = {
-        {u"DisplayHW", 5, u"You are Viewing Database Objects"_s, 15, 2, false},
-        {u"DisplayUnknown", 10, u"You are Viewing Database Objects"_s, 15, 2, false},
-        {u"NTDisplayServers", 11, u"You are Viewing Live System Objects"_s, 16, 1, true},
-        {u"NoMode", 10, u"as it was"_s, 0, 0, false},
+        {Mode::HW, 5, u"You are Viewing Database Objects"_s, 15, 2, false},
+        {Mode::Unknown, 10, u"You are Viewing Database Objects"_s, 15, 2, false},
+        {Mode::NTServers, 11, u"You are Viewing Live System Objects"_s, 16, 1, true},
+        {std::nullopt, 10, u"as it was"_s, 0, 0, false},
     };
     for (const Case &c : cases) {
-        SCOPED_TRACE(c.mode.toString().toStdString());
+        SCOPED_TRACE(c.banner);
         frmDisplay view;
         view.StatusBar->setPanelText(1, u"as it was"_s);
-        modRender::renderContext(view, c.mode);
+        modRender::renderContext({*view.picLogoContainer, *view.StatusBar, view}, c.mode);
         EXPECT_EQ(view.picLogoContainer->picture(), c.banner);
         EXPECT_EQ(view.StatusBar->panelText(1), c.text);
         EXPECT_EQ(view.StatusBar->panelPicture(1), c.panel1);

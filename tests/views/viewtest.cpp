@@ -3,6 +3,8 @@
 #include "messages/status.h"
 #include "views/openview.h"
 
+#include <QMenuBar>
+
 using namespace Qt::StringLiterals;
 
 TestMainWindow::TestMainWindow() : m_area(new QMdiArea), m_status(new ::StatusBar(3))
@@ -15,6 +17,9 @@ TestMainWindow::TestMainWindow() : m_area(new QMdiArea), m_status(new ::StatusBa
         m_toolbars[i]->setObjectName(names[i]);
         m_toolbars[i]->setVisible(i == 0);
     }
+    m_menus = new ViewMenus(this, *m_toolbars[1]);
+    for (QMenu *menu : m_menus->menus())
+        menuBar()->addMenu(menu);
     resize(1000, 700);
     setMainWindow(this);
     setStatusTarget(m_status, this);
@@ -64,16 +69,16 @@ void fill(jet::Recordset &recordset, const QStringList &fields, const std::vecto
     }
 }
 
-frmDisplay *ViewTest::open(QStringView mode, const QString &title, const QStringList &fields,
+frmDisplay *ViewTest::open(Mode mode, const QString &title, const QStringList &fields,
                            const std::vector<Record> &records, frmDisplay *view)
 {
-    return openView(view, mode, title, held,
+    return openView(window.get(), view, mode, title,
                     [&](const QString &, jet::Recordset &recordset) { fill(recordset, fields, records); });
 }
 
 frmDisplay *ViewTest::openUsers(const QString &title)
 {
-    return open(u"DisplayUsers", title,
+    return open(Mode::Users, title,
                 {u"UserID"_s, u"LastName"_s, u"FirstName"_s, u"UserName"_s, u"ServerName"_s},
                 {{Value(11), Value(u"Ames"_s), Value(u"Ann"_s), Value(u"ames"_s), Value(u"SRV1"_s)},
                  {Value(12), Value(u"Burr"_s), Value(), Value(u"burr"_s), Value(u"SRV2"_s)}});

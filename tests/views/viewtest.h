@@ -4,7 +4,9 @@
 #include "support/windowtest.h"
 #include "toolkit/statusbar.h"
 #include "views/frmDisplay.h"
+#include "views/listpane.h"
 #include "views/mainwindowlink.h"
+#include "views/viewmenus.h"
 
 #include <QMainWindow>
 #include <QMdiArea>
@@ -19,13 +21,14 @@ public:
     TestMainWindow();
     ~TestMainWindow() override;
 
+    QWidget &window() override { return *this; }
     QMdiArea &mdiArea() override { return *m_area; }
     ::StatusBar &mainStatusBar() override { return *m_status; }
     QToolBar &toolbar(Toolbar which) override { return *m_toolbars[std::size_t(which)]; }
-    void setTargetDisplay(QWidget *view) override { m_target = view; }
-    [[nodiscard]] QWidget *targetDisplay() const override { return m_target; }
+    void setTargetDisplay(CommandTarget *target) override { m_menus->dress(target); }
+    [[nodiscard]] CommandTarget *targetDisplay() const override { return m_menus->target(); }
+    [[nodiscard]] QMenu *editMenu() const override { return m_menus->editMenu(); }
     void setWindowMenuShown(bool shown) override { m_windowMenuShown = shown; }
-    void setViewMenus(const QList<QMenu *> &) override {}
 
     [[nodiscard]] bool windowMenuShown() const { return m_windowMenuShown; }
     /// The one toolbar that shows.
@@ -35,7 +38,7 @@ private:
     QMdiArea *m_area;
     ::StatusBar *m_status;
     std::array<QToolBar *, 3> m_toolbars;
-    QWidget *m_target = nullptr;
+    ViewMenus *m_menus;
     bool m_windowMenuShown = false;
 };
 
@@ -52,12 +55,11 @@ protected:
     void TearDown() override;
 
     /// Opens a view of these records.
-    frmDisplay *open(QStringView mode, const QString &title, const QStringList &fields,
+    frmDisplay *open(Mode mode, const QString &title, const QStringList &fields,
                      const std::vector<Record> &records, frmDisplay *view = nullptr);
     /// A view of two users.
     frmDisplay *openUsers(const QString &title = QStringLiteral("All Users"));
     [[nodiscard]] int viewCount() const { return int(window->mdiArea().subWindowList().size()); }
 
     std::unique_ptr<TestMainWindow> window;
-    std::unique_ptr<jet::Recordset> held;
 };

@@ -10,9 +10,10 @@
 #include "shell/application.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
-#include "toolkit/listview.h"
 #include "toolkit/yield.h"
 #include "views/frmDisplay.h"
+#include "views/frmProperties.h"
+#include "views/listpane.h"
 
 #include <QAction>
 #include <QApplication>
@@ -89,31 +90,66 @@ void walkMainWindow(Gallery &gallery)
     window.activateWindow();
     paintNow();
     gallery.add(window, u"main"_s);
+}
 
-    auto *users = window.findChild<QMenu *>(u"mnuUsers"_s);
-    if (!users)
-        missing(u"mnuUsers"_s);
-    users->popup(window.mapToGlobal(QPoint(0, 0)));
+frmDisplay &activeView()
+{
+    auto *view = qobject_cast<frmDisplay *>(mainForm().mdiArea().currentSubWindow());
+    if (!view)
+        missing(u"frmDisplay"_s);
+    return *view;
+}
+
+void addMenu(Gallery &gallery, const QString &entry, const QString &name)
+{
+    auto *menu = mainForm().findChild<QMenu *>(entry);
+    if (!menu)
+        missing(entry);
+    menu->popup(mainForm().mapToGlobal(QPoint(0, 0)));
     paintNow();
-    gallery.add(*users, u"menu-users"_s);
-    users->close();
+    gallery.add(*menu, name);
+    menu->close();
 }
 
 void walkViews(Gallery &gallery)
 {
     trigger(u"mnuShowAllUsers"_s);
-    auto *view = qobject_cast<frmDisplay *>(mainForm().mdiArea().currentSubWindow());
-    if (!view)
-        missing(u"frmDisplay"_s);
-    view->listDisplay->setRowSelected(1);
-    view->listDisplay->setRowSelected(2);
+    activeView().listDisplay->setRowSelected(1);
+    activeView().listDisplay->setRowSelected(2);
     paintNow();
     gallery.add(mainForm(), u"users"_s);
+    addMenu(gallery, u"mnuEditParent"_s, u"menu-edit"_s);
+    addMenu(gallery, u"mnuWizard"_s, u"menu-relationships"_s);
 
     trigger(u"mnuShowAllUsers"_s);
     mainForm().Arrange(1);
     paintNow();
     gallery.add(mainForm(), u"users-tiled"_s);
+    mainForm().mdiArea().closeAllSubWindows();
+    paintNow();
+}
+
+void walkRooms(Gallery &gallery)
+{
+    trigger(u"mnuShowAllRooms"_s);
+    frmDisplay &rooms = activeView();
+    rooms.listDisplay->setContextColumn(1);
+    rooms.run(Op::Sort);
+    rooms.listDisplay->chooseRow(2);
+    paintNow();
+    gallery.add(mainForm(), u"rooms"_s);
+    walkModal(gallery, {u"room-new"_s}, [&] { rooms.run(Op::AddNew); });
+    walkModal(gallery, {u"room-edit"_s}, [&] { rooms.run(Op::Edit); });
+    walkModal(gallery, {u"find"_s}, [&] { rooms.listDisplay->find(2); });
+    rooms.run(Op::Properties);
+    paintNow();
+    auto &properties = topLevel<frmProperties>();
+    gallery.add(properties, u"room-properties"_s);
+    properties.close();
+    rooms.run(Op::ViewUsers);
+    mainForm().Arrange(0);
+    paintNow();
+    gallery.add(mainForm(), u"rooms-users"_s);
     mainForm().mdiArea().closeAllSubWindows();
     paintNow();
 }
@@ -146,6 +182,7 @@ void walkWindows(Gallery &gallery)
     walkModal(gallery, {u"start"_s, u"warning-domain"_s, u"warning-controller"_s}, [] { Main(); });
     walkMainWindow(gallery);
     walkViews(gallery);
+    walkRooms(gallery);
     walkModal(gallery, {u"import"_s}, [] { trigger(u"mnuImport"_s); });
     walkModal(gallery, {u"about"_s}, [] { trigger(u"mnuAbout"_s); });
     walkMessages(gallery);

@@ -1,0 +1,136 @@
+#include "toolkit/form.h"
+
+#include "toolkit/banner.h"
+
+#include <QDialog>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int fieldWidthInCharacters = 44;
+
+class SelectsAllOnFocus final : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        // After the click that brought the focus has put the cursor somewhere.
+        if (event->type() == QEvent::FocusIn)
+            QMetaObject::invokeMethod(static_cast<QLineEdit *>(watched), &QLineEdit::selectAll,
+                                      Qt::QueuedConnection);
+        return false;
+    }
+};
+
+} // namespace
+
+QString withoutMnemonic(QString caption)
+{
+    return caption.remove(u'&');
+}
+
+void selectAllOnFocus(QLineEdit &field)
+{
+    field.installEventFilter(new SelectsAllOnFocus(&field));
+}
+
+Form::Form(QDialog &dialog, QLatin1StringView name) : m_dialog(dialog), m_all(new QVBoxLayout(&dialog))
+{
+    dialog.setObjectName(name);
+}
+
+Banner *Form::banner(int picture)
+{
+    auto *banner = new Banner(&m_dialog);
+    banner->setPicture(picture);
+    m_all->addWidget(banner);
+    return banner;
+}
+
+QGroupBox *Form::frame(QLatin1StringView name, QLatin1StringView caption)
+{
+    auto *frame = new QGroupBox(caption, &m_dialog);
+    frame->setObjectName(name);
+    m_rows = new QGridLayout(frame);
+    m_rows->setColumnStretch(1, 1);
+    m_all->addWidget(frame);
+    return frame;
+}
+
+QGridLayout &Form::rows()
+{
+    if (!m_rows) {
+        m_rows = new QGridLayout;
+        m_rows->setColumnStretch(1, 1);
+        m_all->addLayout(m_rows);
+    }
+    return *m_rows;
+}
+
+QLabel *Form::row(QLatin1StringView labelName, QLatin1StringView caption, QLatin1StringView name,
+                  QWidget *field)
+{
+    QGridLayout &layout = rows();
+    const int row = layout.rowCount();
+    auto *label = new QLabel(caption);
+    label->setObjectName(labelName);
+    label->setBuddy(field);
+    field->setObjectName(name);
+    field->setAccessibleName(withoutMnemonic(caption));
+    layout.addWidget(label, row, 0);
+    layout.addWidget(field, row, 1);
+    return label;
+}
+
+Form::Line Form::line(QLatin1StringView labelName, QLatin1StringView caption, QLatin1StringView name)
+{
+    auto *field = new QLineEdit;
+    field->setMinimumWidth(fieldWidthInCharacters * m_dialog.fontMetrics().averageCharWidth());
+    selectAllOnFocus(*field);
+    return {row(labelName, caption, name, field), field};
+}
+
+QPushButton *Form::buttonBeside(QLatin1StringView name, QLatin1StringView caption)
+{
+    QGridLayout &layout = rows();
+    auto *button = new QPushButton(caption);
+    button->setObjectName(name);
+    layout.addWidget(button, layout.rowCount() - 1, 2);
+    return button;
+}
+
+QPushButton *Form::button(QLatin1StringView name, QLatin1StringView caption)
+{
+    if (!m_buttons) {
+        m_all->addStretch();
+        m_buttons = new QHBoxLayout;
+        m_buttons->addStretch();
+        m_all->addLayout(m_buttons);
+    }
+    auto *button = new QPushButton(caption);
+    button->setObjectName(name);
+    m_buttons->addWidget(button);
+    return button;
+}
+
+QPushButton *Form::defaultButton(QLatin1StringView name, QLatin1StringView caption)
+{
+    QPushButton *made = button(name, caption);
+    made->setDefault(true);
+    return made;
+}
+
+QPushButton *Form::closeButton(QLatin1StringView name, QLatin1StringView caption)
+{
+    QPushButton *made = button(name, caption);
+    QObject::connect(made, &QPushButton::clicked, &m_dialog, &QDialog::reject);
+    return made;
+}

@@ -1,0 +1,7 @@
+#include "views/choosers.h"
+
+Choosers &choosers()
+{
+    static Choosers installed;
+    return installed;
+}

@@ -1,0 +1,67 @@
+#include "views/families.h"
+
+#include "messages/guard.h"
+#include "toolkit/messagebox.h"
+#include "views/listpane.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Table = std::array<std::array<Handler, std::size_t(Op::Count)>, modeCount>;
+
+Table &table()
+{
+    static Table registered;
+    return registered;
+}
+
+} // namespace
+
+QString CommandContext::subItem(int index) const
+{
+    return pane && row >= 0 && index < pane->columnCount() ? pane->subItem(row, index) : QString();
+}
+
+std::vector<int> CommandContext::selectedIds() const
+{
+    return pane ? pane->selectedIds() : std::vector<int>();
+}
+
+RowTarget CommandContext::target() const
+{
+    return pane && row >= 0 ? RowTarget(*pane, row) : RowTarget();
+}
+
+RowTarget CommandContext::newRow() const
+{
+    return pane ? RowTarget::appended(*pane) : RowTarget();
+}
+
+void registerHandlers(std::span<const OpRow> rows)
+{
+    for (const OpRow &row : rows)
+        table()[std::size_t(row.mode)][std::size_t(row.op)] = row.run;
+}
+
+const Handler &handlerOf(Mode mode, Op op)
+{
+    return table()[std::size_t(mode)][std::size_t(op)];
+}
+
+QString notYetImplemented()
+{
+    return u"Not yet implemented. Sorry for the Inconvenience"_s;
+}
+
+void runWithoutList(QWidget *owner, Mode mode, Op op)
+{
+    const Handler &handler = handlerOf(mode, op);
+    if (!handler) {
+        messageBox(owner, notYetImplemented(), box::Ok);
+        return;
+    }
+    guarded(owner, [&] { handler({.mode = mode, .owner = owner}); });
+}

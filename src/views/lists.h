@@ -1,0 +1,68 @@
+#pragma once
+
+#include "views/families.h"
+#include "views/frmProperties.h"
+#include "views/openview.h"
+
+// What the tables of families are made of: the handlers that all families have in common, made from a
+// method of a record class.
+
+template <typename Method>
+struct ReaderOf;
+template <typename Record, typename... Arguments>
+struct ReaderOf<void (Record::*)(const QString &, jet::Recordset &, Arguments...)>
+{
+    using Class = Record;
+};
+
+/// Reads all objects by a method of a record class.
+template <auto method>
+void readAll(const QString &connectionString, jet::Recordset &rows)
+{
+    typename ReaderOf<decltype(method)>::Class record;
+    (record.*method)(connectionString, rows);
+}
+
+/// Reads what belongs to one object.
+template <auto method>
+void readOf(const QString &connectionString, jet::Recordset &rows, int id)
+{
+    typename ReaderOf<decltype(method)>::Class record;
+    (record.*method)(connectionString, rows, id);
+}
+
+/// The view of all objects of a mode, in the context's view or in a new one.
+template <auto method>
+Handler listAll(Mode mode, QLatin1StringView title)
+{
+    return [=](const CommandContext &context) {
+        openView(context.owner, context.view, mode, title, readAll<method>);
+    };
+}
+
+/// A drill-down: a new view of what belongs to the current row's object, whose name ends the title.
+template <auto method>
+Handler related(Mode mode, QLatin1StringView title)
+{
+    return [=](const CommandContext &context) {
+        openView(context.owner, nullptr, mode, title + context.name,
+                 [id = context.id](const QString &connectionString, jet::Recordset &rows) {
+                     readOf<method>(connectionString, rows, id);
+                 });
+    };
+}
+
+/// One list of a property window.
+struct PropertyList
+{
+    PropertyTab tab;
+    void (*read)(const QString &connectionString, jet::Recordset &rows, int id);
+};
+
+/// The property window of the current row's object.
+[[nodiscard]] Handler properties(std::vector<PropertyList> lists);
+
+/// Deletes the selected objects one by one, with a progress window when they are many. What fails is
+/// reported by name; the others are deleted all the same.
+[[nodiscard]] Handler deleteSelected(QString progressTitle, QString failureHeading,
+                                     std::function<void(const QString &connectionString, int id)> deleteOne);

@@ -1,0 +1,55 @@
+#include "views/modes.h"
+
+#include <algorithm>
+#include <iterator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr ModeFamily database = ModeFamily::Database;
+constexpr ModeFamily live = ModeFamily::Live;
+
+constexpr auto group = "{2}\\{1}"_L1;
+constexpr auto product = "{1} {2} {3} {4}"_L1;
+
+// clang-format off
+constexpr ModeLook table[] = {
+    //                                         family    banner row  name of an object
+    {"DisplayGlobalGroups"_L1,                 database,   1,    1,  group},
+    {"DisplayLocalGroups"_L1,                  database,   2,    2,  group},
+    {"DisplayUsers"_L1,                        database,   3,    3,  "{4}\\{3}"_L1},
+    {"DisplayFolders"_L1,                      database,   4,    4,  "{1}"_L1},
+    {"DisplayFolderDefaultPermissions"_L1,     database,  12,   14,  {}},
+    {"DisplayHWType"_L1,                       database,   7,    8,  product},
+    {"DisplayHW"_L1,                           database,   5,    7,  "{1} SN: {2}"_L1},
+    {"DisplayRooms"_L1,                        database,   6,    6,  "{1}"_L1},
+    {"DisplaySW"_L1,                           database,   8,    9,  product},
+    {"DisplayQRY"_L1,                          database,   9,    5,  {}},
+    {"DisplayUnknown"_L1,                      database,  10,   10,  {}},
+    {"NTDisplayGlobalGroups"_L1,               live,       1,    1,  group},
+    {"NTDisplayLocalGroups"_L1,                live,       2,    2,  group},
+    {"NTDisplayUsers"_L1,                      live,       3,    3,  "{4}\\{3}"_L1},
+    {"NTDisplayFolders"_L1,                    live,       4,   10,  {}},
+    {"NTDisplayFolderPermission"_L1,           live,       4,   10,  {}},
+    {"NTDisplayServers"_L1,                    live,      11,   11,  {}},
+};
+// clang-format on
+static_assert(std::size(table) == modeCount);
+
+constexpr ModeLook noMode{{}, ModeFamily::None, 10, 10, {}};
+
+} // namespace
+
+const ModeLook &lookOf(std::optional<Mode> mode)
+{
+    return mode ? table[std::size_t(*mode)] : noMode;
+}
+
+std::optional<Mode> modeOf(QStringView text)
+{
+    const auto found = std::ranges::find_if(table, [text](const ModeLook &row) { return row.text == text; });
+    if (found == std::end(table))
+        return std::nullopt;
+    return Mode(found - std::begin(table));
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QLatin1StringView>
+#include <QStringView>
+
+#include <array>
+#include <optional>
+
+/// What a list shows: the display mode of an object view. In the order of the columns of every table
+/// by mode.
+enum class Mode : quint8 {
+    GlobalGroups,
+    LocalGroups,
+    Users,
+    Folders,
+    FolderDefaultPermissions,
+    HWType,
+    HW,
+    Rooms,
+    SW,
+    QRY,
+    Unknown, ///< the result of a query on no known table
+    NTGlobalGroups,
+    NTLocalGroups,
+    NTUsers,
+    NTFolders,
+    NTFolderPermission,
+    NTServers,
+};
+inline constexpr int modeCount = 17;
+
+enum class ModeFamily : quint8 { None, Database, Live };
+
+struct ModeLook
+{
+    QLatin1StringView text; ///< the mode where it is a text: "DisplayUsers"
+    ModeFamily family;
+    int bannerPicture; ///< of ImageListContext
+    int rowPicture;    ///< of ImageListList
+    /// The name of a row's object in titles: {n} is sub-item n. Empty where rows have no name.
+    QLatin1StringView objectName;
+};
+
+/// A view without a mode has no family and the pictures of an unknown object.
+[[nodiscard]] const ModeLook &lookOf(std::optional<Mode> mode);
+/// Nothing for a text that is no mode; case counts.
+[[nodiscard]] std::optional<Mode> modeOf(QStringView text);
+
+/// Modes as bits.
+using ModeSet = quint32;
+[[nodiscard]] constexpr ModeSet bitOf(Mode mode)
+{
+    return ModeSet(1) << int(mode);
+}
+/// Reads a row of a table by mode: seventeen characters, x where the mode belongs to the set. A text of
+/// another length does not compile.
+[[nodiscard]] consteval ModeSet modes(const char (&cells)[modeCount + 1])
+{
+    ModeSet set = 0;
+    for (int i = 0; i < modeCount; ++i) {
+        if (cells[i] != 'x' && cells[i] != '.')
+            throw "a cell is x or .";
+        if (cells[i] == 'x')
+            set |= ModeSet(1) << i;
+    }
+    return set;
+}
+/// A view without a mode has the menus of Mode::Unknown.
+[[nodiscard]] constexpr bool contains(ModeSet set, std::optional<Mode> mode)
+{
+    return (set & bitOf(mode.value_or(Mode::Unknown))) != 0;
+}
