@@ -2,7 +2,9 @@
 
 #include "base/oledate.h"
 
-#include <cfenv>
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -17,15 +19,18 @@ template <typename... Ts>
 Overloaded(Ts...) -> Overloaded<Ts...>;
 } // namespace
 
-QString numberToText(double number)
+std::string numberText(double number)
 {
-    if (number == 0)
-        return u"0"_s;
-    QString text = QString::number(number, 'G', 15);
-    const qsizetype exponent = text.indexOf(u'E');
-    if (exponent >= 0 && text[exponent + 1] == u'+' && text.size() == exponent + 3)
-        text.insert(exponent + 2, u'0');
-    return text;
+    constexpr double exact = 1e15;
+    if (std::abs(number) < exact && std::trunc(number) == number)
+        return std::to_string(qint64(number));
+    constexpr int significantDigits = 15;
+    std::array<char, 40> buffer;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                   std::chars_format::general, significantDigits)
+                         .ptr;
+    std::replace(buffer.data(), end, 'e', 'E');
+    return {buffer.data(), end};
 }
 
 QString Value::toText() const
@@ -34,7 +39,7 @@ QString Value::toText() const
                           [](std::monostate) { return QString(); },
                           [](bool value) { return value ? u"True"_s : u"False"_s; },
                           [](qint64 value) { return QString::number(value); },
-                          [](double value) { return numberToText(value); },
+                          [](double value) { return QString::fromStdString(numberText(value)); },
                           [](OleDate value) { return oledate::toText(value.days); },
                           [](const QString &value) { return value; },
                       },

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <string>
 #include <variant>
 
 /// A date as days since 1899-12-30 (base/oledate.h).
@@ -48,4 +49,4 @@ private:
 };
 
 /// A number as text: up to 15 significant digits, no trailing zeros, no blanks.
-[[nodiscard]] QString numberToText(double number);
+[[nodiscard]] std::string numberText(double number);

@@ -2,10 +2,10 @@
 
 #include "base/error.h"
 #include "base/errornumbers.h"
+#include "base/windows1252.h"
 
 #include <QFileInfo>
 
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -14,19 +14,6 @@ namespace {
 
 constexpr qint64 chunkSize = 64 * 1024;
 constexpr qint64 longestByteOrderMark = 4;
-
-// Where Windows-1252 is not Latin 1; the five bytes without a character stay what they are.
-constexpr std::array<char16_t, 32> windows1252From80 = {
-    0x20ac, 0x0081, 0x201a, 0x0192, 0x201e, 0x2026, 0x2020, 0x2021, 0x02c6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008d, 0x017d, 0x008f, 0x0090, 0x2018, 0x2019, 0x201c, 0x201d, 0x2022,
-    0x2013, 0x2014, 0x02dc, 0x2122, 0x0161, 0x203a, 0x0153, 0x009d, 0x017e, 0x0178,
-};
-
-char16_t fromWindows1252(uchar byte)
-{
-    const uint place = uint(byte) - 0x80;
-    return place < windows1252From80.size() ? windows1252From80[place] : char16_t(byte);
-}
 
 [[noreturn]] void refuse(const QString &path, const QString &reason)
 {
@@ -123,7 +110,7 @@ void LineStream::append(QByteArrayView bytes)
     const qsizetype before = m_text.size();
     m_text.resize(before + bytes.size());
     for (qsizetype i = 0; i < bytes.size(); ++i)
-        m_text[before + i] = QChar(fromWindows1252(uchar(bytes[i])));
+        m_text[before + i] = windows1252::character(uchar(bytes[i]));
 }
 
 ImportFile::ImportFile(const QString &path)

@@ -12,6 +12,11 @@ QString programVersion()
     return QString::number(versionMajor) % u'.' % QString::number(versionMinor);
 }
 
+QString fullVersion()
+{
+    return programVersion() % u'.' % QString::number(versionRevision);
+}
+
 QString mainCaption()
 {
     return programTitle() % u' ' % programVersion();

@@ -10,6 +10,8 @@ inline constexpr int versionRevision = 253;
 [[nodiscard]] QString programTitle();
 /// "3.0"
 [[nodiscard]] QString programVersion();
+/// "3.0.253"
+[[nodiscard]] QString fullVersion();
 /// "Kelvane 3.0": what the captions of the main and the result window show.
 [[nodiscard]] QString mainCaption();
 [[nodiscard]] QString makerAddress();

@@ -4,23 +4,32 @@
 #include "session/modRegistry.h"
 
 namespace modServers {
+namespace {
 
-QString DomainName;
-QString ComputerName;
-QString PDCName;
+Session &current()
+{
+    static Session session;
+    return session;
+}
+
+} // namespace
+
+const Session &session()
+{
+    return current();
+}
 
 void resolveSession()
 {
-    getWorkstationInfo(DomainName, ComputerName);
-    PDCName = getDCName(DomainName);
-}
-
-void getWorkstationInfo(QString &domain, QString &computer)
-{
+    Session found;
     net::WorkstationInfo machine;
+    if (net::api().wkstaGetInfo({}, machine) == net::Success)
+        found.computer = machine.computerName;
     net::WorkstationUserInfo user;
-    computer = net::api().wkstaGetInfo({}, machine) == net::Success ? machine.computerName : QString();
-    domain = net::api().wkstaUserGetInfo(user) == net::Success ? user.logonDomain : QString();
+    if (net::api().wkstaUserGetInfo(user) == net::Success)
+        found.domain = user.logonDomain;
+    found.controller = getDCName(found.domain);
+    current() = found;
 }
 
 QString getDCName(const QString &domain)
@@ -33,12 +42,12 @@ QString getDCName(const QString &domain)
 
 QString getDomainName()
 {
-    return DomainName;
+    return session().domain;
 }
 
 QString getServerName()
 {
-    return PDCName.isEmpty() ? modRegistry::getDefaultDC() : PDCName;
+    return session().controller.isEmpty() ? modRegistry::getDefaultDC() : session().controller;
 }
 
 } // namespace modServers

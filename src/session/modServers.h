@@ -2,27 +2,30 @@
 
 #include <QString>
 
-/// Who this session is on the network. The values are set once, at the start, and are
-/// empty when they could not be resolved.
+/// Who this session is on the network.
 namespace modServers {
 
-extern QString DomainName;
-extern QString ComputerName;
-extern QString PDCName;
+/// What could not be resolved is empty.
+struct Session
+{
+    QString domain; ///< the user's logon domain
+    QString computer;
+    QString controller; ///< the domain's primary controller, without backslashes
+};
 
-/// Fills the session values from the network. Whether something is missing shows in the
-/// values; nothing is retried or raised.
+/// As resolveSession() found it; empty before.
+[[nodiscard]] const Session &session();
+
+/// Asks the network who the session is, once at the start; a test calls it with a network of its own. What
+/// is missing shows in the values; nothing is retried or raised.
 void resolveSession();
-
-/// The logon domain and the computer's name; what a failed call would have filled is empty.
-void getWorkstationInfo(QString &domain, QString &computer);
 
 /// The controller of a domain without backslashes; empty when the call fails.
 [[nodiscard]] QString getDCName(const QString &domain);
 
 [[nodiscard]] QString getDomainName();
 
-/// PDCName, or the setting DefaultDC when that is empty. What every live operation uses.
+/// The session's controller, or the setting DefaultDC when there is none. What every live operation uses.
 [[nodiscard]] QString getServerName();
 
 } // namespace modServers

@@ -61,9 +61,9 @@ void showStartWindow()
 void resolveNetwork()
 {
     attempt(modServers::resolveSession);
-    if (modServers::DomainName.isEmpty())
+    if (modServers::session().domain.isEmpty())
         messageBox(nullptr, u"Warning! The Domain Name could not be resolved."_s, box::WarningIcon);
-    if (modServers::PDCName.isEmpty())
+    if (modServers::session().controller.isEmpty())
         messageBox(nullptr,
                    u"Warning! The Primary Domain Controller Name could not be resolved. The Default Domain "
                    "Controller will be used or you will be prompted to provide the PDC Name if necessary"_s,

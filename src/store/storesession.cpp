@@ -2,12 +2,9 @@
 
 #include "platform/jet/errors.h"
 
-#include <utility>
-
 StoreSession::StoreSession(const QString &connectionString)
 {
     m_connection.open(connectionString);
-    m_command.setActiveConnection(&m_connection);
 }
 
 void StoreSession::close()
@@ -16,16 +13,15 @@ void StoreSession::close()
         m_connection.close();
 }
 
-void StoreSession::execute(QString sql)
+void StoreSession::execute(const QString &sql)
 {
-    m_command.commandText = std::move(sql);
-    m_command.execute();
+    m_connection.execute(sql);
 }
 
-void StoreSession::executeSkippingErrors(QString sql)
+void StoreSession::executeSkippingErrors(const QString &sql)
 {
     try {
-        execute(std::move(sql));
+        execute(sql);
     } catch (const jet::ChangesLost &) {
         throw;
     } catch (const Error &) {
@@ -51,5 +47,4 @@ Value StoreSession::scalar(const QString &sql)
 void StoreSession::open(const QString &sql, jet::Recordset &result)
 {
     result.open(sql, m_connection);
-    result.setActiveConnection(nullptr);
 }

@@ -1,18 +1,17 @@
 #pragma once
 
-#include "platform/jet/command.h"
 #include "platform/jet/connection.h"
 #include "platform/jet/recordset.h"
 
 #include <QString>
 
-/// One visit to the store: a connection, one command and one recordset for tests, all
-/// used again for each statement and gone at the end of the visit.
+/// One visit to the store: a connection and one recordset for tests, used again for each statement and
+/// gone at the end of the visit.
 class StoreSession final
 {
 public:
     /// Raises what jet::Connection raises for a store that does not open; the others raise what
-    /// jet::Command and jet::Recordset raise for a statement.
+    /// they raise for a statement.
     explicit StoreSession(const QString &connectionString);
 
     /// Ends the visit and raises what writing the last changes to the disk met with; closing again
@@ -20,19 +19,17 @@ public:
     /// failure.
     void close();
 
-    void execute(QString sql);
+    void execute(const QString &sql);
     /// For steps whose failure is not to be seen. Raises jet::ChangesLost all the same.
-    void executeSkippingErrors(QString sql);
+    void executeSkippingErrors(const QString &sql);
     /// Whether the statement gives any row.
     [[nodiscard]] bool exists(const QString &sql);
     /// The first field of the first row; Null when there is no row.
     [[nodiscard]] Value scalar(const QString &sql);
-    /// Opens the caller's recordset, which must be closed, and detaches it: its rows outlive the
-    /// session.
+    /// Opens the caller's recordset, which must be closed; its rows outlive the session.
     void open(const QString &sql, jet::Recordset &result);
 
 private:
     jet::Connection m_connection;
-    jet::Command m_command;
     jet::Recordset m_test;
 };

@@ -21,7 +21,8 @@ public:
 
     /// The menu that opens at the pointer; it stays its owner's and outlives the pane.
     void setContextMenu(QMenu *menu) { m_contextMenu = menu; }
-    /// The bar belongs to the pane's window. Panel 2 shows the number of rows, panel 3 that of the selected ones, while the pane is the one shown.
+    /// The bar belongs to the pane's window. Panel 2 shows the number of rows, panel 3 that of the selected
+    /// ones, while the pane is the one shown.
     void setCountsBar(StatusBar *bar);
     void showCounts();
 

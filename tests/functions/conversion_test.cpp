@@ -1,13 +1,8 @@
 #include "platform/jet/functions.h"
 
-#include "base/value.h"
 #include "platform/jet/errormark.h"
 #include "platform/jet/errortexts.h"
-#include "platform/jet/numbertext.h"
 #include "sqltest.h"
-
-#include <cmath>
-#include <random>
 
 namespace {
 
@@ -155,19 +150,6 @@ TEST_F(ConversionTest, RaisesWhatItIsTold)
     std::string_view foreign = "no such table: x";
     EXPECT_EQ(jet::takeErrorNumber(foreign), 0);
     EXPECT_EQ(foreign, "no such table: x");
-}
-
-TEST(NumberText, AgreesWithTheValuesOfRecords)
-{
-    std::mt19937_64 random(1973);
-    for (int i = 0; i < 20000; ++i) {
-        const auto exponent = int(random() % 60) - 30;
-        const double number = std::ldexp(double(qint64(random())), exponent - 63);
-        ASSERT_EQ(jet::numberText(number), numberToText(number).toStdString());
-    }
-    for (const double number :
-         {0.0, -0.0, 1e15, 999999999999999.0, 1e-5, 1e100, -1.5e-7, 1.7976931348623157e308})
-        EXPECT_EQ(jet::numberText(number), numberToText(number).toStdString());
 }
 
 TEST(FindFunction, KnowsNamesInAnyCaseAndWithTheirDollar)

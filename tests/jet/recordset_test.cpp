@@ -1,7 +1,6 @@
 #include "openstore.h"
 
 #include "base/error.h"
-#include "platform/jet/command.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 

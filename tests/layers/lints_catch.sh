@@ -8,9 +8,12 @@ failures=0
 
 fresh() {
     rm -rf "${tree:?}"/*
-    mkdir -p "$tree"/src/{base,platform/jet,session,toolkit,messages,views,store,sync,shell} "$tree/docs"
+    mkdir -p "$tree"/src/{base,platform/jet,session,toolkit,messages,live,views,store,sync,exchange,assets,shell,sample} "$tree/docs"
     echo '#include "base/error.h"' >"$tree/src/platform/jet/lexer.cpp"
+    echo '#include "platform/network/netapi.h"' >>"$tree/src/platform/jet/lexer.cpp"
     echo '#include <QStringView>' >"$tree/src/base/text.h"
+    echo '#include "sync/modUsers.h"' >"$tree/src/exchange/modImport.cpp"
+    echo '#include "exchange/modImport.h"' >"$tree/src/assets/modRooms.cpp"
     local class
     for class in clsUsers clsFolders clsHW clsHWType; do
         echo "class $class final" >"$tree/src/store/$class.h"
@@ -51,6 +54,13 @@ caught check-layers src/toolkit/listview.cpp '#include "messages/guard.h"' 'tool
 caught check-layers src/messages/guard.cpp '#include "views/frmDisplay.h"' 'messages may not include views'
 caught check-layers src/views/frmDisplay.cpp '#include "store/modUsers.h"' 'views may not include families'
 caught check-layers src/store/modUsers.cpp '#include "shell/frmMain.h"' 'families may not include shell'
+caught check-layers src/live/modNT.cpp '#include "messages/batch.h"' 'live may not include messages'
+caught check-layers src/store/storefile.cpp '#include "sample/sampledata.h"' 'records may not include sample'
+caught check-layers src/sample/users.cpp '#include "session/modServers.h"' 'sample may not include session'
+caught check-layers src/store/userstatements.h '#include "store/modUsers.h"' 'records may not include families'
+caught check-layers src/sync/modUsersImport.cpp '#include "exchange/modImportSteps.h"' 'circle'
+caught check-layers src/sync/frmUser.cpp '#include "assets/roomscommands.h"' 'circle'
+caught check-layers src/platform/network/files.h '#include "platform/jet/database.h"' 'circle'
 caught check-layers src/store/clsUsers.cpp '#include "store/clsFolders.h"' 'may not see another'
 caught check-layers src/store/clsHWType.h '#include "store/clsHW.h"' 'may not see another'
 caught check-layers src/store/clsUsers.cpp '#include <QtWidgets/QWidget>' 'no windows'
@@ -68,6 +78,9 @@ passes check-layers src/store/clsUsers.cpp 'run("SELECT * FROM Tbl_Users"_L1);'
 passes check-layers src/store/clsUsers.cpp '#include "store/clsUsers.h"'
 passes check-layers src/store/clsUsersBatch.cpp '#include "store/clsUsers.h"'
 passes check-layers src/store/clsUsers.cpp '#include "store/clsUsersPaths.h"'
+passes check-layers src/sync/clsAccounts.cpp '#include "assets/assetstatements.h"'
+passes check-layers src/assets/modRooms.cpp '#include "sync/modUsers.h"'
+passes check-layers src/views/frmDisplay.cpp '#include "live/modNT.h"'
 passes check-layers src/shell/frmMain.cpp '#include "views/frmDisplay.h"'
 passes check-layers src/toolkit/messagebox.cpp 'QMessageBox box;'
 passes check-layers src/shell/frmMain.cpp 'label("Select the Program Options you need"_L1);'

@@ -27,8 +27,8 @@ TEST_F(ServersTest, ADomainUserHasDomainComputerAndController)
     modRegistry::saveDefaultDC(u"BACKUP"_s);
     modServers::resolveSession();
     EXPECT_EQ(modServers::getDomainName(), u"HEADOFFICE"_s);
-    EXPECT_EQ(modServers::ComputerName, u"PC7"_s);
-    EXPECT_EQ(modServers::PDCName, u"CENTRAL"_s);
+    EXPECT_EQ(modServers::session().computer, u"PC7"_s);
+    EXPECT_EQ(modServers::session().controller, u"CENTRAL"_s);
     EXPECT_EQ(modServers::getServerName(), u"CENTRAL"_s);
 }
 
@@ -37,7 +37,7 @@ TEST_F(ServersTest, WithoutAControllerTheDefaultStandsIn)
     net::installApi(std::make_unique<Workstation>(u"PC7"_s, QString()));
     modServers::resolveSession();
     EXPECT_EQ(modServers::getDomainName(), u"PC7"_s);
-    EXPECT_EQ(modServers::PDCName, QString());
+    EXPECT_EQ(modServers::session().controller, QString());
     EXPECT_EQ(modServers::getServerName(), QString());
     modRegistry::saveDefaultDC(u"BACKUP"_s);
     EXPECT_EQ(modServers::getServerName(), u"BACKUP"_s);
@@ -52,7 +52,7 @@ TEST_F(ServersTest, WithoutANetworkNothingIsKnownAnyMore)
     EXPECT_EQ(net::api().wkstaUserGetInfo(user), net::NoNetwork);
 
     modServers::resolveSession();
-    EXPECT_EQ(modServers::DomainName, QString());
-    EXPECT_EQ(modServers::ComputerName, QString());
-    EXPECT_EQ(modServers::PDCName, QString());
+    EXPECT_EQ(modServers::session().domain, QString());
+    EXPECT_EQ(modServers::session().computer, QString());
+    EXPECT_EQ(modServers::session().controller, QString());
 }

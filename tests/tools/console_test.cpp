@@ -2,9 +2,12 @@
 
 #include "platform/jet/connection.h"
 #include "platform/jet/recordset.h"
+#include "platform/settings/settings.h"
+#include "session/modRegistry.h"
 #include "store/storefile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -36,7 +39,7 @@ protected:
         std::ostringstream out;
         std::ostringstream complaints;
         Console console{in, out, complaints};
-        const int status = runCommand(arguments, console);
+        const int status = runCommand(QStringList{u"kelvane-store"_s} + arguments, console);
         return {status, out.str(), complaints.str()};
     }
 
@@ -182,35 +185,63 @@ TEST_F(ConsoleTest, Check_TellsFindingsAndTheStatusOfAScript)
         << unreadable.complaints;
 }
 
+TEST_F(ConsoleTest, Use_ChoosesTheStoreThatTheProgramOpens)
+{
+    settings::setFolder(folder.path());
+    EXPECT_EQ(run({u"use"_s}).status, ExitNoStore);
+
+    createStore(path);
+    EXPECT_EQ(run({u"use"_s, QDir::current().relativeFilePath(path)}).status, ExitDone);
+    EXPECT_EQ(modRegistry::getDataBase(), path);
+    const Answer chosen = run({u"use"_s});
+    EXPECT_EQ(chosen.status, ExitDone);
+    EXPECT_EQ(chosen.out, path.toStdString() + '\n');
+
+    const QString other = settings::fileOf(u"Kelvane"_s);
+    for (const QString &noStore : {other, folder.filePath("absent.mdb"_L1), folder.path()}) {
+        const Answer refused = run({u"use"_s, noStore});
+        EXPECT_EQ(refused.status, ExitRefused);
+        EXPECT_NE(refused.complaints.find(noStore.toStdString()), std::string::npos) << refused.complaints;
+    }
+    EXPECT_EQ(modRegistry::getDataBase(), path);
+    settings::setFolder({});
+}
+
 TEST_F(ConsoleTest, RefusesArgumentsThatMakeNoSense)
 {
-    const QStringList nonsense[] = {
-        {},
-        {u"create"_s},
-        {u"sql"_s},
-        {u"sql"_s, path, path},
-        {u"destroy"_s, path},
-        {u"create"_s, path, u"--sample"_s},
-        {u"create"_s, path, u"--sample"_s, u"many"_s},
-        {u"create"_s, path, u"--sample"_s, u"-1"_s},
-        {u"create"_s, path, u"30"_s, u"30"_s},
-        {u"check"_s},
-        {u"check"_s, path, path},
+    const std::pair<QStringList, std::string> nonsense[] = {
+        {{}, "a command is missing"},
+        {{u"create"_s}, "create takes one path"},
+        {{u"sql"_s, path, path}, "sql takes one path"},
+        {{u"check"_s}, "check takes one path"},
+        {{u"use"_s, path, path}, "use takes one path"},
+        {{u"destroy"_s, path}, "there is no command 'destroy'"},
+        {{u"create"_s, path, u"--sample"_s}, "--sample"},
+        {{u"create"_s, path, u"--sample"_s, u"many"_s}, "not 'many'"},
+        {{u"create"_s, path, u"--sample"_s, u"-1"_s}, "not '-1'"},
+        {{u"create"_s, path, u"30"_s}, "create takes one path"},
+        {{u"create"_s, path, u"--force"_s}, "force"},
+        {{u"check"_s, path, u"--sample"_s, u"30"_s}, "check does not take --sample"},
     };
-    for (const QStringList &arguments : nonsense) {
+    for (const auto &[arguments, says] : nonsense) {
+        SCOPED_TRACE(arguments.join(u' ').toStdString());
         const Answer answer = run(arguments);
-        EXPECT_EQ(answer.status, ExitUsage) << arguments.join(u' ').toStdString();
-        EXPECT_NE(answer.complaints.find("usage:"), std::string::npos);
-        EXPECT_FALSE(QFile::exists(path)) << arguments.join(u' ').toStdString();
+        EXPECT_EQ(answer.status, ExitUsage);
+        EXPECT_NE(answer.complaints.find(says), std::string::npos) << answer.complaints;
+        EXPECT_EQ(answer.out, "");
+        EXPECT_FALSE(QFile::exists(path));
     }
 }
 
-TEST_F(ConsoleTest, Help_IsNoComplaint)
+TEST_F(ConsoleTest, HelpAndVersionAreNoComplaints)
 {
-    const Answer answer = run({u"--help"_s});
-    EXPECT_EQ(answer.status, ExitDone);
-    EXPECT_NE(answer.out.find("check PATH"), std::string::npos);
-    EXPECT_EQ(answer.complaints, "");
+    for (const auto &[option, says] :
+         {std::pair("--help", "reports what is wrong"), {"--version", "3.0.253"}}) {
+        const Answer answer = run({QString::fromLatin1(option)});
+        EXPECT_EQ(answer.status, ExitDone);
+        EXPECT_NE(answer.out.find(says), std::string::npos) << answer.out;
+        EXPECT_EQ(answer.complaints, "");
+    }
 }
 
 TEST_F(ConsoleTest, Sql_WaitsForTheNextStatementWithNothingPending)

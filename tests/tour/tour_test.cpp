@@ -68,9 +68,10 @@ TEST(TourTest, BadArgumentsAreExplained)
         QString says;
     };
     const Case cases[] = {
-        {"nothing", {}, 2, u"Usage: kelvane-tour OUTDIR"_s},
-        {"empty", {QString()}, 2, u"Usage:"_s},
-        {"unknown variant", {folder.path(), u"sepia"_s}, 2, u"Usage:"_s},
+        {"nothing", {}, 2, u"takes a folder"_s},
+        {"empty", {QString()}, 2, u"takes a folder"_s},
+        {"unknown variant", {folder.path(), u"sepia"_s}, 2, u"no variant 'sepia'"_s},
+        {"unknown option", {u"--sepia"_s, folder.path()}, 2, u"Unknown option 'sepia'"_s},
         {"a file", {file}, 1, file + u" is not a folder."_s},
         {"below a file", {file + u"/x"_s}, 1, u"The folder "_s + file + u"/x cannot be made."_s},
     };

@@ -5,11 +5,20 @@
 #include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
+#include "platform/jet/storefile.h"
 #include "sample/sampledata.h"
+#include "session/identity.h"
+#include "session/modRegistry.h"
 #include "store/storecheck.h"
 #include "store/storefile.h"
 
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
 #include <istream>
+#include <optional>
 #include <ostream>
 
 using namespace Qt::StringLiterals;
@@ -18,14 +27,22 @@ namespace {
 
 constexpr int mostSampleUsers = 1'000'000;
 
-constexpr auto usage = "usage: kelvane-store create PATH [--sample USERS]\n"
-                       "       kelvane-store sql PATH    one statement a line from standard input,\n"
-                       "                                 one JSON object a statement to standard output\n"
-                       "       kelvane-store check PATH  tells what is wrong with the store, a line each\n";
+// The lines of the help have no room for more.
+constexpr auto commandsHelp = "create  makes a new store\n"
+                              "sql     runs standard input, one statement a line\n"
+                              "check   reports what is wrong with the store\n"
+                              "use     chooses the store to open, or prints it"_L1;
+
+/// What the arguments of a command say, apart from its name.
+struct Request
+{
+    QString path; ///< empty when none was given
+    std::optional<QString> sample;
+};
 
 int refuseUsage(Console &console, const QString &reason)
 {
-    console.complaints << "kelvane-store: " << reason.toStdString() << '\n' << usage;
+    console.complaints << "kelvane-store: " << reason.toStdString() << "\nSee kelvane-store --help.\n";
     return ExitUsage;
 }
 
@@ -35,22 +52,19 @@ int refuse(Console &console, const Error &error)
     return ExitRefused;
 }
 
-int create(const QStringList &arguments, Console &console)
+int create(const Request &request, Console &console)
 {
+    bool isNumber = true;
+    const int users = request.sample ? request.sample->toInt(&isNumber) : 0;
+    if (!isNumber || users < 0 || users > mostSampleUsers)
+        return refuseUsage(console, "--sample takes a number from 0 to "_L1 +
+                                        QString::number(mostSampleUsers) + ", not '"_L1 + *request.sample +
+                                        u'\'');
     try {
-        if (arguments.size() == 1) {
-            createStore(arguments[0]);
-            return ExitDone;
-        }
-        if (arguments.size() != 3 || arguments[1] != "--sample"_L1)
-            return refuseUsage(console, u"create takes a path and, if wanted, --sample with a number"_s);
-        bool isNumber = false;
-        const int users = arguments[2].toInt(&isNumber);
-        if (!isNumber || users < 0 || users > mostSampleUsers)
-            return refuseUsage(console, "--sample takes a number from 0 to "_L1 +
-                                            QString::number(mostSampleUsers) + ", not '"_L1 + arguments[2] +
-                                            u'\'');
-        createSampleStore(arguments[0], users);
+        if (request.sample)
+            createSampleStore(request.path, users);
+        else
+            createStore(request.path);
         return ExitDone;
     } catch (const Error &error) {
         return refuse(console, error);
@@ -98,13 +112,11 @@ bool answer(const std::string &statement, jet::Connection &connection, Console &
     return accepted;
 }
 
-int sql(const QStringList &arguments, Console &console)
+int sql(const Request &request, Console &console)
 {
-    if (arguments.size() != 1)
-        return refuseUsage(console, u"sql takes one path"_s);
     jet::Connection connection;
     try {
-        connection.open(jet::connectionString(arguments[0]));
+        connection.open(jet::connectionString(request.path));
     } catch (const Error &error) {
         return refuse(console, error);
     }
@@ -122,12 +134,10 @@ int sql(const QStringList &arguments, Console &console)
     return status;
 }
 
-int check(const QStringList &arguments, Console &console)
+int check(const Request &request, Console &console)
 {
-    if (arguments.size() != 1)
-        return refuseUsage(console, u"check takes one path"_s);
     try {
-        const QStringList findings = checkStore(arguments[0]);
+        const QStringList findings = checkStore(request.path);
         for (const QString &finding : findings)
             console.out << finding.toStdString() << '\n';
         if (findings.isEmpty())
@@ -139,23 +149,76 @@ int check(const QStringList &arguments, Console &console)
     }
 }
 
+int use(const Request &request, Console &console)
+{
+    if (request.path.isEmpty()) {
+        const QString used = modRegistry::getDataBase();
+        console.out << (used.isEmpty() ? "" : used.toStdString() + '\n');
+        return used.isEmpty() ? ExitNoStore : ExitDone;
+    }
+    try {
+        const QString path = QDir::cleanPath(QFileInfo(request.path).absoluteFilePath());
+        jet::checkStoreFile(path);
+        modRegistry::saveDataBase(path);
+        return ExitDone;
+    } catch (const Error &error) {
+        return refuse(console, error);
+    }
+}
+
+struct Command
+{
+    QLatin1StringView name;
+    int (*run)(const Request &, Console &);
+    bool needsPath;
+    bool takesSample;
+};
+
+constexpr Command commands[] = {
+    {"create"_L1, create, true, true},
+    {"sql"_L1, sql, true, false},
+    {"check"_L1, check, true, false},
+    {"use"_L1, use, false, false},
+};
+
 } // namespace
 
 int runCommand(const QStringList &arguments, Console &console)
 {
-    if (arguments.isEmpty())
-        return refuseUsage(console, u"a command is missing"_s);
-    if (arguments == QStringList{u"--help"_s} || arguments == QStringList{u"-h"_s}) {
-        console.out << usage;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Makes, checks and queries the store files of Kelvane."_s);
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Shows this help."_s);
+    parser.addOption(help);
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption sample(u"sample"_s, u"create: fills the store with a company of USERS users."_s,
+                                    u"USERS"_s);
+    parser.addOption(sample);
+    parser.addPositionalArgument(u"COMMAND"_s, commandsHelp, u"COMMAND"_s);
+    parser.addPositionalArgument(u"PATH"_s, u"the store file"_s, u"[PATH]"_s);
+
+    if (!parser.parse(arguments))
+        return refuseUsage(console, parser.errorText());
+    if (parser.isSet(help)) {
+        console.out << parser.helpText().toStdString();
         return ExitDone;
     }
-    if (arguments[0] == "create"_L1 && arguments.size() > 1)
-        return create(arguments.mid(1), console);
-    if (arguments[0] == "sql"_L1)
-        return sql(arguments.mid(1), console);
-    if (arguments[0] == "check"_L1)
-        return check(arguments.mid(1), console);
-    return refuseUsage(console, arguments[0] == "create"_L1
-                                    ? u"create takes a path"_s
-                                    : "there is no command '"_L1 + arguments[0] + u'\'');
+    if (parser.isSet(version)) {
+        console.out << "kelvane-store " << fullVersion().toStdString() << '\n';
+        return ExitDone;
+    }
+
+    const QStringList words = parser.positionalArguments();
+    if (words.isEmpty())
+        return refuseUsage(console, u"a command is missing"_s);
+    const auto *command = std::ranges::find(commands, words[0], &Command::name);
+    if (command == std::end(commands))
+        return refuseUsage(console, "there is no command '"_L1 + words[0] + u'\'');
+    if (words.size() > 2 || (words.size() < 2 && command->needsPath))
+        return refuseUsage(console, command->name + " takes one path"_L1);
+    if (parser.isSet(sample) && !command->takesSample)
+        return refuseUsage(console, command->name + " does not take --sample"_L1);
+    Request request{words.value(1), {}};
+    if (parser.isSet(sample))
+        request.sample = parser.value(sample);
+    return command->run(request, console);
 }

@@ -9,6 +9,7 @@ inline constexpr int ExitRefused = 1;
 inline constexpr int ExitUsage = 2;
 inline constexpr int ExitFindings = 1;   ///< of check
 inline constexpr int ExitUnreadable = 2; ///< of check
+inline constexpr int ExitNoStore = 1;    ///< of use
 
 struct Console
 {
@@ -17,8 +18,9 @@ struct Console
     std::ostream &complaints;
 };
 
-/// Runs one command of kelvane-store, told by its arguments without the program's name, and returns the
-/// exit status: ExitDone for --help, ExitUsage when the arguments make no sense, ExitRefused when the command
-/// or any of its statements was refused. A check ends with ExitFindings when it found something and with
-/// ExitUnreadable when the file cannot be opened as a store.
+/// Runs one command of kelvane-store, given by the arguments of the program, its name first, and returns the
+/// exit status: ExitDone for --help and --version, ExitUsage when the arguments make no sense, ExitRefused
+/// when the command or any of its statements was refused. A check ends with ExitFindings when it found
+/// something and with ExitUnreadable when the file cannot be opened as a store; a use without a path ends
+/// with ExitNoStore when no store has been chosen.
 [[nodiscard]] int runCommand(const QStringList &arguments, Console &console);

@@ -9,5 +9,5 @@ int main(int argc, char **argv)
     std::ios::sync_with_stdio(false);
     const QCoreApplication application(argc, argv);
     Console console{std::cin, std::cout, std::cerr};
-    return runCommand(QCoreApplication::arguments().mid(1), console);
+    return runCommand(QCoreApplication::arguments(), console);
 }

@@ -8,14 +8,17 @@
 #include "session/modRegistry.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QPalette>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -23,10 +26,6 @@ namespace {
 
 constexpr int sampleUsers = 200;
 constexpr int usageStatus = 2;
-
-constexpr auto usage = "Usage: kelvane-tour OUTDIR [light|dark|large]\n"
-                       "Opens every window of Kelvane on sample data and saves a picture of each in the\n"
-                       "folder OUTDIR: light, dark and at 200 %, or only the one that is named.\n";
 
 /// The scale of a process is fixed at its start, so each variant is a process of its own.
 struct Variant
@@ -100,32 +99,70 @@ int walkAll(const QString &folder)
     return EXIT_SUCCESS;
 }
 
-const Variant *variantOf(QLatin1StringView name)
+struct Request
 {
-    for (const Variant &variant : variants) {
-        if (variant.name == name)
-            return &variant;
+    QString folder;
+    const Variant *variant = nullptr; ///< all of them when null
+};
+
+/// Nothing when the program ends instead, with that status.
+std::optional<Request> requestOf(const QStringList &arguments, int &status)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"Opens every window of Kelvane on sample data and saves a picture of each."_s);
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Shows this help."_s);
+    parser.addOption(help);
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addPositionalArgument(u"OUTDIR"_s, u"the folder for the pictures"_s);
+    parser.addPositionalArgument(u"VARIANT"_s, u"only light, dark or large (at 200 %)"_s, u"[VARIANT]"_s);
+
+    const auto refuse = [&status](const QString &reason) {
+        complain(reason % "\nSee kelvane-tour --help."_L1);
+        status = usageStatus;
+        return std::nullopt;
+    };
+    status = EXIT_SUCCESS;
+    if (!parser.parse(arguments))
+        return refuse(parser.errorText());
+    if (parser.isSet(help) || parser.isSet(version)) {
+        std::fputs(qPrintable(parser.isSet(help) ? parser.helpText()
+                                                 : QString("kelvane-tour "_L1 % fullVersion() % u'\n')),
+                   stdout);
+        return std::nullopt;
     }
-    return nullptr;
+    const QStringList words = parser.positionalArguments();
+    if (words.isEmpty() || words.size() > 2 || words[0].isEmpty())
+        return refuse(u"it takes a folder for the pictures"_s);
+    if (words.size() == 1)
+        return Request{words[0]};
+    const auto *variant = std::ranges::find(variants, words[1], &Variant::name);
+    if (variant == std::end(variants))
+        return refuse("there is no variant '"_L1 % words[1] % u'\'');
+    return Request{words[0], variant};
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const Variant *variant = argc == 3 ? variantOf(QLatin1StringView(argv[2])) : nullptr;
-    if ((argc != 2 && !variant) || QLatin1StringView(argv[1]).isEmpty()) {
-        std::fputs(usage, stderr);
-        return usageStatus;
+    std::optional<Request> request;
+    {
+        // The application of the windows is made when their scale is known.
+        const QCoreApplication application(argc, argv);
+        int status = EXIT_SUCCESS;
+        request = requestOf(QCoreApplication::arguments(), status);
+        if (!request)
+            return status;
     }
     QTemporaryFile screen;
     if (!screen.open() || screen.write(screenDescription) < 0 || !screen.flush())
         return complain("No temporary file can be written: "_L1 % screen.errorString());
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toLocal8Bit());
-    qputenv("QT_SCALE_FACTOR", variant ? variant->scale : "1");
+    qputenv("QT_SCALE_FACTOR", request->variant ? request->variant->scale : "1");
     const QApplication application(argc, argv);
     QApplication::setApplicationName(programTitle());
     QApplication::setQuitOnLastWindowClosed(false);
-    const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
-    return variant ? walk(*variant, folder) : walkAll(folder);
+    const QString folder = QDir(request->folder).absolutePath();
+    return request->variant ? walk(*request->variant, folder) : walkAll(folder);
 }

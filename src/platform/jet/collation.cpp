@@ -19,7 +19,7 @@ namespace {
 /// The printable characters before the digits, in their order. ' and - are not among them.
 constexpr std::string_view punctuation = " !\"#$%&()*,./:;?@[\\]^_`{|}~+<=>";
 
-// Lead bytes of what has no byte of its own; zero ends a level of a key.
+// Lead bytes of what has no byte of its own.
 constexpr std::uint8_t noPrimary = 0;
 constexpr std::uint8_t leadOfSymbols = 70;  // other signs: behind punctuation, before digits
 constexpr std::uint8_t leadOfLetters = 250; // other letters: behind Z
@@ -47,7 +47,7 @@ static_assert(weights['>'] < leadOfSymbols && weights['Z'] < leadOfLetters);
 
 enum class Level : std::uint8_t { Primary, Accent, Mark };
 
-/// What one character counts for on one level. A primary weight is the key byte of an ASCII
+/// What one character counts for on one level. A primary weight is that of an ASCII
 /// character in its top byte, or a lead byte with the code point below it.
 struct Element
 {
@@ -256,12 +256,6 @@ std::string_view trimmed(std::string_view text)
     return text;
 }
 
-void appendBytes(std::string &key, std::uint32_t value, int bytes)
-{
-    for (int shift = (bytes - 1) * 8; shift >= 0; shift -= 8)
-        key.push_back(static_cast<char>(value >> shift & 0xFF));
-}
-
 } // namespace
 
 int compareTexts(std::string_view left, std::string_view right)
@@ -283,42 +277,6 @@ int compareTexts(std::string_view left, std::string_view right)
     if (weights[static_cast<unsigned char>(rest.front())] != noPrimary)
         return left.size() > common ? 1 : -1;
     return compareElements(left.substr(common), right.substr(common));
-}
-
-std::string sortKey(std::string_view text)
-{
-    text = trimmed(text);
-    std::string key;
-    std::string accents;
-    std::string marks;
-    Elements elements(text);
-    Element element;
-    std::uint32_t position = 0;
-    while (elements.next(element)) {
-        switch (element.level) {
-        case Level::Primary:
-            ++position;
-            appendBytes(key, element.weight >> 24, 1);
-            if (const auto lead = std::uint8_t(element.weight >> 24);
-                lead == leadOfSymbols || lead == leadOfLetters)
-                appendBytes(key, element.weight, 3);
-            break;
-        case Level::Accent:
-            // The later position comes first: where two texts differ, the plain letter does.
-            appendBytes(accents, ~position, 4);
-            appendBytes(accents, element.weight, 3);
-            break;
-        case Level::Mark:
-            appendBytes(marks, ~position, 4);
-            appendBytes(marks, element.weight, 1);
-            break;
-        }
-    }
-    if (!accents.empty() || !marks.empty())
-        key.append(1, '\0').append(accents);
-    if (!marks.empty())
-        key.append(1, '\0').append(marks);
-    return key;
 }
 
 std::string foldCase(std::string_view text)

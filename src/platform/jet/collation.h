@@ -13,9 +13,6 @@ namespace jet {
 /// Negative, zero or positive. No allocation while both are ASCII without ' and -.
 [[nodiscard]] int compareTexts(std::string_view left, std::string_view right);
 
-/// A key whose bytes order (and equal) as compareTexts does.
-[[nodiscard]] std::string sortKey(std::string_view text);
-
 /// The text with the case of every letter folded, for matching without regard to case.
 [[nodiscard]] std::string foldCase(std::string_view text);
 

@@ -87,12 +87,8 @@ void commitPendingWrites()
 Connection::Connection() = default;
 Connection::~Connection() = default;
 
-void Connection::open(const QString &connectionString, const QString &user, const QString &password,
-                      int options)
+void Connection::open(const QString &connectionString)
 {
-    Q_UNUSED(user);
-    Q_UNUSED(password);
-    Q_UNUSED(options);
     if (m_database)
         throwError(ObjectOpen, u"Operation is not allowed when the object is open."_s);
     if (property(connectionString, "Provider"_L1).compare(provider, Qt::CaseInsensitive) != 0)

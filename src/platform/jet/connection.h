@@ -28,8 +28,7 @@ public:
     /// properties; a path in quotes may hold anything, quotes doubled. Never creates a file. Raises
     /// ObjectOpen (3705) when open already, ProviderMissing (3706) for another provider, Failure with a text
     /// that names the file when it is missing, a folder, unreadable or no store.
-    void open(const QString &connectionString, const QString &user = {}, const QString &password = {},
-              int options = -1);
+    void open(const QString &connectionString);
     /// Commits what is pending; what cannot be committed with the last connection to the file is undone and
     /// raised as ChangesLost. Raises ObjectClosed (3704) when not open, Failure in the middle of a statement.
     void close();

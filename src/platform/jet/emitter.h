@@ -53,8 +53,11 @@ private:
         bool exact = false;     ///< whole and within 32 bits
         bool mayOverflow =
             false;         ///< a calculation that SQLite lets end in infinity or outside of the calendar
-        char chain = '\0'; ///< '+' or '*': `sql` is a chain of these in parentheses; 't': a call of jet_plus
+        char chain = '\0'; ///< '+' or '*': `sql` is a chain of these, 't': a call of jet_plus; the closing
+                           ///< parenthesis is left out, so that more can follow
         std::size_t texts = 0; ///< the arguments of that call
+
+        [[nodiscard]] std::string text() const { return chain == '\0' ? sql : sql + ')'; }
     };
     struct Output
     {

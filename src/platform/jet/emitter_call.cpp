@@ -112,8 +112,15 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
         raiseError(SyntaxError,
                    "Cannot have aggregate function in expression (" + excerpt(source.text) + ").");
     scope.hasAggregate = true;
+    // An expression that names a column of the query itself and is always true.
+    const auto own = [&scope] {
+        const ScopeSource &first = scope.sources[0];
+        const std::string column = quotedName(first.name) + '.' + quotedName(first.columns[0].name);
+        return column + " IS " + column;
+    };
+    const bool inside = scope.goesInside && !scope.sources.empty();
     if (source.kind == ExpressionKind::CountRows)
-        return {.sql = "COUNT(*)", .type = {DataType::Long}};
+        return {.sql = inside ? "COUNT(" + own() + ')' : "COUNT(*)", .type = {DataType::Long}};
     if (source.arguments.size() != 1)
         raiseArgumentCount(source);
 
@@ -129,11 +136,9 @@ Emitter::Piece Emitter::aggregate(const Expression &source, Scope &scope)
     if (row.type == AggregateType::Double && !isLong(operand.type.type))
         list = "1.0 * " + list;
     // Over columns of an outer query alone SQLite would take the aggregate for one of that query.
-    if (scope.outer != nullptr && !scope.sources.empty() && !usesSources(*source.arguments[0], scope)) {
-        const ScopeSource &own = scope.sources[0];
-        const std::string column = quotedName(own.name) + '.' + quotedName(own.columns[0].name);
-        list = "CASE WHEN " + column + " IS " + column + " THEN " + list + " END";
-    }
+    if ((inside || (scope.outer != nullptr && !scope.sources.empty())) &&
+        !usesSources(*source.arguments[0], scope))
+        list = "CASE WHEN " + own() + " THEN " + list + " END";
     // Without a row id beside it, SQLite would read the rows in the order of an index.
     if (row.type == AggregateType::OfOneRow && scope.sources.size() == 1 && scope.sources[0].isTable())
         list += ", " + quotedName(scope.sources[0].name) + '.' +

@@ -62,8 +62,8 @@ std::string Emitter::value(const Piece &piece)
     if (piece.condition)
         return "(-(" + piece.sql + "))";
     if (piece.mayOverflow)
-        return (piece.type.type == DataType::Date ? "jet_cdate(" : "jet_cdbl(") + piece.sql + ')';
-    return piece.sql;
+        return (piece.type.type == DataType::Date ? "jet_cdate(" : "jet_cdbl(") + piece.text() + ')';
+    return piece.text();
 }
 
 std::string Emitter::condition(const Piece &piece)
@@ -120,7 +120,7 @@ std::string Emitter::fingerprint(const Expression &source, Scope &scope)
 {
     const Restored literals(m_literalsAsValues, true);
     const Restored subqueries(m_subqueries, 0);
-    return expression(source, scope).sql;
+    return expression(source, scope).text();
 }
 
 std::string Emitter::conditionOf(const Expression &source, Scope &scope, std::string_view clause,

@@ -63,13 +63,13 @@ Emitter::Piece Emitter::infix(std::string_view sign, const Piece &left, const Pi
 {
     const char level = sign == "*" ? '*' : '+';
     const bool goesOn = left.chain == level && (level == '+' || !left.mayOverflow);
-    const std::string a = goesOn ? left.sql.substr(1, left.sql.size() - 2) : asNumber(left);
+    const std::string begin = goesOn ? left.sql : '(' + asNumber(left);
     const DataType types[] = {left.type.type, right.type.type};
     const bool whole = isWhole(types[0]) && isWhole(types[1]);
     const bool wide = types[0] == DataType::Wide || types[1] == DataType::Wide;
     const bool dates[] = {types[0] == DataType::Date, types[1] == DataType::Date};
     const bool date = (sign == "+" && (dates[0] || dates[1])) || (sign == "-" && dates[0] && !dates[1]);
-    return {.sql = '(' + a + ' ' + std::string(sign) + ' ' + asNumber(right) + ')',
+    return {.sql = begin + ' ' + std::string(sign) + ' ' + asNumber(right),
             .type = {date    ? DataType::Date
                      : whole ? DataType::Wide
                              : DataType::Double},
@@ -108,8 +108,7 @@ Emitter::Piece Emitter::arithmetic(const Expression &source, Scope &scope)
     const bool texts = isText(left.type.type) && isText(right.type.type);
     if (sign == "+" && texts) {
         const bool goesOn = left.chain == 't' && left.texts < mostOperands;
-        return {.sql = (goesOn ? left.sql.substr(0, left.sql.size() - 1) : "jet_plus(" + value(left)) + ", " +
-                       value(right) + ')',
+        return {.sql = (goesOn ? left.sql : "jet_plus(" + value(left)) + ", " + value(right),
                 .type = {DataType::Memo},
                 .chain = 't',
                 .texts = goesOn ? left.texts + 1 : 2};

@@ -332,7 +332,7 @@ std::string Emitter::orderKey(const OrderItem &item, const std::vector<Output> &
         const std::string wanted = fingerprint(*item.expression, scope);
         const bool selected = std::any_of(outputs.begin(), outputs.end(), [&](const Output &output) {
             return (output.expression != nullptr ? fingerprint(*output.expression, scope)
-                                                 : output.piece.sql) == wanted;
+                                                 : output.piece.text()) == wanted;
         });
         if (!selected)
             raiseError(SyntaxError,
@@ -355,7 +355,7 @@ void Emitter::checkGrouping(const Select &select, const std::vector<Output> &out
     for (const Output &output : outputs) {
         if (output.expression != nullptr)
             checkGrouped(*output.expression, keys, scope);
-        else if (!keys.contains(output.piece.sql))
+        else if (!keys.contains(output.piece.text()))
             raiseError(SyntaxError, "Cannot group on fields selected with '*'.");
     }
     if (select.having)

@@ -1,5 +1,6 @@
 #include "platform/jet/emitter.h"
 #include "platform/jet/errortexts.h"
+#include "platform/jet/restored.h"
 
 #include <algorithm>
 
@@ -39,10 +40,13 @@ Emitter::Piece Emitter::quantified(const Expression &source, Scope &scope)
         const char *outermost; ///< of the rows: null for both of them
     };
     static constexpr Comparison comparisons[] = {
-        {"<", ">=", "MIN"}, {"<=", ">", "MIN"},   {">", "<=", "MAX"},
-        {">=", "<", "MAX"}, {"=", "<>", nullptr}, {"<>", "=", nullptr},
+        {"<", ">=", "least"},    {"<=", ">", "least"}, {">", "<=", "greatest"},
+        {">=", "<", "greatest"}, {"=", "<>", nullptr}, {"<>", "=", nullptr},
     };
-    const Piece operand = expression(*source.arguments[0], scope);
+    const Piece operand = [&] {
+        const Restored inside(scope.goesInside, true);
+        return expression(*source.arguments[0], scope);
+    }();
     const Rows rows = singleColumn(source, scope, true);
     const Piece item{.sql = numberedName(0), .type = rows.columns[0].type};
     requireComparable(source, operand, item);
@@ -54,14 +58,17 @@ Emitter::Piece Emitter::quantified(const Expression &source, Scope &scope)
     };
     const Comparison &comparison = *named(source.all ? source.name : named(source.name)->opposite);
     const auto holds = [&](const char *outermost) {
-        return '(' + collated(operand) + ' ' + std::string(comparison.name) + " (SELECT " + outermost + '(' +
-               collated(item) + ") FROM (" + rows.sql + ")))";
+        return collated(operand) + ' ' + std::string(comparison.name) + ' ' + outermost;
     };
-    const std::string test =
-        comparison.outermost != nullptr ? holds(comparison.outermost) : holds("MIN") + " AND " + holds("MAX");
-    return conditionPiece(std::string(source.all ? "(" : "(NOT ") + "(NOT EXISTS (" + rows.sql + ") OR (" +
-                          test + " AND (SELECT NULLIF(COUNT(\"c0\") = COUNT(*), 0) FROM (" + rows.sql +
-                          ")))))");
+    const std::string test = comparison.outermost != nullptr ? holds(comparison.outermost)
+                                                             : holds("least") + " AND " + holds("greatest");
+    // Materialized, rows that do not depend on the operand are read once for all operands.
+    return conditionPiece(
+        std::string(source.all ? "(" : "(NOT ") +
+        "(WITH \"%rows\" AS MATERIALIZED (SELECT COUNT(*) AS number, COUNT(\"c0\") AS filled, "
+        "MIN(" +
+        collated(item) + ") AS least, MAX(" + collated(item) + ") AS greatest FROM (" + rows.sql +
+        ")) SELECT number = 0 OR (" + test + " AND NULLIF(number = filled, 0)) FROM \"%rows\"))");
 }
 
 Emitter::Piece Emitter::scalar(const Expression &source, Scope &scope)

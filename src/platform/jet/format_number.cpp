@@ -1,7 +1,7 @@
 #include "platform/jet/format.h"
 
+#include "base/value.h"
 #include "platform/jet/decimal.h"
-#include "platform/jet/numbertext.h"
 #include "platform/jet/picture.h"
 
 #include <algorithm>

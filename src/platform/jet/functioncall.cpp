@@ -1,6 +1,7 @@
 #include "platform/jet/functioncall.h"
 
 #include "base/oledate.h"
+#include "base/value.h"
 #include "platform/jet/collation.h"
 #include "platform/jet/decimal.h"
 #include "platform/jet/errormark.h"

@@ -1,6 +1,7 @@
 #include "platform/jet/functionbodies.h"
 #include "platform/jet/functioncall.h"
 
+#include "base/value.h"
 #include "platform/jet/decimal.h"
 #include "platform/jet/numbertext.h"
 

@@ -1,13 +1,13 @@
 #include "platform/jet/functionbodies.h"
 #include "platform/jet/functioncall.h"
 
+#include "base/windows1252.h"
 #include "platform/jet/collation.h"
 #include "platform/jet/utf8.h"
 
 #include <QChar>
 
 #include <algorithm>
-#include <array>
 
 namespace jet::bodies {
 
@@ -72,20 +72,6 @@ std::string proper(std::string_view text)
         inWord = !(QChar::isSpace(code) || code == 0);
         return cased;
     });
-}
-
-// The characters that Windows has in place of the control characters 128 to 159.
-constexpr std::array<char32_t, 32> windowsCharacters{
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
-constexpr int firstWindowsCharacter = 128;
-
-char32_t fromWindows(int code)
-{
-    const int place = code - firstWindowsCharacter;
-    return place >= 0 && place < int(windowsCharacters.size()) ? windowsCharacters[std::size_t(place)]
-                                                               : char32_t(code);
 }
 
 char32_t firstCharacter(std::string_view text)
@@ -261,17 +247,13 @@ void stringOf(Call &call)
         call.give(repeated(utf8::encoded(firstCharacter(call.text(1))), count));
         return;
     }
-    const int code = call.whole(1) % 256;
-    call.give(repeated(utf8::encoded(fromWindows(code < 0 ? code + 256 : code)), count));
+    call.give(repeated(utf8::encoded(windows1252::character(uchar(call.whole(1)))), count));
 }
 
 void codeOf(Call &call)
 {
     const char32_t code = firstCharacter(call.text(0));
-    if (const auto place = std::ranges::find(windowsCharacters, code); place != windowsCharacters.end())
-        call.giveWhole(firstWindowsCharacter + (place - windowsCharacters.begin()));
-    else
-        call.giveWhole(code < 256 ? std::int64_t(code) : '?');
+    call.giveWhole(windows1252::byte(code).value_or('?'));
 }
 
 void characterOf(Call &call)
@@ -279,7 +261,7 @@ void characterOf(Call &call)
     const int code = call.whole(0);
     if (code < 0 || code > 255)
         raiseInvalidCall();
-    call.give(utf8::encoded(fromWindows(code)));
+    call.give(utf8::encoded(windows1252::character(uchar(code))));
 }
 
 void unicodeOf(Call &call)

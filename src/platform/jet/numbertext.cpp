@@ -1,7 +1,6 @@
 #include "platform/jet/numbertext.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -143,21 +142,6 @@ double leadingNumber(std::string_view text)
     if (isNumber)
         readDouble(rest, value);
     return value;
-}
-
-std::string numberText(double number)
-{
-    constexpr double exact = 1e15;
-    if (std::abs(number) < exact && std::trunc(number) == number)
-        return std::to_string(static_cast<std::int64_t>(number));
-    // The same digits as numberToText of base/value.h, without a QString in between.
-    constexpr int significantDigits = 15;
-    std::array<char, 40> buffer;
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                   std::chars_format::general, significantDigits)
-                         .ptr;
-    std::replace(buffer.data(), end, 'e', 'E');
-    return {buffer.data(), end};
 }
 
 } // namespace jet

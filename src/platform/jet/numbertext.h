@@ -29,7 +29,4 @@ const char *readDouble(std::string_view digits, double &number);
 /// infinite when it is too large.
 [[nodiscard]] double leadingNumber(std::string_view text);
 
-/// Without blanks, up to 15 significant digits.
-[[nodiscard]] std::string numberText(double number);
-
 } // namespace jet

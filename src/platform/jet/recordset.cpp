@@ -145,11 +145,8 @@ void Recordset::clearRows()
     }
 }
 
-void Recordset::open(const QString &sql, Connection &connection, int cursor, int lock, int options)
+void Recordset::open(const QString &sql, Connection &connection)
 {
-    Q_UNUSED(cursor);
-    Q_UNUSED(lock);
-    Q_UNUSED(options);
     if (m_open)
         raiseOpen();
     Filler filler(*this);
@@ -176,12 +173,6 @@ void Recordset::close()
     m_open = false;
     if (m_rows > 0)
         clearRows();
-}
-
-bool Recordset::bof() const
-{
-    requireOpen();
-    return m_rows == 0;
 }
 
 bool Recordset::eof() const
@@ -381,9 +372,8 @@ void Fields::clear()
     m_recordset->m_columns.clear();
 }
 
-void Fields::append(const QString &name, FieldType type, int size, int attributes)
+void Fields::append(const QString &name, FieldType type, int size)
 {
-    Q_UNUSED(attributes);
     if (m_recordset->m_open)
         raiseOpen();
     auto header = std::make_shared<std::vector<HeaderField>>();

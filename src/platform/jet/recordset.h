@@ -47,7 +47,7 @@ public:
     /// The index of a name, or -1.
     [[nodiscard]] int indexOf(QStringView name) const;
     /// Adds a field to a closed recordset that is being made in memory.
-    void append(const QString &name, FieldType type, int size, int attributes = -1);
+    void append(const QString &name, FieldType type, int size);
     /// Drops the fields of a closed recordset.
     void clear();
 
@@ -63,11 +63,6 @@ private:
 class Recordset final
 {
 public:
-    // Rows are always a disconnected copy: these are kept for callers that state them, and never read.
-    int cursorType = 0;
-    int cursorLocation = 3;
-    int lockType = 1;
-
     Recordset();
     ~Recordset();
     Recordset(const Recordset &) = delete;
@@ -76,16 +71,13 @@ public:
     /// Runs the statement and takes all of its rows. Raises ObjectOpen (3705) when open,
     /// ConnectionClosed (3709), or the statement's error. A statement that returns no
     /// rows at all leaves the recordset closed.
-    void open(const QString &sql, Connection &connection, int cursor = -1, int lock = -1, int options = -1);
+    void open(const QString &sql, Connection &connection);
     /// Opens a recordset made in memory, without rows.
     void open();
     /// Raises ObjectClosed (3704) when not open.
     void close();
     [[nodiscard]] int state() const { return m_open ? StateOpen : StateClosed; }
-    /// Rows are always disconnected; kept so that callers can say so.
-    void setActiveConnection(std::nullptr_t) {}
 
-    [[nodiscard]] bool bof() const;
     [[nodiscard]] bool eof() const;
     [[nodiscard]] int recordCount() const;
     /// The moves raise NoCurrentRecord (3021) where there is no record to move from.

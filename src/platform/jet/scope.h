@@ -32,6 +32,9 @@ struct Scope
     const std::vector<SelectItem> *items = nullptr;
     std::size_t visibleItems = 0;
     bool hasAggregate = false;
+    /// What is being emitted goes into a query within this one, where SQLite takes an aggregate that names no
+    /// column of this one for its own.
+    bool goesInside = false;
     /// The columns of this scope that sub-queries have used so far, and what they have used by its alias.
     std::vector<const Expression *> borrowed;
 
