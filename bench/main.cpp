@@ -24,8 +24,9 @@ int main(int argc, char **argv)
     TableReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     std::string table = reporter.table();
-    if (const std::string readers = reporter.readersTable(); !readers.empty())
-        table += "\n" + readers;
+    for (const std::string &further : {reporter.stepsTable(), reporter.readersTable()})
+        if (!further.empty())
+            table += "\n" + further;
     std::printf("\n%s", table.c_str());
     if (argc == 2 && !(std::ofstream(argv[1]) << table)) {
         std::fprintf(stderr, "%s cannot be written\n", argv[1]);

@@ -28,6 +28,9 @@ constexpr Comparison comparisons[] = {
     {"sorting last names, against NOCASE", "Sort", "SortNoCase", 3, false},
     {"LIKE '%er%', against SQLite's", "Like", "LikeOfSqlite", 2},
     {"`addUsers` of a global group", "AddUsers", "AddUsersByHand", 2, false},
+    {"sorting a list by texts, against sorting the bare keys", "SortTexts", "SortTextKeys", 2, false},
+    {"sorting a list by numbers, against sorting the bare keys", "SortNumbers", "SortNumberKeys", 2, false},
+    {"sorting a list by dates, against sorting the bare keys", "SortDates", "SortDateKeys", 2, false},
     {"`AddPermissionsBatch`", "AddPermissionsBatch", "AddPermissionsBatchByHand", 2, false},
 };
 
@@ -86,7 +89,7 @@ std::string TableReporter::table() const
     std::string table =
         "| what, a row | rows | Kelvane | floor | ratio | goal |\n|---|---|---|---|---|---|\n";
     for (const Comparison &comparison : comparisons)
-        for (const int rows : {few, many}) {
+        for (const int rows : {few, many, most}) {
             const Measured *ours = find(comparison.subject, rows);
             const Measured *floor = find(comparison.floor, rows);
             if (ours && floor)
@@ -124,6 +127,27 @@ std::string TableReporter::table() const
                  withUnit(bytes / many, "bytes"), withUnit(texts / many, "bytes"), bytes / texts, memoryGoal);
     }
     return table;
+}
+
+std::string TableReporter::stepsTable() const
+{
+    constexpr std::pair<const char *, const char *> steps[] = {
+        {"select all (Ctrl+A)", "SelectAll"},          {"select a row in the middle", "SelectOne"},
+        {"remove 1,000 rows", "RemoveThousand"},       {"quick jump that finds nothing", "QuickJump"},
+        {"close the list, all selected", "CloseList"},
+    };
+    std::string table = "| a step on a list | 100,000 rows | 1,000,000 rows |\n|---|---|---|\n";
+    bool any = false;
+    for (const auto &[what, name] : steps) {
+        const Measured *smaller = find(name, many);
+        const Measured *larger = find(name, most);
+        if (!smaller || !larger)
+            continue;
+        any = true;
+        table += std::string("| ") + what + " | " + withUnit(smaller->milliseconds, "ms") + " | " +
+                 withUnit(larger->milliseconds, "ms") + " |\n";
+    }
+    return any ? table : std::string();
 }
 
 std::string TableReporter::readersTable() const

@@ -16,6 +16,9 @@ public:
     /// Each comparison with its goal as a markdown table; rows that were not run are left out.
     [[nodiscard]] std::string table() const;
 
+    /// What single steps on a large list take.
+    [[nodiscard]] std::string stepsTable() const;
+
     /// Each reading method beside its query by hand, how its time grows and what it reads with.
     [[nodiscard]] std::string readersTable() const;
 
