@@ -38,6 +38,7 @@ std::function<void()> &processEnd()
 void registerFamilies()
 {
     modUsers::registerFamily();
+    modUsers::registerImport();
 }
 
 void installDesktop()

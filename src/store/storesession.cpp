@@ -1,5 +1,6 @@
 #include "store/storesession.h"
 
+#include "platform/jet/database.h"
 #include "platform/jet/errors.h"
 
 #include <utility>
@@ -10,10 +11,30 @@ StoreSession::StoreSession(const QString &connectionString)
     m_command.setActiveConnection(&m_connection);
 }
 
+StoreSession::~StoreSession()
+{
+    if (isOpen() && !m_isPatient)
+        setPatience(jet::Database::usualPatience);
+}
+
 void StoreSession::close()
 {
-    if (m_connection.state() != jet::StateClosed)
-        m_connection.close();
+    if (!isOpen())
+        return;
+    if (!m_isPatient)
+        setPatience(jet::Database::usualPatience);
+    m_connection.close();
+}
+
+bool StoreSession::hasPendingChanges() const
+{
+    return m_connection.database().hasPendingChanges();
+}
+
+void StoreSession::setPatience(std::chrono::milliseconds patience)
+{
+    m_isPatient = patience == jet::Database::usualPatience;
+    m_connection.database().setPatience(patience);
 }
 
 void StoreSession::execute(QString sql)
@@ -26,7 +47,7 @@ void StoreSession::executeSkippingErrors(QString sql)
 {
     try {
         execute(std::move(sql));
-    } catch (const jet::ChangesLost &) {
+    } catch (const jet::StoreFailure &) {
         throw;
     } catch (const Error &) {
     }

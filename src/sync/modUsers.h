@@ -30,4 +30,7 @@ void listUsersByHW(frmDisplay *view, int hardwareType, const QString &name);
 /// when the reading is. Raises nothing.
 void importUsersFromFile(QWidget *owner, const QString &path);
 
+/// Makes it the import of users of the import dialog. Called once at start.
+void registerImport();
+
 } // namespace modUsers
