@@ -50,14 +50,11 @@ void fill(jet::Recordset &records, int rows)
 
 void addBatch(const QString &store, jet::Recordset &records, int expectedNew, int expectedUpdated)
 {
-    int added = 0;
-    int updated = 0;
-    int failed = 0;
-    QString failures;
-    clsUsers().AddBatchFromFile(jet::connectionString(store), records, false, added, updated, failed,
-                                failures);
-    if (added != expectedNew || updated != expectedUpdated || failed != 0)
-        throwError(1, "The batch failed: "_L1 + failures.left(200));
+    NoSteps steps;
+    const UserBatchReport report =
+        clsUsers().AddBatchFromFile(jet::connectionString(store), records, false, steps);
+    if (report.added != expectedNew || report.updated != expectedUpdated || report.failed != 0)
+        throwError(1, "The batch failed: "_L1 + report.text.left(200));
 }
 
 /// The same reads and writes on prepared statements in one transaction.

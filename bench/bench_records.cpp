@@ -203,12 +203,13 @@ void AddPermissionsBatch(benchmark::State &state)
     const Permissions lines(sample, int(state.range(0)));
     for (auto _ : state) {
         const QString store = workbench::copyOf(sample);
-        QString errors;
+        NoSteps steps;
         workbench::measure(state, [&] {
-            clsFolders().AddPermissionsBatch(jet::connectionString(store), lines.paths, lines.names,
-                                             lines.servers, lines.permissions, errors);
-            if (!errors.isEmpty())
-                throwError(1, errors.left(200));
+            const Report report =
+                clsFolders().AddPermissionsBatch(jet::connectionString(store), lines.paths, lines.names,
+                                                 lines.servers, lines.permissions, steps);
+            if (!report.text.isEmpty())
+                throwError(1, report.text.left(200));
         });
         workbench::removeStore(store);
     }

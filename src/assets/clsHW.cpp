@@ -30,7 +30,7 @@ void clsHW::Add(const QString &connectionString, const HWRecord &item)
 
 void clsHW::addRooms(const QString &connectionString, int id, std::span<const int> rooms, bool deleteSW)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         clearRelations(store, roomsOfItem, id);
         if (!rooms.empty())
             clearRelations(store, usersOfItem, id);
@@ -42,7 +42,7 @@ void clsHW::addRooms(const QString &connectionString, int id, std::span<const in
 
 void clsHW::addUsers(const QString &connectionString, int id, std::span<const int> users)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         clearRelations(store, usersOfItem, id);
         if (!users.empty())
             clearRelations(store, roomsOfItem, id);

@@ -80,7 +80,7 @@ void clsRooms::addUsers(const QString &connectionString, int id, std::span<const
 
 void clsRooms::addHW(const QString &connectionString, int id, std::span<const int> items, bool deleteSW)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         const QString room = QString::number(id);
         store.execute(withId("DELETE FROM Tbl_RoomHW WHERE RoomID={id}"_L1, id));
         for (const int itemId : items) {

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStandardItemModel>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +33,7 @@ QLabel *labelFor(QWidget *field, const QString &text)
 {
     auto *label = new QLabel(text);
     label->setBuddy(field);
+    field->setAccessibleName(text);
     return label;
 }
 
@@ -58,7 +60,6 @@ frmImport::frmImport(QWidget *owner)
     arrange();
 
     const auto onClick = [this](QPushButton *button, std::function<void()> handler) {
-        button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this,
                 [this, handler = std::move(handler)] { guarded(this, handler); });
     };
@@ -73,6 +74,17 @@ frmImport::frmImport(QWidget *owner)
 void frmImport::OK()
 {
     modImport::startImport(this, cboImportType->currentText(), txtFileName->text());
+}
+
+void frmImport::addType(const QString &name, const QString &whyNot)
+{
+    cboImportType->addItem(name);
+    if (whyNot.isEmpty())
+        return;
+    auto *model = qobject_cast<QStandardItemModel *>(cboImportType->model());
+    QStandardItem *item = model->item(model->rowCount() - 1);
+    item->setEnabled(false);
+    item->setToolTip(whyNot);
 }
 
 void frmImport::arrange()

@@ -3,11 +3,11 @@
 #include "exchange/frmImport.h"
 #include "messages/showresult.h"
 #include "platform/desktop/desktop.h"
-#include "sync/modUsers.h"
 #include "toolkit/messagebox.h"
 
 #include <QComboBox>
 #include <QFileInfo>
+#include <QHash>
 
 #include <algorithm>
 
@@ -15,26 +15,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void notYetImplemented(QWidget *owner, const QString &)
+constexpr auto notYetImplemented = "Not yet implemented. Sorry for the Inconvenience"_L1;
+
+QHash<QString, modImport::Reader> &readers()
 {
-    messageBox(owner, u"Not yet implemented. Sorry for the Inconvenience"_s, box::Ok | box::InformationIcon);
+    static QHash<QString, modImport::Reader> registered;
+    return registered;
 }
 
 constexpr modImport::ImportType types[] = {
-    {"Global Groups (Root Data)"_L1,
-     "Please use following Data Format to Import Global Groups:\r\n\r\n"
-     "GlobalGroupName 1;ServerName;Description 1\r\n"
-     "GlobalGroupName 2;ServerName;Description 2\r\n"
-     "...\r\n"
-     "GlobalGroupName N;ServerName;Description N"_L1,
-     notYetImplemented},
-    {"Local Groups (Root Data)"_L1,
-     "Please use following Data Format to Import Local Groups:\r\n\r\n"
-     "LocalGroupName 1;ServerName;Description 1\r\n"
-     "LocalGroupName 2;ServerName;Description 2\r\n"
-     "...\r\n"
-     "LocalGlobalGroupName N;ServerName;Description N"_L1,
-     notYetImplemented},
+    {"Global Groups (Root Data)"_L1, "Please use following Data Format to Import Global Groups:\r\n\r\n"
+                                     "GlobalGroupName 1;ServerName;Description 1\r\n"
+                                     "GlobalGroupName 2;ServerName;Description 2\r\n"
+                                     "...\r\n"
+                                     "GlobalGroupName N;ServerName;Description N"_L1},
+    {"Local Groups (Root Data)"_L1, "Please use following Data Format to Import Local Groups:\r\n\r\n"
+                                    "LocalGroupName 1;ServerName;Description 1\r\n"
+                                    "LocalGroupName 2;ServerName;Description 2\r\n"
+                                    "...\r\n"
+                                    "LocalGlobalGroupName N;ServerName;Description N"_L1},
     {"Users (Root Data)"_L1,
      "Please use following Data Format to Import Users:\r\n\r\n"
      "UserName1;ServerName1;FullName1;Comment1;UserComment1;HomeDirDrive1;HomeDir1;Profile1;ScriptPath1;"
@@ -43,8 +42,7 @@ constexpr modImport::ImportType types[] = {
      "AccountDisabled2;NoChangePassword2;PasswordNeverExpires2\r\n"
      "...\r\n"
      "UserNameN;ServerNameN;FullNameN;CommentN;UserCommentN;HomeDirDriveN;HomeDirN;ProfileN;ScriptPathN;"
-     "AccountDisabledN;NoChangePasswordN;PasswordNeverExpiresN"_L1,
-     modUsers::importUsersFromFile},
+     "AccountDisabledN;NoChangePasswordN;PasswordNeverExpiresN"_L1},
     {"Global Groups Users (Relationships)"_L1,
      "Please use following Data Format to Import Global Group Users:\r\n\r\n"
      "GlobalGroupName 1;GlobalGroupServer 1;UserName 1;UserServer 1\r\n"
@@ -56,22 +54,18 @@ constexpr modImport::ImportType types[] = {
      "...\r\n"
      "GlobalGroupName 2;GlobalGroupServer 2;UserName N;UserServer N\r\n"
      "...\r\n"
-     "GlobalGroupName N;GlobalGroupServer N;UserName N;UserServer N"_L1,
-     notYetImplemented},
+     "GlobalGroupName N;GlobalGroupServer N;UserName N;UserServer N"_L1},
     {"Local Group - Global Groups (Relationships)"_L1,
      "Please use following Data Format to Import Local Group Members:\r\n\r\n"
      "LocalGroupName 1;LocalGroupServer 1;GlobalGroupName 1,GlobalGroupServer 1\r\n"
      "LocalGroupName 2;LocalGroupServer 2;GlobalGroupName 2;GlobalGroupServer 2\r\n"
      "...\r\n"
-     "LocalGroupName N;LocalGroupServer N;GlobalGroupName N,GlobalGroupServer N"_L1,
-     notYetImplemented},
-    {"Folders (Root Data)"_L1,
-     "Please use following Data Format to Import Folders:\r\n\r\n"
-     "Folder 1;Description 1\r\n"
-     "Folder 2;Description 2\r\n"
-     "...\r\n"
-     "Folder N;Description N"_L1,
-     notYetImplemented},
+     "LocalGroupName N;LocalGroupServer N;GlobalGroupName N,GlobalGroupServer N"_L1},
+    {"Folders (Root Data)"_L1, "Please use following Data Format to Import Folders:\r\n\r\n"
+                               "Folder 1;Description 1\r\n"
+                               "Folder 2;Description 2\r\n"
+                               "...\r\n"
+                               "Folder N;Description N"_L1},
     {"Folder Permissions (Relationships)"_L1,
      "Please use following Data Format to Import Folder Permissions:\r\n\r\n"
      "Folder 1;UserName 1;Server 1;Premission 1\r\n"
@@ -85,8 +79,7 @@ constexpr modImport::ImportType types[] = {
      "Folder N;UserName 1;Server 1;Premission 1\r\n"
      "Folder N;UserName 2;Server 2;Premission 2\r\n"
      "...\r\n"
-     "Folder N;UserName N;Server N;Premission N"_L1,
-     notYetImplemented},
+     "Folder N;UserName N;Server N;Premission N"_L1},
 };
 
 void warn(QWidget *owner, const QString &text)
@@ -110,6 +103,12 @@ bool isDataFile(QWidget *owner, const QString &path)
 
 namespace modImport {
 
+void registerReader(QLatin1StringView typeName, Reader reader)
+{
+    Q_ASSERT(importType(QString(typeName)));
+    readers().insert(typeName, reader);
+}
+
 std::span<const ImportType> importTypes()
 {
     return types;
@@ -125,7 +124,7 @@ void showImport(QWidget *owner)
 {
     frmImport dialog(owner);
     for (const ImportType &type : types)
-        dialog.cboImportType->addItem(type.name);
+        dialog.addType(type.name, readers().contains(type.name) ? QString() : notYetImplemented);
     dialog.cboImportType->setCurrentIndex(-1);
     dialog.exec();
 }
@@ -137,8 +136,8 @@ void startImport(QWidget *owner, const QString &typeName, const QString &path)
     if (messageBox(owner, u"Are you sure you want to start the selected Import?"_s,
                    box::YesNo | box::WarningIcon) != box::ResultYes)
         return;
-    if (const ImportType *type = importType(typeName))
-        type->read(owner, path);
+    if (const Reader read = readers().value(typeName))
+        read(owner, path);
     else
         warn(owner, u"Please Select the Import Type"_s);
 }

@@ -15,8 +15,13 @@ struct ImportType
 {
     QLatin1StringView name;   ///< as the user picks it
     QLatin1StringView format; ///< what the information button shows
-    void (*read)(QWidget *owner, const QString &path);
 };
+
+/// Reads the file into the store and reports to the owner. Raises nothing.
+using Reader = void (*)(QWidget *owner, const QString &path);
+
+/// Called by the families at start, with the name of a type. A type without a reader cannot be chosen.
+void registerReader(QLatin1StringView typeName, Reader reader);
 
 /// In the order in which they are offered.
 [[nodiscard]] std::span<const ImportType> importTypes();

@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -13,21 +14,37 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 chunkSize = 64 * 1024;
-constexpr qint64 longestByteOrderMark = 4;
+constexpr qsizetype longestLine = 1024 * 1024;
 
 [[noreturn]] void refuse(const QString &path, const QString &reason)
 {
     throwError(FileAccessError, "The File '"_L1 + path + "' could not be read: "_L1 + reason);
 }
 
-LineStream::Encoding markedEncoding(const QString &path)
+/// UTF-16 by its looks: of most characters one byte is 0, always the same one of the two.
+LineStream::Encoding alternatingEncoding(QByteArrayView bytes)
+{
+    qsizetype zeros[2] = {};
+    for (qsizetype i = 0; i < bytes.size(); ++i)
+        zeros[i % 2] += bytes[i] == 0 ? 1 : 0;
+    const auto isHigh = [&](int half) { return zeros[half] > bytes.size() / 4 && zeros[1 - half] == 0; };
+    if (isHigh(1))
+        return QStringConverter::Utf16LE;
+    if (isHigh(0))
+        return QStringConverter::Utf16BE;
+    return std::nullopt;
+}
+
+LineStream::Encoding encodingByBeginning(const QString &path)
 {
     if (QFileInfo(path).isDir())
         refuse(path, u"It is a folder."_s);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         refuse(path, file.errorString());
-    return QStringConverter::encodingForData(file.read(longestByteOrderMark));
+    const QByteArray beginning = file.read(chunkSize);
+    const LineStream::Encoding marked = QStringConverter::encodingForData(beginning);
+    return marked ? marked : alternatingEncoding(beginning);
 }
 
 int countLines(LineStream &lines)
@@ -60,7 +77,7 @@ bool LineStream::readLine(QString &line)
         while (searched < m_text.size() && m_text[searched] != u'\n' && m_text[searched] != u'\r')
             ++searched;
         if (searched < m_text.size()) {
-            line = m_text.sliced(m_begin, searched - m_begin);
+            take(line, searched - m_begin);
             m_lineFeedBelongsToLast = m_text[searched] == u'\r';
             m_begin = searched + 1;
             return true;
@@ -68,11 +85,24 @@ bool LineStream::readLine(QString &line)
         searched -= m_begin;
         m_text.remove(0, m_begin);
         m_begin = 0;
+        if (searched > longestLine) {
+            m_dropped = true;
+            m_text.truncate(longestLine);
+            searched = longestLine;
+        }
         if (!readChunk())
             break;
     }
-    line = std::exchange(m_text, QString());
-    return !line.isEmpty();
+    const bool isLine = !m_text.isEmpty();
+    take(line, m_text.size());
+    m_text.clear();
+    return isLine;
+}
+
+void LineStream::take(QString &line, qsizetype size)
+{
+    m_isCut = std::exchange(m_dropped, false) || size > longestLine;
+    line = m_text.sliced(m_begin, std::min(size, longestLine));
 }
 
 bool LineStream::sawInvalidBytes() const
@@ -92,7 +122,7 @@ bool LineStream::readChunk()
         return true;
     }
     m_file.close();
-    // A character that is cut off at the end is only seen with something behind it.
+    // A character that is cut off at the end is only seen with something after it.
     if (m_decoder && m_decoder->isValid()) {
         const QString rest = m_decoder->decode("\n");
         if (rest.size() > 1)
@@ -115,15 +145,14 @@ void LineStream::append(QByteArrayView bytes)
 
 ImportFile::ImportFile(const QString &path)
 {
-    const LineStream::Encoding marked = markedEncoding(path);
+    const LineStream::Encoding marked = encodingByBeginning(path);
     LineStream::Encoding encoding = marked.value_or(QStringConverter::Utf8);
     LineStream probe(path, encoding);
     m_lineCount = countLines(probe);
     if (probe.sawInvalidBytes()) {
         if (marked)
-            refuse(path, "It is marked as "_L1 +
-                             QLatin1StringView(QStringConverter::nameForEncoding(*marked)) +
-                             " and holds bytes that are no text of it."_L1);
+            refuse(path, "It begins as "_L1 + QLatin1StringView(QStringConverter::nameForEncoding(*marked)) +
+                             " and holds bytes that are not text of it."_L1);
         encoding.reset();
         LineStream again(path, encoding);
         m_lineCount = countLines(again);

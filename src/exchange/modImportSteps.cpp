@@ -11,7 +11,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int stepsOfAPhase = 100;
+constexpr auto cancelled = "The Import was cancelled. What was written stays in the Database."_L1;
+constexpr auto lost = "The Import was broken off because the Database can no longer be written."_L1;
 constexpr auto resultTitle = "Import/Export Result"_L1;
+
+constexpr qsizetype longestField = 255;
 
 QString faultOf(const modImportSteps::Fields &fields, const modImportSteps::LineFormat &format)
 {
@@ -19,7 +23,15 @@ QString faultOf(const modImportSteps::Fields &fields, const modImportSteps::Line
         if (qsizetype(i) >= fields.size() || fields[qsizetype(i)].isEmpty())
             return format.whenEmpty[i];
     }
-    return fields.size() < format.leastFields ? u"Fields missing on Line "_s : QString();
+    if (fields.size() < format.leastFields)
+        return u"Fields missing on Line "_s;
+    for (const QStringView field : fields.first(format.leastFields)) {
+        if (field.size() > longestField)
+            return u"Field longer than %1 Characters on Line "_s.arg(longestField);
+        if (field.contains(QChar::Null))
+            return u"Field with a Null Character on Line "_s;
+    }
+    return {};
 }
 
 QString errorReport(const QString &path, const QString &fileErrors, const QString &batchErrors)
@@ -51,44 +63,46 @@ int strideOf(int total)
     return std::max(1, total / stepsOfAPhase);
 }
 
-bool readLines(const QString &path, const LineFormat &format, Steps &steps, QString &errors,
-               const std::function<void(const Fields &)> &take)
+FileReport readLines(const QString &path, const LineFormat &format, Steps &steps,
+                     const std::function<void(const Fields &)> &take)
 {
+    FileReport report;
     ImportFile file(path);
     steps.phase(u"Reading Data from File. Please Wait."_s, file.lineCount(), strideOf(file.lineCount()));
     QString line;
     for (int number = 1; file.readLine(line); ++number) {
         const Fields fields = QStringView(line).split(u';');
-        if (!steps.step(fields.front().toString()))
-            return false;
-        const QString fault = faultOf(fields, format);
+        if (!steps.step(fields.front().toString())) {
+            report.isCancelled = true;
+            break;
+        }
+        const QString fault = file.isLineCut() ? u"Line too long on Line "_s : faultOf(fields, format);
         if (fault.isEmpty())
             take(fields);
         else
-            errors += "\r\n"_L1 + fault + QString::number(number);
+            report.errors += "\r\n"_L1 + fault + QString::number(number);
     }
-    return true;
+    return report;
 }
 
-void reportImport(QWidget *owner, const QString &path, const QString &fileErrors, const QString &batchErrors,
-                  const QString &success)
+void reportImport(QWidget *owner, const QString &path, const ImportReport &report, const QString &success)
 {
-    if (fileErrors.isEmpty() && batchErrors.isEmpty())
+    const bool hasErrors = !report.fileErrors.isEmpty() || !report.batchErrors.isEmpty();
+    const bool isFinished = report.end == Report::End::Finished;
+    if (isFinished && !hasErrors) {
         messageBox(owner, success, box::Ok | box::InformationIcon);
-    else
-        showResult(owner, errorReport(path, fileErrors, batchErrors), resultTitle);
-}
-
-void reportCancelledImport(QWidget *owner, const QString &path, const ImportCounts &counts,
-                           const QString &fileErrors, const QString &batchErrors)
-{
-    QString text = u"The Import was cancelled. What was written stays in the Database.\r\n\r\n"
-                   "New Users:     \t\t%1\r\nUpdated Users: \t\t%2\r\nErrors encountered: \t%3\r\n\r\n"_s
-                       .arg(counts.added)
-                       .arg(counts.updated)
-                       .arg(counts.failed);
-    if (!fileErrors.isEmpty() || !batchErrors.isEmpty())
-        text += errorReport(path, fileErrors, batchErrors);
+        return;
+    }
+    QString text;
+    if (!isFinished) {
+        text = (report.end == Report::End::Lost ? lost : cancelled) +
+               u"\r\n\r\nNew Users:     \t\t%1\r\nUpdated Users: \t\t%2\r\nErrors encountered: \t%3\r\n\r\n"_s
+                   .arg(report.added)
+                   .arg(report.updated)
+                   .arg(report.failed);
+    }
+    if (hasErrors)
+        text += errorReport(path, report.fileErrors, report.batchErrors);
     showResult(owner, text, resultTitle);
 }
 

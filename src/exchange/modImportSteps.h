@@ -31,26 +31,31 @@ struct LineFormat
 
 using Fields = QList<QStringView>;
 
-/// Splits each line at its semicolons and hands the good ones over, in the order of the
-/// file; a bad one adds a message with its number to the errors. False when the user has
-/// cancelled. Raises FileAccessError.
-[[nodiscard]] bool readLines(const QString &path, const LineFormat &format, Steps &steps, QString &errors,
-                             const std::function<void(const Fields &)> &take);
-
-/// The success text in a box when neither the lines nor the batch had errors, otherwise
-/// both kinds in the result window.
-void reportImport(QWidget *owner, const QString &path, const QString &fileErrors, const QString &batchErrors,
-                  const QString &success);
-
-struct ImportCounts
+/// What came of the lines of a file.
+struct FileReport
 {
+    bool isCancelled = false;
+    QString errors; ///< a line for each bad one, with its number
+};
+
+/// Splits each line at its semicolons and hands the good ones over, in the order of the file. Raises
+/// FileAccessError.
+[[nodiscard]] FileReport readLines(const QString &path, const LineFormat &format, Steps &steps,
+                                   const std::function<void(const Fields &)> &take);
+
+/// The end of an import, of its lines and of the batch that wrote them.
+struct ImportReport
+{
+    Report::End end = Report::End::Finished;
     int added = 0;
     int updated = 0;
     int failed = 0;
+    QString fileErrors;
+    QString batchErrors;
 };
 
-/// An import that was cancelled while it wrote: what is done stays, so it is told.
-void reportCancelledImport(QWidget *owner, const QString &path, const ImportCounts &counts,
-                           const QString &fileErrors, const QString &batchErrors);
+/// The success text in a box when the import ran to its end and neither the lines nor the batch had errors,
+/// otherwise the result window: why it ended early and what it did until then, and both kinds of errors.
+void reportImport(QWidget *owner, const QString &path, const ImportReport &report, const QString &success);
 
 } // namespace modImportSteps

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/jet/recordset.h"
-#include "store/batchrecords.h"
 #include "store/recordclass.h"
 
 #include <QString>
@@ -15,8 +14,8 @@
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Every method
 /// raises the store's error, and what was written before it stays. AddBatch and
-/// AddPermissionsBatch raise only when the store does not open: what fails in them is told by
-/// the errors text, which is added to. Nothing is escaped. Parallel lists are of one length.
+/// AddPermissionsBatch go on after an item that fails, and report it; a store that does not open or can no
+/// longer be written ends them. Nothing is escaped. Parallel lists are of one length.
 class clsFolders final : public RecordClass
 {
 public:
@@ -29,14 +28,14 @@ public:
     /// Takes all permissions away and leaves the folders.
     void RemoveAllPermissions(const QString &connectionString, std::span<const int> ids);
     /// A new folder is inserted, a known one gets the description unless existing ones are
-    /// kept. Takes a breath after each statement.
-    void AddBatch(const QString &connectionString, const QStringList &paths, const QStringList &descriptions,
-                  bool keepExisting, QString &errors, const Breath &breath = {});
+    /// kept.
+    [[nodiscard]] Report AddBatch(const QString &connectionString, const QStringList &paths,
+                                  const QStringList &descriptions, bool keepExisting, Steps &steps);
     /// Gives a local group or, when there is none of that name and server, a user a permission
-    /// on a folder in place of the one it has. What could not be looked up is told as not there.
-    void AddPermissionsBatch(const QString &connectionString, const QStringList &paths,
-                             const QStringList &names, const QStringList &servers,
-                             const QStringList &permissions, QString &errors);
+    /// on a folder in place of the one it has. What could not be looked up is reported as not there.
+    [[nodiscard]] Report AddPermissionsBatch(const QString &connectionString, const QStringList &paths,
+                                             const QStringList &names, const QStringList &servers,
+                                             const QStringList &permissions, Steps &steps);
     /// Replaces all permissions on a folder by those of the records, fields Name, Server and
     /// Permission, users first and global groups last. The path is used as it stands. Returns the
     /// accounts that are neither a user nor a group nor a default permission, each with a comma. An

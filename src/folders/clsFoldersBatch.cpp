@@ -2,6 +2,7 @@
 
 #include "folders/folderstatements.h"
 #include "platform/jet/errors.h"
+#include "store/batchrun.h"
 #include "store/statement.h"
 #include "store/storesession.h"
 
@@ -15,47 +16,31 @@ constexpr auto notAdded = " could not be added to DB"_L1;
 constexpr auto unknownFolder = " not in DB"_L1;
 constexpr auto unknownAccount = " is not a Local Group and not a User in DB"_L1;
 
-void addLine(QString &errors, const QString &what, QLatin1StringView complaint)
+QString line(const QString &what, QLatin1StringView complaint)
 {
-    errors += "\r\n"_L1 + what + complaint;
+    return "\r\n"_L1 + what + complaint;
 }
 
-/// Runs statements whose failure does not end the batch. What is wrong with more than one statement, as
-/// changes of earlier ones that are lost, is told in a line of its own.
+/// Runs statements whose failure does not end the batch.
 class HeldBack final
 {
 public:
-    HeldBack(StoreSession &store, QString &errors, Breath breath = {})
-        : m_store(store)
-        , m_errors(errors)
-        , m_breath(std::move(breath))
-    {
-    }
+    explicit HeldBack(StoreSession &store) : m_store(store) {}
 
     bool execute(const QString &sql)
     {
-        const bool done = succeeds([&] { m_store.execute(sql); });
-        breathe();
-        return done;
+        return succeeds([&] { m_store.execute(sql); });
     }
 
     /// The first field of the first row, Null without a row; nothing when the statement failed.
     std::optional<Value> scalar(const QString &sql)
     {
         Value value;
-        const bool done = succeeds([&] { value = m_store.scalar(sql); });
-        breathe();
-        return done ? std::optional(value) : std::nullopt;
+        return succeeds([&] { value = m_store.scalar(sql); }) ? std::optional(value) : std::nullopt;
     }
 
     /// What the last statement failed with.
     [[nodiscard]] const QString &failure() const { return m_failure; }
-
-    /// Ends the visit.
-    void close()
-    {
-        tellFailure([this] { m_store.close(); });
-    }
 
 private:
     template <typename Step>
@@ -64,34 +49,15 @@ private:
         try {
             step();
             return true;
-        } catch (const jet::ChangesLost &error) {
-            addLine(m_errors, error.description(), {});
-            m_failure = error.description();
+        } catch (const jet::StoreFailure &) {
+            throw;
         } catch (const Error &error) {
             m_failure = error.description();
+            return false;
         }
-        return false;
-    }
-
-    template <typename Step>
-    void tellFailure(Step &&step)
-    {
-        try {
-            step();
-        } catch (const Error &error) {
-            addLine(m_errors, error.description(), {});
-        }
-    }
-
-    void breathe()
-    {
-        if (m_breath)
-            tellFailure(m_breath);
     }
 
     StoreSession &m_store;
-    QString &m_errors;
-    Breath m_breath;
     QString m_failure;
 };
 
@@ -120,6 +86,9 @@ struct FolderPermission
     QString name;
     QString server;
     QString permission;
+
+    [[nodiscard]] QString account() const { return server + u'\\' + name; }
+    [[nodiscard]] QString title() const { return path + u' ' + account(); }
 };
 
 std::optional<Value> folderId(HeldBack &store, const QString &path)
@@ -138,14 +107,14 @@ bool replacePermission(HeldBack &store, const AccountStatements &account, const 
     return store.execute(fill(account.remove)) && store.execute(fill(account.insert));
 }
 
-void writePermission(HeldBack &store, const FolderPermission &item, QString &errors)
+/// What could not be done, or nothing.
+QString writePermission(HeldBack &store, const FolderPermission &item)
 {
     std::optional<Value> folder = folderId(store, item.path);
-    // A second look: while another program writes, the first may have failed.
     if (!folder || folder->isNull())
         folder = folderId(store, item.path);
     if (!folder || folder->isNull())
-        return addLine(errors, item.path, unknownFolder);
+        return line(item.path, unknownFolder);
 
     for (const AccountStatements &account : accounts) {
         const std::optional<Value> id =
@@ -154,11 +123,11 @@ void writePermission(HeldBack &store, const FolderPermission &item, QString &err
             break; // it may be a local group: what the user of that name gets would be a guess
         if (id->isNull())
             continue;
-        if (!replacePermission(store, account, id->toText(), folder->toText(), item.permission))
-            addLine(errors, item.path + u' ' + item.server + u'\\' + item.name + u' ' + store.failure(), {});
-        return;
+        if (replacePermission(store, account, id->toText(), folder->toText(), item.permission))
+            return {};
+        return line(item.title() + u' ' + store.failure(), {});
     }
-    addLine(errors, item.server + u'\\' + item.name, unknownAccount);
+    return line(item.account(), unknownAccount);
 }
 
 /// Whether the folder is in the store now.
@@ -175,36 +144,58 @@ bool writeFolder(HeldBack &store, const QString &path, const QString &descriptio
                                 {{"description"_L1, description}, {"id"_L1, known->toText()}}));
 }
 
-} // namespace
-
-void clsFolders::AddBatch(const QString &connectionString, const QStringList &paths,
-                          const QStringList &descriptions, bool keepExisting, QString &errors,
-                          const Breath &breath)
+/// Takes the complaint about an item into the report.
+void take(Report &report, const QString &complaint)
 {
-    Q_ASSERT(paths.size() == descriptions.size());
-    withStore(connectionString, [&](StoreSession &session) {
-        HeldBack store(session, errors, breath);
-        for (qsizetype i = 0; i < paths.size(); ++i) {
-            const QString path = folderPath(paths[i]);
-            if (!writeFolder(store, path, descriptions.value(i), keepExisting))
-                addLine(errors, path, notAdded);
-        }
-        store.close();
-    });
+    ++(complaint.isEmpty() ? report.done : report.failed);
+    report.text += complaint;
 }
 
-void clsFolders::AddPermissionsBatch(const QString &connectionString, const QStringList &paths,
-                                     const QStringList &names, const QStringList &servers,
-                                     const QStringList &permissions, QString &errors)
+} // namespace
+
+Report clsFolders::AddBatch(const QString &connectionString, const QStringList &paths,
+                            const QStringList &descriptions, bool keepExisting, Steps &steps)
+{
+    Q_ASSERT(paths.size() == descriptions.size());
+    Report report;
+    runBatch(connectionString, steps, report, {&report.done}, [&](BatchRun &run) {
+        run.expect(int(paths.size()), paths.isEmpty() ? QString() : folderPath(paths.last()));
+        for (qsizetype i = 0; i < paths.size(); ++i) {
+            const QString path = folderPath(paths[i]);
+            const bool goesOn = run.item(path, [&](StoreSession &session) {
+                HeldBack store(session);
+                const bool written = writeFolder(store, path, descriptions.value(i), keepExisting);
+                take(report, written ? QString() : line(path, notAdded));
+            });
+            if (!goesOn)
+                break;
+        }
+    });
+    return report;
+}
+
+Report clsFolders::AddPermissionsBatch(const QString &connectionString, const QStringList &paths,
+                                       const QStringList &names, const QStringList &servers,
+                                       const QStringList &permissions, Steps &steps)
 {
     Q_ASSERT(paths.size() == names.size() && paths.size() == servers.size() &&
              paths.size() == permissions.size());
-    withStore(connectionString, [&](StoreSession &session) {
-        HeldBack store(session, errors);
-        for (qsizetype i = 0; i < paths.size(); ++i)
-            writePermission(store,
-                            {folderPath(paths[i]), names.value(i), servers.value(i), permissions.value(i)},
-                            errors);
-        store.close();
+    const auto itemAt = [&](qsizetype i) {
+        return FolderPermission{folderPath(paths[i]), names.value(i), servers.value(i), permissions.value(i)};
+    };
+    Report report;
+    runBatch(connectionString, steps, report, {&report.done}, [&](BatchRun &run) {
+        if (!paths.isEmpty())
+            run.expect(int(paths.size()), itemAt(paths.size() - 1).title());
+        for (qsizetype i = 0; i < paths.size(); ++i) {
+            const FolderPermission item = itemAt(i);
+            const bool goesOn = run.item(item.title(), [&](StoreSession &session) {
+                HeldBack store(session);
+                take(report, writePermission(store, item));
+            });
+            if (!goesOn)
+                break;
+        }
     });
+    return report;
 }

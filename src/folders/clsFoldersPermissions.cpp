@@ -70,7 +70,7 @@ QString clsFolders::addPermittedObjects(const QString &connectionString, const Q
 {
     enum { Name, Server, Permission };
     QString unknown;
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         const Value folder = store.scalar(
             joined("SELECT ID from Tbl_Folders WHERE FolderName ='{path}'"_L1, {{"path"_L1, folderName}}));
         if (folder.isNull())

@@ -9,6 +9,7 @@
 #include "toolkit/messagebox.h"
 
 #include <QFile>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int widthInCharacters = 120;
 constexpr int heightInLines = 26;
+constexpr int tabCharacters = 8;
 constexpr int textPicture = 12;
 
 } // namespace
@@ -42,9 +44,14 @@ frmResult::frmResult(QWidget *owner)
     txtResult->setObjectName("txtResult"_L1);
     txtResult->setAccessibleName(u"Result"_s);
     txtResult->setLineWrapMode(QPlainTextEdit::NoWrap);
+    // Texts align their columns by tabs of eight characters.
+    txtResult->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    txtResult->setTabStopDistance(tabCharacters * txtResult->fontMetrics().horizontalAdvance(u' '));
     mnuFile->setObjectName("mnuFile"_L1);
     mnuFileSave->setObjectName("mnuFileSave"_L1);
     mnuExit->setObjectName("mnuExit"_L1);
+    mnuFileSave->setShortcut(QKeySequence::Save);
+    mnuExit->setShortcut(Qt::Key_Escape);
 
     auto *inside = new QWidget;
     auto *layout = new QVBoxLayout(inside);

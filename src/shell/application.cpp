@@ -42,6 +42,7 @@ void registerFamilies()
     registerHandlers(modUsers::handlers());
     registerHandlers(modHW::handlers());
     registerHandlers(modRooms::handlers());
+    modUsers::registerImport();
 }
 
 void installDesktop()

@@ -19,6 +19,14 @@ BatchRecords::BatchRecords(jet::Recordset &records, std::span<const QLatin1Strin
     }
 }
 
+bool BatchRecords::last()
+{
+    if (m_records.recordCount() == 0)
+        return false;
+    m_records.moveLast();
+    return true;
+}
+
 bool BatchRecords::next()
 {
     if (m_records.recordCount() == 0)

@@ -5,14 +5,9 @@
 #include <QLatin1StringView>
 #include <QString>
 
-#include <functional>
 #include <initializer_list>
 #include <span>
 #include <vector>
-
-/// Lets the windows breathe in the middle of a batch, where what is pending goes to the disk: an Error it
-/// raises is one of the batch.
-using Breath = std::function<void()>;
 
 /// The walk of a batch over the records it is given, from the first, with the places of the
 /// fields looked up once:
@@ -33,6 +28,9 @@ public:
     {
     }
 
+    [[nodiscard]] int count() const { return m_records.recordCount(); }
+    /// Goes to the last record. To be called before the first next().
+    [[nodiscard]] bool last();
     [[nodiscard]] bool next();
     /// The value of a field, by its place in the list given; Null is the empty text.
     [[nodiscard]] QString text(std::size_t field) const;

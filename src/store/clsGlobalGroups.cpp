@@ -55,29 +55,29 @@ void clsGlobalGroups::Find(const QString &connectionString, jet::Recordset &resu
 void clsGlobalGroups::Add(const QString &connectionString, const QString &server, const QString &name,
                           const QString &description, int &id)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         addGroup(store, GroupKind::Global, server, name, description, id);
     });
 }
 
-void clsGlobalGroups::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting)
+void clsGlobalGroups::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
+                               Steps &steps, Report &report)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { addGroups(store, GroupKind::Global, records, leaveExisting); });
+    runBatch(connectionString, steps, report, {&report.done},
+             [&](BatchRun &run) { addGroups(run, GroupKind::Global, records, leaveExisting, report); });
 }
 
-void clsGlobalGroups::AddUsersBatch(const QString &connectionString, jet::Recordset &records,
-                                    QString &errorText, const Breath &breath)
+void clsGlobalGroups::AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps,
+                                    Report &report)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        addGroupUsers(store, GroupKind::Global, records, errorText, breath);
-    });
+    runBatch(connectionString, steps, report, {&report.done},
+             [&](BatchRun &run) { addGroupUsers(run, GroupKind::Global, records, report); });
 }
 
 void clsGlobalGroups::update(const QString &connectionString, int id, const QString &server,
                              const QString &name, const QString &description)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         updateGroup(store, GroupKind::Global, id, server, name, description);
     });
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/jet/recordset.h"
-#include "store/batchrecords.h"
 #include "store/recordclass.h"
 
 #include <QString>
@@ -31,13 +30,14 @@ public:
     void Add(const QString &connectionString, const QString &server, const QString &name,
              const QString &description, int &id);
     /// Writes the records, fields Name, Server and Description: a new group is inserted, a
-    /// known one gets the description or, with leaveExisting, is passed over.
-    void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting);
+    /// known one gets the description or, with leaveExisting, is passed over. Ends at the first record that
+    /// fails and raises its error; the report has what was done before.
+    void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting, Steps &steps,
+                  Report &report);
     /// Adds memberships, fields UserName, UserServer, GroupName and GroupServer. A user or a
-    /// group that is not in the store gets an entry of the error text, which is added to.
-    /// Takes a breath after each record.
-    void AddUsersBatch(const QString &connectionString, jet::Recordset &records, QString &errorText,
-                       const Breath &breath = {});
+    /// group that is not in the store gets an entry of the report. Ends like AddBatch.
+    void AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps,
+                       Report &report);
     /// Raises RuleViolation when another group has the name and server.
     void update(const QString &connectionString, int id, const QString &server, const QString &name,
                 const QString &description);

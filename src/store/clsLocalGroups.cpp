@@ -13,12 +13,11 @@ constexpr auto unknownGroup = "The specified Local Group does not exist in your 
 
 } // namespace
 
-void clsLocalGroups::AddUsersBatch(const QString &connectionString, jet::Recordset &records,
-                                   QString &errorText, const Breath &breath)
+void clsLocalGroups::AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps,
+                                   Report &report)
 {
-    withStore(connectionString, [&](StoreSession &store) {
-        addGroupUsers(store, GroupKind::Local, records, errorText, breath);
-    });
+    runBatch(connectionString, steps, report, {&report.done},
+             [&](BatchRun &run) { addGroupUsers(run, GroupKind::Local, records, report); });
 }
 
 void clsLocalGroups::addUsers(const QString &connectionString, int id, std::span<const int> users)
@@ -26,10 +25,11 @@ void clsLocalGroups::addUsers(const QString &connectionString, int id, std::span
     replaceRelations(connectionString, usersOfGroup(GroupKind::Local), id, users);
 }
 
-void clsLocalGroups::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting)
+void clsLocalGroups::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
+                              Steps &steps, Report &report)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { addGroups(store, GroupKind::Local, records, leaveExisting); });
+    runBatch(connectionString, steps, report, {&report.done},
+             [&](BatchRun &run) { addGroups(run, GroupKind::Local, records, leaveExisting, report); });
 }
 
 void clsLocalGroups::Find(const QString &connectionString, jet::Recordset &result, const QString &name)
@@ -104,7 +104,7 @@ void clsLocalGroups::RemoveFolderPermissions(const QString &connectionString, st
 void clsLocalGroups::update(const QString &connectionString, int id, const QString &server,
                             const QString &name, const QString &description)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         updateGroup(store, GroupKind::Local, id, server, name, description);
     });
 }
@@ -112,8 +112,9 @@ void clsLocalGroups::update(const QString &connectionString, int id, const QStri
 void clsLocalGroups::Add(const QString &connectionString, const QString &server, const QString &name,
                          const QString &description, int &id)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { addGroup(store, GroupKind::Local, server, name, description, id); });
+    withWrites(connectionString, [&](StoreSession &store) {
+        addGroup(store, GroupKind::Local, server, name, description, id);
+    });
 }
 
 void clsLocalGroups::addGlobalGroups(const QString &connectionString, int id,
@@ -123,10 +124,10 @@ void clsLocalGroups::addGlobalGroups(const QString &connectionString, int id,
 }
 
 void clsLocalGroups::AddGlobalGroupsBatch(const QString &connectionString, jet::Recordset &records,
-                                          QString &errorText, const Breath &breath)
+                                          Steps &steps, Report &report)
 {
-    withStore(connectionString,
-              [&](StoreSession &store) { addLocalGroupGlobalGroups(store, records, errorText, breath); });
+    runBatch(connectionString, steps, report, {&report.done},
+             [&](BatchRun &run) { addLocalGroupGlobalGroups(run, records, report); });
 }
 
 void clsLocalGroups::RemoveGlobalGroups(const QString &connectionString, std::span<const int> ids)
@@ -144,7 +145,7 @@ void clsLocalGroups::addFolders(const QString &connectionString, int id, std::sp
 void clsLocalGroups::addFoldersBatch(const QString &connectionString, const QString &groupName,
                                      jet::Recordset &records, QString &failed)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         const Value group = store.scalar(
             joined("SELECT ID from Tbl_LocalGroups WHERE [Name]='{name}'"_L1, {{"name"_L1, groupName}}));
         if (group.isNull())

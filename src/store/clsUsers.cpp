@@ -56,7 +56,7 @@ void clsUsers::getAllLoginNames(const QString &connectionString, jet::Recordset 
 
 void clsUsers::Add(const QString &connectionString, UserRecord &user)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         if (user.UserID == 0)
             user.UserID = nextUserId(store);
         if (store.exists(
@@ -69,7 +69,7 @@ void clsUsers::Add(const QString &connectionString, UserRecord &user)
 
 void clsUsers::update(const QString &connectionString, const UserRecord &user)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         const QString id = QString::number(user.UserID);
         if (store.exists(joined("SELECT * FROm Tbl_Users WHERE [UserName]='{name}' "
                                 "AND [ServerName]  = '{server}' AND  [UserID] <> {id}"_L1,
@@ -98,7 +98,7 @@ void clsUsers::TestConnection(const QString &connectionString)
 
 void clsUsers::Import(const QString &connectionString)
 {
-    withStore(connectionString, [](StoreSession &store) {
+    withWrites(connectionString, [](StoreSession &store) {
         store.executeSkippingErrors(u"DROP TABLE Tbl_Users"_s);
         store.execute(
             u"SELECT Tbl_Remote_Users.* INTO Tbl_Users FROM Tbl_Remote_Users WHERE UserName <>''"_s);

@@ -7,37 +7,37 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <span>
 
-/// Told after each record of a batch how many are done; false ends the batch there. An Error
-/// it raises, as a yield does that cannot write what is pending, is counted and told.
-using BatchProgress = std::function<bool(int done)>;
+/// The end of a batch of users. A user who gets a new UserID because the old one is taken counts as added and
+/// as failed.
+struct UserBatchReport : Report
+{
+    int added = 0;
+    int updated = 0;
+};
 
 /// All that reads and writes Tbl_Users and the user's side of the relationship tables.
 /// A user is known by UserID in the store and by name and server everywhere else; only
 /// the latter survives a new import.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Every method
-/// raises the store's error, except the two batch writers, which tell it.
+/// raises the store's error, except the two batch writers, which report it.
 class clsUsers final : public RecordClass
 {
 public:
     /// Writes the records, whose fields are named as the columns, by name and server: a new
     /// account is inserted, a known one is updated (its contact columns stay as they are, and it
     /// takes the UserID of the record even when another user has it) or, with leaveExisting,
-    /// passed over without being counted. A UserID of 0 or nothing asks for the next free one.
-    /// Never stops and never raises for a record, nor for a store that does not open: what fails
-    /// is counted and gets a line of the error text. The counters are added to, and count what the
-    /// store accepted, also if it was lost later, which is told. The error text is added to, and
-    /// gets a heading in front when it is not empty.
+    /// left as it is and is not counted. A UserID of 0 or nothing asks for the next free one.
+    /// A record that fails is counted, gets a line of the report below a heading, and the batch goes on. A
+    /// store that does not open or can no longer be written ends it (Report::End::Lost).
     /// Raises jet::ItemNotFound, before anything is written, for records that lack a field.
-    void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting, int &newCount,
-                  int &updatedCount, int &errorCount, QString &errorText, const BatchProgress &progress = {});
+    [[nodiscard]] UserBatchReport AddBatch(const QString &connectionString, jet::Recordset &records,
+                                           bool leaveExisting, Steps &steps);
     /// The same for records that hold the fields of a line of an import file. Nothing is escaped.
-    void AddBatchFromFile(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
-                          int &newCount, int &updatedCount, int &errorCount, QString &errorText,
-                          const BatchProgress &progress = {});
+    [[nodiscard]] UserBatchReport AddBatchFromFile(const QString &connectionString, jet::Recordset &records,
+                                                   bool leaveExisting, Steps &steps);
     /// Gives the user the permissions of the records, fields Name (path of a folder) and
     /// Permission. The path is used as it stands. A folder not known yet is added; one that cannot
     /// be is named, with a comma, in the failed text. Of users of one name on several servers any

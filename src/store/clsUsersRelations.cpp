@@ -35,7 +35,7 @@ void clsUsers::addFolders(const QString &connectionString, int id, std::span<con
 void clsUsers::addFoldersBatch(const QString &connectionString, const QString &userName,
                                jet::Recordset &records, QString &failed)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         const Value user = store.scalar(
             joined("SELECT UserID FROM Tbl_Users WHERE [UserName]='{name}'"_L1, {{"name"_L1, userName}}));
         if (user.isNull())
@@ -57,7 +57,7 @@ void clsUsers::addRooms(const QString &connectionString, int id, std::span<const
 
 void clsUsers::addHW(const QString &connectionString, int id, std::span<const int> items)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         store.execute(withId("DELETE FROM Tbl_UserHW WHERE UserID={id}"_L1, id));
         const QString user = QString::number(id);
         for (const int item : items) {

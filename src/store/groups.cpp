@@ -1,6 +1,8 @@
 #include "store/groups.h"
 
 #include "base/error.h"
+#include "store/batchrecords.h"
+#include "store/batchrun.h"
 #include "store/statement.h"
 #include "store/storesession.h"
 
@@ -172,16 +174,35 @@ QString addMembership(StoreSession &store, const MembershipBatch &kind, const Ac
     return {};
 }
 
-void addMemberships(StoreSession &store, const MembershipBatch &kind, jet::Recordset &records,
-                    QString &errorText, const Breath &breath)
+/// A record of a batch of memberships.
+struct Membership
 {
-    enum { MemberName, MemberServer, GroupName, GroupServer };
+    Account member;
+    Account group;
+
+    explicit Membership(const BatchRecords &batch)
+        : member{batch.text(0), batch.text(1)}
+        , group{batch.text(2), batch.text(3)}
+    {
+    }
+
+    [[nodiscard]] QString name() const { return group.path() + u' ' + member.path(); }
+};
+
+void addMemberships(BatchRun &run, const MembershipBatch &kind, jet::Recordset &records, Report &report)
+{
     BatchRecords batch(records, {kind.memberName, kind.memberServer, kind.groupName, kind.groupServer});
+    if (batch.last())
+        run.expect(batch.count(), Membership(batch).name());
     while (batch.next()) {
-        errorText += addMembership(store, kind, {batch.text(MemberName), batch.text(MemberServer)},
-                                   {batch.text(GroupName), batch.text(GroupServer)});
-        if (breath)
-            breath();
+        const Membership item(batch);
+        const bool goesOn = run.item(item.name(), [&](StoreSession &store) {
+            const QString missing = addMembership(store, kind, item.member, item.group);
+            ++(missing.isEmpty() ? report.done : report.failed);
+            report.text += missing;
+        });
+        if (!goesOn)
+            break;
     }
 }
 
@@ -209,15 +230,14 @@ void updateGroup(StoreSession &store, GroupKind kind, int id, const QString &ser
         {{"name"_L1, name}, {"server"_L1, server}, {"description"_L1, description}, {"id"_L1, idText}}));
 }
 
-void addGroups(StoreSession &store, GroupKind kind, jet::Recordset &records, bool leaveExisting)
+void addGroups(BatchRun &run, GroupKind kind, jet::Recordset &records, bool leaveExisting, Report &report)
 {
-    enum { Name, Server, Description };
-    for (BatchRecords batch(records, {"Name"_L1, "Server"_L1, "Description"_L1}); batch.next();) {
-        const QString name = batch.text(Name);
-        const QString server = batch.text(Server);
-        const QString description = batch.text(Description);
-        const Value known =
-            store.scalar(joined(batchLookup[kind], {{"name"_L1, name}, {"server"_L1, server}}));
+    BatchRecords batch(records, {"Name"_L1, "Server"_L1, "Description"_L1});
+    const auto group = [&batch] { return Account{batch.text(0), batch.text(1)}; };
+    const auto write = [&](StoreSession &store) {
+        const auto &[name, server] = group();
+        const QString description = batch.text(2);
+        const Value known = accountId(store, batchLookup[kind], {name, server});
         if (known.isNull())
             store.execute(
                 joined(batchInsert[kind],
@@ -225,6 +245,11 @@ void addGroups(StoreSession &store, GroupKind kind, jet::Recordset &records, boo
         else if (!leaveExisting)
             store.execute(
                 joined(batchUpdate[kind], {{"description"_L1, description}, {"id"_L1, known.toText()}}));
+        ++report.done;
+    };
+    if (batch.last())
+        run.expect(batch.count(), group().path());
+    while (batch.next() && run.item(group().path(), write)) {
     }
 }
 
@@ -243,14 +268,12 @@ const RelationStatements &globalGroupsOfGroup()
     return groupGlobalGroups;
 }
 
-void addGroupUsers(StoreSession &store, GroupKind kind, jet::Recordset &records, QString &errorText,
-                   const Breath &breath)
+void addGroupUsers(BatchRun &run, GroupKind kind, jet::Recordset &records, Report &report)
 {
-    addMemberships(store, usersOfGroups[kind], records, errorText, breath);
+    addMemberships(run, usersOfGroups[kind], records, report);
 }
 
-void addLocalGroupGlobalGroups(StoreSession &store, jet::Recordset &records, QString &errorText,
-                               const Breath &breath)
+void addLocalGroupGlobalGroups(BatchRun &run, jet::Recordset &records, Report &report)
 {
-    addMemberships(store, globalGroupsOfLocalGroups, records, errorText, breath);
+    addMemberships(run, globalGroupsOfLocalGroups, records, report);
 }

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "store/batchrecords.h"
+#include "base/steps.h"
 #include "store/relations.h"
 
 #include <QString>
 
+class BatchRun;
 class StoreSession;
 
 // Global and local groups take the same steps over tables of their own. The steps are told
@@ -20,7 +21,7 @@ void updateGroup(StoreSession &store, GroupKind kind, int id, const QString &ser
                  const QString &description);
 /// Writes the records, fields Name, Server and Description: a new group is inserted, a known
 /// one gets the description unless existing ones are left. Ends at the first failure.
-void addGroups(StoreSession &store, GroupKind kind, jet::Recordset &records, bool leaveExisting);
+void addGroups(BatchRun &run, GroupKind kind, jet::Recordset &records, bool leaveExisting, Report &report);
 
 /// Users and permissions from the side of a group. A repeated user counts once; a permission that is there is
 /// overwritten.
@@ -30,11 +31,9 @@ void addGroups(StoreSession &store, GroupKind kind, jet::Recordset &records, boo
 [[nodiscard]] const RelationStatements &globalGroupsOfGroup();
 
 /// Adds users to groups, both by name and server: fields UserName, UserServer, GroupName and
-/// GroupServer. What is not in the store gets an entry of the error text; ends at the first
-/// failure of the store.
-void addGroupUsers(StoreSession &store, GroupKind kind, jet::Recordset &records, QString &errorText,
-                   const Breath &breath);
+/// GroupServer. What is not in the store gets an entry of the report; ends at the first
+/// failure.
+void addGroupUsers(BatchRun &run, GroupKind kind, jet::Recordset &records, Report &report);
 /// The same for global groups that become members of local ones: fields LocalGroupName,
 /// LocalGroupServer, GlobalGroupName and GlobalGroupServer.
-void addLocalGroupGlobalGroups(StoreSession &store, jet::Recordset &records, QString &errorText,
-                               const Breath &breath);
+void addLocalGroupGlobalGroups(BatchRun &run, jet::Recordset &records, Report &report);

@@ -2,6 +2,7 @@
 
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
+#include "store/batchrun.h"
 #include "store/statement.h"
 #include "store/storesession.h"
 
@@ -14,6 +15,8 @@ void closeAfter(const Error &failure, StoreSession &store)
         store.close();
     } catch (const jet::ChangesLost &second) {
         throw jet::ChangesLost(failure.number(), failure.description() + u' ' + second.description());
+    } catch (const jet::StoreFailure &second) {
+        throw jet::StoreFailure(failure.number(), failure.description() + u' ' + second.description());
     } catch (const Error &second) {
         throwError(failure.number(), failure.description() + u' ' + second.description());
     }
@@ -45,6 +48,29 @@ void RecordClass::withStore(const QString &connectionString, const std::function
     });
 }
 
+void RecordClass::withWrites(const QString &connectionString, const std::function<void(StoreSession &)> &work)
+{
+    withStore(connectionString, [&](StoreSession &store) {
+        store.beginWriting();
+        work(store);
+    });
+}
+
+void RecordClass::runBatch(const QString &connectionString, Steps &steps, Report &report,
+                           std::initializer_list<int *> counters, const std::function<void(BatchRun &)> &work)
+{
+    keepingErrors([&] {
+        BatchRun run(connectionString, steps, report, counters);
+        try {
+            work(run);
+        } catch (const Error &failure) {
+            run.closeAfter(failure);
+            throw;
+        }
+        run.close();
+    });
+}
+
 void RecordClass::read(const QString &connectionString, jet::Recordset &result, const QString &sql)
 {
     withStore(connectionString, [&](StoreSession &store) {
@@ -62,13 +88,13 @@ void RecordClass::read(const QString &connectionString, jet::Recordset &result, 
 
 void RecordClass::write(const QString &connectionString, const QString &sql)
 {
-    withStore(connectionString, [&](StoreSession &store) { store.execute(sql); });
+    withWrites(connectionString, [&](StoreSession &store) { store.execute(sql); });
 }
 
 void RecordClass::writeUnlessFound(const QString &connectionString, const QString &test,
                                    QLatin1StringView refusal, const QString &statement)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         if (store.exists(test))
             throwError(RuleViolation, refusal);
         store.execute(statement);
@@ -78,7 +104,7 @@ void RecordClass::writeUnlessFound(const QString &connectionString, const QStrin
 void RecordClass::writeForEach(const QString &connectionString, std::span<const int> ids,
                                std::initializer_list<QLatin1StringView> statements)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         for (const int id : ids) {
             for (const QLatin1StringView statement : statements)
                 store.execute(withId(statement, id));
@@ -90,7 +116,7 @@ void RecordClass::writeRelations(const QString &connectionString, const Relation
                                  int id, std::span<const int> items, const QStringList &permissions,
                                  bool clearFirst)
 {
-    withStore(connectionString, [&](StoreSession &store) {
+    withWrites(connectionString, [&](StoreSession &store) {
         if (clearFirst)
             clearRelations(store, statements, id);
         addRelations(store, statements, id, items, permissions);

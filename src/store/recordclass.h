@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/error.h"
+#include "base/steps.h"
 #include "store/relations.h"
 
 #include <QLatin1StringView>
@@ -9,6 +10,8 @@
 #include <functional>
 #include <initializer_list>
 #include <span>
+
+class BatchRun;
 
 /// What the record classes have in common: they hold nothing between calls but the last
 /// failure, and each method visits the store once, with a connection of its own.
@@ -28,6 +31,14 @@ protected:
     /// The same over a new session, whose opening may fail, too; what was written before a failure
     /// stays.
     void withStore(const QString &connectionString, const std::function<void(StoreSession &)> &work);
+
+    /// The same for work that writes. It holds the write lock from its beginning, so what it looks up is
+    /// still true when it writes.
+    void withWrites(const QString &connectionString, const std::function<void(StoreSession &)> &work);
+    /// A batch, whose items go through the run (see BatchRun). A failure that the work raises ends it, and
+    /// what was written before stays. The counters are those of the report that count what was written.
+    void runBatch(const QString &connectionString, Steps &steps, Report &report,
+                  std::initializer_list<int *> counters, const std::function<void(BatchRun &)> &work);
 
     // The shapes of the methods.
 

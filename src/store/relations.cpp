@@ -22,6 +22,8 @@ Value folderId(StoreSession &store, const QString &path)
         store.execute(
             joined("INSERT INTO Tbl_Folders (FolderName) VALUES ('{path}')"_L1, {{"path"_L1, path}}));
         return store.scalar(lookup);
+    } catch (const jet::StoreFailure &) {
+        throw;
     } catch (const Error &error) {
         // Only a text can be wrong with one folder; what is wrong with the store ends the batch.
         if (error.number() == jet::Failure || error.number() == jet::MissingTable)
@@ -43,6 +45,7 @@ void addRelations(StoreSession &store, const RelationStatements &statements, int
     Q_ASSERT(permissions.size() == qsizetype(items.size()) || !statements.insert.contains("{permission}"_L1));
     const QString object = QString::number(id);
     for (std::size_t i = 0; i < items.size(); ++i) {
+        store.beginWriting();
         const QString item = QString::number(items[i]);
         const QString permission = permissions.value(qsizetype(i));
         const auto fill = [&](QLatin1StringView text) {
@@ -60,6 +63,7 @@ Permissions findOrAddFolders(StoreSession &store, jet::Recordset &records, QStri
     enum { Name, Permission };
     Permissions taken;
     for (BatchRecords batch(records, {"Name"_L1, "Permission"_L1}); batch.next();) {
+        store.beginWriting();
         const QString path = batch.text(Name);
         const Value folder = folderId(store, path);
         if (folder.isNull()) {

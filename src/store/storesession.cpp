@@ -1,5 +1,6 @@
 #include "store/storesession.h"
 
+#include "platform/jet/database.h"
 #include "platform/jet/errors.h"
 
 StoreSession::StoreSession(const QString &connectionString)
@@ -7,10 +8,30 @@ StoreSession::StoreSession(const QString &connectionString)
     m_connection.open(connectionString);
 }
 
+StoreSession::~StoreSession()
+{
+    if (isOpen() && !m_isPatient)
+        setPatience(jet::Database::usualPatience);
+}
+
 void StoreSession::close()
 {
-    if (m_connection.state() != jet::StateClosed)
-        m_connection.close();
+    if (!isOpen())
+        return;
+    if (!m_isPatient)
+        setPatience(jet::Database::usualPatience);
+    m_connection.close();
+}
+
+bool StoreSession::hasPendingChanges() const
+{
+    return m_connection.database().hasPendingChanges();
+}
+
+void StoreSession::setPatience(std::chrono::milliseconds patience)
+{
+    m_isPatient = patience == jet::Database::usualPatience;
+    m_connection.database().setPatience(patience);
 }
 
 void StoreSession::execute(const QString &sql)
@@ -22,7 +43,7 @@ void StoreSession::executeSkippingErrors(const QString &sql)
 {
     try {
         execute(sql);
-    } catch (const jet::ChangesLost &) {
+    } catch (const jet::StoreFailure &) {
         throw;
     } catch (const Error &) {
     }

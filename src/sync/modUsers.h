@@ -14,4 +14,7 @@ namespace modUsers {
 /// when the reading is. Raises nothing.
 void importUsersFromFile(QWidget *owner, const QString &path);
 
+/// Makes it the import of users of the import dialog. Called once at start.
+void registerImport();
+
 } // namespace modUsers

@@ -1,5 +1,6 @@
 #include "sync/modUsers.h"
 
+#include "exchange/modImport.h"
 #include "exchange/modImportSteps.h"
 #include "messages/guard.h"
 #include "messages/progresssteps.h"
@@ -49,8 +50,6 @@ public:
             records.fields().item(m_places[i]).setValue(fields[qsizetype(i)].toString());
     }
 
-    [[nodiscard]] QString currentName() { return records.value(m_places.front()).toText(); }
-
     jet::Recordset records;
 
 private:
@@ -58,36 +57,29 @@ private:
     int m_id = 0;
 };
 
-struct Outcome
-{
-    bool cancelled = false;
-    modImportSteps::ImportCounts counts;
-    QString fileErrors;
-    QString batchErrors;
-};
-
-/// Nothing when the user cancels before anything is written.
-std::optional<Outcome> readAndWrite(QWidget *owner, const QString &path, bool leaveExisting)
+modImportSteps::ImportReport readAndWrite(QWidget *owner, const QString &path, bool leaveExisting)
 {
     const Hourglass hourglass;
     ProgressSteps steps(owner);
-    Outcome outcome;
     const QString store = getConnectionString();
     UserLines users(store);
-    if (!modImportSteps::readLines(path, userLine, steps, outcome.fileErrors,
-                                   [&](const modImportSteps::Fields &fields) { users.add(fields); }))
-        return std::nullopt;
-
+    modImportSteps::FileReport lines = modImportSteps::readLines(
+        path, userLine, steps, [&](const modImportSteps::Fields &fields) { users.add(fields); });
+    modImportSteps::ImportReport report;
+    report.fileErrors = lines.errors;
+    if (lines.isCancelled) {
+        report.end = Report::End::Cancelled;
+        return report;
+    }
     const int count = users.records.recordCount();
     steps.phase(u"Writing Users to DB. Please Wait."_s, count, modImportSteps::strideOf(count));
-    const auto showWritten = [&](int) {
-        outcome.cancelled = !steps.step(users.currentName());
-        return !outcome.cancelled;
-    };
-    clsUsers().AddBatchFromFile(store, users.records, leaveExisting, outcome.counts.added,
-                                outcome.counts.updated, outcome.counts.failed, outcome.batchErrors,
-                                showWritten);
-    return outcome;
+    UserBatchReport batch = clsUsers().AddBatchFromFile(store, users.records, leaveExisting, steps);
+    report.end = batch.end;
+    report.added = batch.added;
+    report.updated = batch.updated;
+    report.failed = batch.failed;
+    report.batchErrors = batch.text;
+    return report;
 }
 
 void importUsers(QWidget *owner, const QString &path)
@@ -95,16 +87,9 @@ void importUsers(QWidget *owner, const QString &path)
     const std::optional<bool> leaveExisting = modImportSteps::askLeaveExisting(owner);
     if (!leaveExisting)
         return;
-    const std::optional<Outcome> outcome = readAndWrite(owner, path, *leaveExisting);
-    if (!outcome)
-        return;
-    if (outcome->cancelled)
-        modImportSteps::reportCancelledImport(owner, path, outcome->counts, outcome->fileErrors,
-                                              outcome->batchErrors);
-    else
-        modImportSteps::reportImport(owner, path, outcome->fileErrors, outcome->batchErrors,
-                                     u"The Operation was completed successfully\r\nYou may refresh your User "
-                                     "Database View to see changes applied to your existing Users"_s);
+    modImportSteps::reportImport(owner, path, readAndWrite(owner, path, *leaveExisting),
+                                 u"The Operation was completed successfully\r\nYou may refresh your User "
+                                 "Database View to see changes applied to your existing Users"_s);
 }
 
 } // namespace
@@ -112,4 +97,9 @@ void importUsers(QWidget *owner, const QString &path)
 void modUsers::importUsersFromFile(QWidget *owner, const QString &path)
 {
     guarded(owner, [&] { importUsers(owner, path); });
+}
+
+void modUsers::registerImport()
+{
+    modImport::registerReader("Users (Root Data)"_L1, importUsersFromFile);
 }

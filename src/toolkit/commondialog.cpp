@@ -1,13 +1,19 @@
 #include "toolkit/commondialog.h"
 
 #include "base/error.h"
+#include "platform/settings/settings.h"
+#include "session/identity.h"
 #include "toolkit/pointer.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QString section = u"FileDialogs"_s;
+const QString lastFolder = u"LastFolder"_s;
 
 CommonDialogHandler &handlerInPlace()
 {
@@ -48,10 +54,15 @@ QString askUser(const CommonDialog &dialog, CommonDialog::Kind kind, QWidget *pa
 void CommonDialog::show(Kind kind, QWidget *parent)
 {
     const CommonDialogHandler handler = handlerInPlace();
-    const QString chosen = handler ? handler(*this, kind) : askUser(*this, kind, parent);
+    CommonDialog offered = *this;
+    if (fileName.isEmpty())
+        offered.fileName = settings::getSetting(programTitle(), section, lastFolder);
+    const QString chosen = handler ? handler(offered, kind) : askUser(offered, kind, parent);
     if (chosen.isEmpty())
         throwError(CancelError, u"Cancel was selected."_s);
     fileName = chosen;
+    // Convenience only: settings that cannot be written must not cost the choice.
+    attempt([&] { settings::saveSetting(programTitle(), section, lastFolder, QFileInfo(chosen).path()); });
 }
 
 void CommonDialog::showOpen(QWidget *parent)

@@ -17,7 +17,7 @@ public:
 
     /// Pairs of a text and a pattern, all divided by "|": "All Files | *.*".
     QString filter;
-    /// The name offered before, the name chosen after.
+    /// The name offered before, the name chosen after. Without one the folder of the last choice is offered.
     QString fileName;
 
     /// An existing file. A cancelled dialog raises CancelError and leaves fileName as it was.

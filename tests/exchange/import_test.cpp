@@ -8,12 +8,14 @@
 #include "session/modRegistry.h"
 #include "store/clsUsers.h"
 #include "support/windowtest.h"
+#include "sync/modUsers.h"
 
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
 #include <QUrl>
@@ -43,6 +45,12 @@ QByteArray line(const char *name, const char *fullName, const char *server = "SR
 class ImportTest : public WindowTest
 {
 protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        modUsers::registerImport();
+    }
+
     void TearDown() override
     {
         for (frmResult *window : findAll<frmResult>(u"frmResult"_s))
@@ -86,6 +94,19 @@ protected:
         expectBox(success, box::InformationIcon);
         import(usersType, write(bytes));
         verify();
+    }
+
+    /// Presses Cancel in the middle of the phase.
+    void cancelIn(const QString &phase)
+    {
+        whenShown<frmProgress>([phase](frmProgress &progress) {
+            auto *timer = new QTimer(&progress);
+            QObject::connect(timer, &QTimer::timeout, &progress, [phase, &progress] {
+                if (progress.LblInfo->text() == phase && progress.ProgressBar->value() > 1)
+                    progress.cmdCancel->click();
+            });
+            timer->start(0);
+        });
     }
 
     /// The text of the result window, line ends as the text box shows them.
@@ -220,15 +241,16 @@ TEST_F(ImportTest, MissingStoreIsToldOnce)
     import(usersType, file);
 }
 
-TEST_F(ImportTest, CancelWhileReadingWritesNothing)
+TEST_F(ImportTest, CancelWhileReadingWritesNothingAndReportsWhatWasFound)
 {
-    whenShown<frmProgress>([](frmProgress &progress) { progress.cmdCancel->click(); });
-    QByteArray lines;
+    cancelIn(u"Reading Data from File. Please Wait."_s);
+    QByteArray lines = ";\n";
     for (int i = 0; i < 2000; ++i)
         lines += line(("user" + std::to_string(i)).c_str(), "User");
     importUsers(lines, box::ResultYes);
     EXPECT_EQ(column(allUsers), QStringList());
-    EXPECT_EQ(resultText(), QString());
+    EXPECT_TRUE(resultText().startsWith(u"The Import was cancelled."_s)) << resultText().toStdString();
+    EXPECT_TRUE(resultText().contains(u"No Username on Line 1\n"_s)) << resultText().toStdString();
 }
 
 TEST_F(ImportTest, CancelWhileWritingKeepsAndTellsWhatIsWritten)
@@ -236,14 +258,7 @@ TEST_F(ImportTest, CancelWhileWritingKeepsAndTellsWhatIsWritten)
     QByteArray lines;
     for (int i = 0; i < 2000; ++i)
         lines += line(("user" + std::to_string(i)).c_str(), "User");
-    whenShown<frmProgress>([&](frmProgress &progress) {
-        auto *timer = new QTimer(&progress);
-        QObject::connect(timer, &QTimer::timeout, &progress, [&progress] {
-            if (progress.isVisible() && progress.LblInfo->text() == u"Writing Users to DB. Please Wait."_s)
-                progress.cmdCancel->click();
-        });
-        timer->start(0);
-    });
+    cancelIn(u"Writing Users to DB. Please Wait."_s);
     importUsers(lines, box::ResultYes);
     const int written = column(u"SELECT COUNT(*) FROM Tbl_Users"_s).value(0).toInt();
     EXPECT_GT(written, 0);

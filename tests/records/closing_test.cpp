@@ -83,10 +83,12 @@ TEST_F(ClosingTest, AFailureThatLosesWhatWasWrittenBeforeTellsBoth)
     jet::Recordset records;
     makeRecords(records, {u"Name"_s, u"Server"_s, u"Description"_s},
                 {{u"New"_s, u"DC09"_s, u"-"_s}, {u"O'Hara"_s, u"DC09"_s, u"-"_s}});
+    NoSteps steps;
+    Report report;
     {
         failingvfs::Installed disk;
         disk.plan(brokenCommit);
-        EXPECT_THROW(groups.AddBatch(connection, records, false), jet::ChangesLost);
+        EXPECT_THROW(groups.AddBatch(connection, records, false, steps, report), jet::ChangesLost);
         EXPECT_TRUE(disk.hasFailed());
     }
     EXPECT_EQ(groups.errorNumber(), jet::SyntaxError);

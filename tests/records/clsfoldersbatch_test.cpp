@@ -46,7 +46,7 @@ protected:
             servers += line.server;
             words += line.permission;
         }
-        folders.AddPermissionsBatch(connection, paths, names, servers, words, errors);
+        errors += folders.AddPermissionsBatch(connection, paths, names, servers, words, steps).text;
     }
 
     /// Returns the accounts that could not be placed.
@@ -70,6 +70,7 @@ protected:
 
     clsFolders folders;
     QString errors;
+    NoSteps steps;
 };
 
 } // namespace
@@ -78,18 +79,21 @@ TEST_F(FoldersBatchTest, AddBatch_GoesOnAfterAFailureAndNamesIt)
 {
     const QStringList paths = {u"d:\\data"_s, u"C:\\It's"_s, u"C:\\New"_s, u"C:\\Other"_s};
     errors = u"before"_s;
-    int breaths = 0;
-    folders.AddBatch(connection, paths, {u"kept"_s, {}, u"new"_s, u"don't"_s}, true, errors,
-                     [&] { ++breaths; });
+    const Report report =
+        folders.AddBatch(connection, paths, {u"kept"_s, {}, u"new"_s, u"don't"_s}, true, steps);
+    errors += report.text;
     EXPECT_EQ(errors, u"before"
                       "\r\nC:\\It's\\ could not be added to DB"
                       "\r\nC:\\Other\\ could not be added to DB"_s);
     EXPECT_EQ(added(), Rows{u"45|C:\\New\\|new"_s});
     EXPECT_EQ(content("Tbl_Folders").first(), data);
-    EXPECT_EQ(breaths, 6) << "four lookups and two inserts";
+    EXPECT_EQ(report.done, 2);
+    EXPECT_EQ(report.failed, 2);
 
-    errors.clear();
-    folders.AddBatch(connection, {u"d:\\data"_s, u"C:\\New\\"_s}, {u"changed"_s, u"don't"_s}, false, errors);
+    errors =
+        folders
+            .AddBatch(connection, {u"d:\\data"_s, u"C:\\New\\"_s}, {u"changed"_s, u"don't"_s}, false, steps)
+            .text;
     EXPECT_EQ(errors, u"\r\nC:\\New\\ could not be added to DB"_s);
     EXPECT_EQ(content("Tbl_Folders").first(2), (Rows{u"41|D:\\Data\\|changed"_s, common}));
     EXPECT_EQ(added(), Rows{u"45|C:\\New\\|new"_s});
@@ -97,9 +101,9 @@ TEST_F(FoldersBatchTest, AddBatch_GoesOnAfterAFailureAndNamesIt)
 
 TEST_F(FoldersBatchTest, AddBatch_OfAPathTwiceUpdatesTheFirst)
 {
-    folders.AddBatch(connection, {u"C:\\Data"_s, u"C:\\DATA\\"_s}, {u"first"_s, u"second"_s}, false, errors);
-    folders.AddBatch(connection, {}, {}, false, errors);
-    EXPECT_EQ(errors, QString());
+    const QStringList paths = {u"C:\\Data"_s, u"C:\\DATA\\"_s};
+    EXPECT_EQ(folders.AddBatch(connection, paths, {u"first"_s, u"second"_s}, false, steps).text, QString());
+    EXPECT_EQ(folders.AddBatch(connection, {}, {}, false, steps).text, QString());
     EXPECT_EQ(added(), Rows{u"45|C:\\Data\\|second"_s});
 }
 

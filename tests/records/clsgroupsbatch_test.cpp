@@ -1,5 +1,6 @@
 #include "clsgroupstest.h"
 #include "platform/jet/errors.h"
+#include "support/scriptedsteps.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,14 +27,14 @@ protected:
     {
         jet::Recordset records;
         makeRecords(records, groupFields, lines);
-        this->groups.AddBatch(this->connection, records, leaveExisting);
+        this->groups.AddBatch(this->connection, records, leaveExisting, steps, report);
     }
 
     void importMembers(const QList<QStringList> &lines)
     {
         jet::Recordset records;
         makeRecords(records, memberFields, lines);
-        this->groups.AddUsersBatch(this->connection, records, text, [this] { ++breaths; });
+        this->groups.AddUsersBatch(this->connection, records, steps, report);
     }
 
     /// The groups by their place in the company and the number of their server.
@@ -45,8 +46,8 @@ protected:
         return all;
     }
 
-    QString text;
-    int breaths = 0;
+    ScriptedSteps steps;
+    Report report;
 };
 
 TYPED_TEST_SUITE(GroupTwinsBatch, GroupClasses, GroupClassNames);
@@ -83,16 +84,18 @@ TYPED_TEST(GroupTwinsBatch, BatchesAskForTheirFieldsBeforeTheyWrite)
 {
     jet::Recordset none;
     none.open();
-    this->groups.AddBatch(this->connection, none, false);
-    this->groups.AddUsersBatch(this->connection, none, this->text);
-    EXPECT_EQ(this->text, QString());
+    this->groups.AddBatch(this->connection, none, false, this->steps, this->report);
+    this->groups.AddUsersBatch(this->connection, none, this->steps, this->report);
+    EXPECT_EQ(this->report.text, QString());
 
     jet::Recordset records;
     makeRecords(records, {u"Name"_s, u"Server"_s}, {{u"New"_s, u"S"_s}});
-    CurrentError error = errorOf([&] { this->groups.AddBatch(this->connection, records, false); });
+    CurrentError error =
+        errorOf([&] { this->groups.AddBatch(this->connection, records, false, this->steps, this->report); });
     EXPECT_EQ(error.number, jet::ItemNotFound);
     EXPECT_TRUE(error.description.contains(u"'Description'")) << error.description.toStdString();
-    error = errorOf([&] { this->groups.AddUsersBatch(this->connection, records, this->text); });
+    error =
+        errorOf([&] { this->groups.AddUsersBatch(this->connection, records, this->steps, this->report); });
     EXPECT_EQ(error.number, jet::ItemNotFound);
     EXPECT_TRUE(error.description.contains(u"'UserName'")) << error.description.toStdString();
     EXPECT_EQ(this->described().size(), 3);
@@ -100,7 +103,6 @@ TYPED_TEST(GroupTwinsBatch, BatchesAskForTheirFieldsBeforeTheyWrite)
 
 TYPED_TEST(GroupTwinsBatch, AddUsersBatch_OnlyAddsAndNamesWhatIsMissing)
 {
-    this->text = u"before"_s;
     this->importMembers({
         member(u"ANNA"_s, u"srv01"_s, u"staff"_s, this->first.toLower()),
         member(u"anna"_s, u"SRV01"_s, u"Staff"_s, this->first),
@@ -110,11 +112,12 @@ TYPED_TEST(GroupTwinsBatch, AddUsersBatch_OnlyAddsAndNamesWhatIsMissing)
         member(u"rolf"_s, u"SRV01"_s, u"Guests"_s, this->second),
     });
     EXPECT_EQ(this->memberships(), (Rows{u"1|11"_s, u"1|12"_s, u"1|13"_s, u"2|11"_s, u"2|12"_s, u"3|13"_s}));
-    EXPECT_EQ(this->text, "before\r\n\r\n"_L1 + this->first +
-                              "\\Staff\tSRV01\\nobody User not found\r\n\r\n"_L1 + this->first +
-                              "\\nowhere\tSRV02\\anna User not found\r\n\r\n\t"_L1 + this->second +
-                              "\\Staff"_L1 + this->names.notFound);
-    EXPECT_EQ(this->breaths, 6);
+    EXPECT_EQ(this->report.text, "\r\n\r\n"_L1 + this->first +
+                                     "\\Staff\tSRV01\\nobody User not found\r\n\r\n"_L1 + this->first +
+                                     "\\nowhere\tSRV02\\anna User not found\r\n\r\n\t"_L1 + this->second +
+                                     "\\Staff"_L1 + this->names.notFound);
+    EXPECT_EQ(this->report.done, 3);
+    EXPECT_EQ(this->report.failed, 3);
 }
 
 TYPED_TEST(GroupTwinsBatch, AddUsersBatch_EndsAtAFailureOfTheStore)
@@ -129,7 +132,7 @@ TYPED_TEST(GroupTwinsBatch, AddUsersBatch_EndsAtAFailureOfTheStore)
     });
     EXPECT_EQ(error.number, jet::SyntaxError);
     EXPECT_EQ(this->memberships(), (Rows{u"1|11"_s, u"1|12"_s, u"1|13"_s, u"2|12"_s, u"3|13"_s}));
-    EXPECT_EQ(this->text, "\r\n\r\n"_L1 + this->first + "\\Staff\tSRV01\\nobody User not found"_L1);
+    EXPECT_EQ(this->report.text, "\r\n\r\n"_L1 + this->first + "\\Staff\tSRV01\\nobody User not found"_L1);
 }
 
 class LocalGroupsBatchTest : public GroupTwins<clsLocalGroups>
@@ -142,7 +145,7 @@ protected:
             records,
             {u"LocalGroupName"_s, u"LocalGroupServer"_s, u"GlobalGroupName"_s, u"GlobalGroupServer"_s},
             lines);
-        groups.AddGlobalGroupsBatch(connection, records, text, [this] { ++breaths; });
+        groups.AddGlobalGroupsBatch(connection, records, steps, report);
     }
 
     void permit(const QString &group, const QList<QStringList> &lines)
@@ -153,7 +156,8 @@ protected:
     }
 
     QString text = u"before,"_s;
-    int breaths = 0;
+    ScriptedSteps steps;
+    Report report;
 };
 
 TEST_F(LocalGroupsBatchTest, AddGlobalGroupsBatch_OnlyAddsAndNamesWhatIsMissing)
@@ -166,10 +170,10 @@ TEST_F(LocalGroupsBatchTest, AddGlobalGroupsBatch_OnlyAddsAndNamesWhatIsMissing)
           {u"Guests"_s, u"SRV02"_s, u"Admins"_s, u"DC01"_s}});
     EXPECT_EQ(content("Tbl_LocalGroupsGlobalGroups"),
               (Rows{u"31|21"_s, u"31|22"_s, u"32|21"_s, u"32|22"_s, u"32|23"_s, u"33|23"_s}));
-    EXPECT_EQ(text, u"before,\r\n\r\nSRV01\\Staff\tDC01\\Guests Global Group not found"
-                    "\r\n\r\n\tSRV02\\Staff Local Group not found"
-                    "\r\n\r\nSRV02\\Staff\tDC01\\Guests Global Group not found"_s);
-    EXPECT_EQ(breaths, 6);
+    EXPECT_EQ(report.text, u"\r\n\r\nSRV01\\Staff\tDC01\\Guests Global Group not found"
+                           "\r\n\r\n\tSRV02\\Staff Local Group not found"
+                           "\r\n\r\nSRV02\\Staff\tDC01\\Guests Global Group not found"_s);
+    EXPECT_EQ(report.done, 3);
 }
 
 TEST_F(LocalGroupsBatchTest, AddGlobalGroupsBatch_EndsAtAFailureOfTheStore)
@@ -181,8 +185,8 @@ TEST_F(LocalGroupsBatchTest, AddGlobalGroupsBatch_EndsAtAFailureOfTheStore)
               }).number,
               jet::SyntaxError);
     EXPECT_EQ(content("Tbl_LocalGroupsGlobalGroups").first(2), (Rows{u"31|21"_s, u"31|22"_s}));
-    EXPECT_EQ(text, u"before,"_s);
-    EXPECT_EQ(breaths, 1);
+    EXPECT_EQ(report.text, QString());
+    EXPECT_EQ(report.done, 1);
 }
 
 TEST_F(LocalGroupsBatchTest, AddFoldersBatch_AddsMissingFoldersAndNamesTheImpossible)

@@ -1,6 +1,7 @@
 #include "platform/jet/errors.h"
 #include "store/clsUsers.h"
 #include "support/recordtest.h"
+#include "support/scriptedsteps.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,7 +26,7 @@ protected:
     {
         jet::Recordset records;
         makeRecords(records, fileFields, lines);
-        users.AddBatchFromFile(connection, records, leaveExisting, added, updated, failed, text);
+        take(users.AddBatchFromFile(connection, records, leaveExisting, steps));
     }
 
     /// As from the live system: all columns up to SID, numbers 0 where nothing is given.
@@ -49,7 +50,16 @@ protected:
                     records.fields().item(i).setValue(value.toInt());
             }
         }
-        users.AddBatch(connection, records, leaveExisting, added, updated, failed, text);
+        take(users.AddBatch(connection, records, leaveExisting, steps));
+    }
+
+    void take(const UserBatchReport &report)
+    {
+        added += report.added;
+        updated += report.updated;
+        failed += report.failed;
+        text += report.text;
+        end = report.end;
     }
 
     void expectCounts(int wantAdded, int wantUpdated, int wantFailed)
@@ -64,6 +74,8 @@ protected:
     int updated = 0;
     int failed = 0;
     QString text;
+    Report::End end = Report::End::Finished;
+    ScriptedSteps steps;
 };
 
 } // namespace
@@ -259,17 +271,6 @@ TEST_F(UserBatchTest, FlagsGoAsTheyStandIntoTheStatement)
               Rows{u"True|False|True"_s});
 }
 
-TEST_F(UserBatchTest, CountersAndTextAreAddedTo)
-{
-    added = 10;
-    updated = 20;
-    failed = 30;
-    text = u"before\r\n"_s;
-    importLines({fileLine(u"0"_s, u"anna"_s, u"SRV01"_s)});
-    expectCounts(11, 20, 30);
-    EXPECT_EQ(text, heading + "before\r\n"_L1);
-}
-
 TEST_F(UserBatchTest, NoRecordsDoNothing)
 {
     importLines({});
@@ -277,43 +278,25 @@ TEST_F(UserBatchTest, NoRecordsDoNothing)
     EXPECT_EQ(text, QString());
 }
 
-TEST_F(UserBatchTest, ProgressSeesEachRecordAndEndsTheBatch)
+TEST_F(UserBatchTest, CancelBeforeTheThirdKeepsTheFirstTwo)
 {
-    jet::Recordset records;
-    makeRecords(records, fileFields,
-                {fileLine(u"0"_s, u"anna"_s, u"S"_s), fileLine(u"0"_s, u"bert"_s, u"S"_s),
+    steps.cancelAt = 3;
+    importLines({fileLine(u"0"_s, u"anna"_s, u"S"_s), fileLine(u"0"_s, u"bert"_s, u"S"_s),
                  fileLine(u"0"_s, u"cleo"_s, u"S"_s)});
-    QList<int> seen;
-    users.AddBatchFromFile(connection, records, false, added, updated, failed, text, [&](int done) {
-        seen.append(done);
-        return done < 2;
-    });
-    EXPECT_EQ(seen, (QList<int>{1, 2}));
+    EXPECT_EQ(steps.items, (QStringList{u"S\\anna"_s, u"S\\bert"_s, u"S\\cleo"_s}));
+    EXPECT_EQ(end, Report::End::Cancelled);
     expectCounts(2, 0, 0);
     EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users ORDER BY UserID"_s), (Rows{u"anna"_s, u"bert"_s}));
 }
 
-TEST_F(UserBatchTest, AFailureBetweenTwoRecordsIsToldAndTheBatchGoesOn)
-{
-    jet::Recordset records;
-    makeRecords(records, fileFields,
-                {fileLine(u"0"_s, u"anna"_s, u"S"_s), fileLine(u"0"_s, u"bert"_s, u"S"_s)});
-    users.AddBatchFromFile(connection, records, false, added, updated, failed, text, [](int done) {
-        if (done == 1)
-            throwError(jet::Failure, u"There isn't enough disk space."_s);
-        return true;
-    });
-    expectCounts(2, 0, 1);
-    EXPECT_EQ(text, heading + "There isn't enough disk space.\r\n"_L1);
-    EXPECT_EQ(rows(u"SELECT UserName FROM Tbl_Users ORDER BY UserID"_s), (Rows{u"anna"_s, u"bert"_s}));
-}
-
-TEST_F(UserBatchTest, MissingStoreFailsEveryRecordWithoutRaising)
+TEST_F(UserBatchTest, AMissingStoreEndsTheBatchAtOnce)
 {
     connection = jet::connectionString(folder.filePath(u"nowhere.kvs"_s));
     importLines({fileLine(u"0"_s, u"anna"_s, u"S"_s), fileLine(u"0"_s, u"bert"_s, u"S"_s)});
-    expectCounts(0, 0, 2);
-    EXPECT_EQ(text.count(u"nowhere.kvs"), 2) << text.toStdString();
+    EXPECT_EQ(end, Report::End::Lost);
+    expectCounts(0, 0, 0);
+    EXPECT_EQ(text.count(u"nowhere.kvs"), 1) << text.toStdString();
+    EXPECT_TRUE(text.endsWith(u"Not in the Database: 2 of 2, from S\\anna to S\\bert")) << text.toStdString();
 }
 
 TEST_F(UserBatchTest, RecordsWithoutAFieldAreRefusedBeforeAnythingIsWritten)
@@ -321,7 +304,7 @@ TEST_F(UserBatchTest, RecordsWithoutAFieldAreRefusedBeforeAnythingIsWritten)
     jet::Recordset records;
     makeRecords(records, fileFields.first(12), {fileLine(u"0"_s, u"anna"_s, u"S"_s).first(12)});
     const CurrentError error =
-        errorOf([&] { users.AddBatchFromFile(connection, records, false, added, updated, failed, text); });
+        errorOf([&] { (void)users.AddBatchFromFile(connection, records, false, steps); });
     EXPECT_EQ(error.number, jet::ItemNotFound);
     EXPECT_EQ(users.errorDescription(), error.description);
     EXPECT_TRUE(error.description.contains(u"NoExpirePwd"));

@@ -58,17 +58,9 @@ TEST_F(RecordClassTest, AMissingStoreIsToldAndKept)
          errorKeptOf<clsGlobalGroups>([&](auto &all) { all.Add(nowhere, u"S"_s, u"N"_s, {}, id); })},
         {"Delete of a group",
          errorKeptOf<clsGlobalGroups>([&](auto &all) { all.Delete(nowhere, QList<int>{1}); })},
-        {"AddBatch of groups",
-         errorKeptOf<clsLocalGroups>([&](auto &all) { all.AddBatch(nowhere, objects, false); })},
         {"Add of a folder", errorKeptOf<clsFolders>([&](auto &all) { all.Add(nowhere, u"C:\\Data"_s, {}); })},
         {"addPermittedObjects", errorKeptOf<clsFolders>([&](auto &all) {
              text += all.addPermittedObjects(nowhere, u"D:\\Data\\"_s, objects);
-         })},
-        {"AddBatch of folders", errorKeptOf<clsFolders>([&](auto &all) {
-             all.AddBatch(nowhere, {u"C:\\Data"_s}, {QString()}, false, text);
-         })},
-        {"AddPermissionsBatch", errorKeptOf<clsFolders>([&](auto &all) {
-             all.AddPermissionsBatch(nowhere, {u"D:"_s}, {u"n"_s}, {u"s"_s}, {u"R"_s}, text);
          })},
         {"Delete of hardware", errorKeptOf<clsHW>([&](auto &all) { all.Delete(nowhere, 1); })},
     };

@@ -6,6 +6,7 @@
 
 #include <QClipboard>
 #include <QDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
@@ -133,6 +134,16 @@ TEST_F(SeamsTest, FileDialogs)
     EXPECT_FALSE(attempt([&] { dialog.showOpen(nullptr); }));
     EXPECT_EQ(currentError().number, CancelError);
     EXPECT_EQ(dialog.fileName, path(u"list.txt"_s)) << "Cancel changes nothing.";
+
+    QString offered;
+    setCommonDialogHandler([&](const CommonDialog &shown, CommonDialog::Kind) {
+        offered = shown.fileName;
+        return QString();
+    });
+    CommonDialog next;
+    EXPECT_FALSE(attempt([&] { next.showOpen(nullptr); }));
+    EXPECT_EQ(offered, QFileInfo(path(u"list.txt"_s)).path()) << "The folder of the last choice.";
+    EXPECT_EQ(next.fileName, QString());
 }
 
 TEST_F(SeamsTest, TheHourglassIsAStateAndScopesBringItBack)

@@ -85,7 +85,17 @@ void commitPendingWrites()
 }
 
 Connection::Connection() = default;
-Connection::~Connection() = default;
+
+Connection::~Connection()
+{
+    letGo();
+}
+
+void Connection::letGo()
+{
+    if (m_database && std::exchange(m_holds, false))
+        m_database->release();
+}
 
 void Connection::open(const QString &connectionString)
 {
@@ -101,6 +111,7 @@ void Connection::close()
     if (!m_database)
         throwError(ObjectClosed, u"Operation is not allowed when the object is closed."_s);
     m_database->requireIdle();
+    letGo();
     const std::shared_ptr<Database> database = std::exchange(m_database, nullptr);
     database->close(database.use_count() == 1);
 }
@@ -117,6 +128,24 @@ Database &Connection::database() const
 void Connection::execute(const QString &sql)
 {
     database().execute(sql);
+}
+
+void Connection::beginWriting()
+{
+    Database &open = database();
+    if (!std::exchange(m_holds, true))
+        open.hold();
+    open.beginWriting();
+}
+
+void Connection::commit()
+{
+    database().commit();
+}
+
+void Connection::rollBack()
+{
+    database().rollBack();
 }
 
 void Connection::openSchema(int schema, Recordset &recordset)

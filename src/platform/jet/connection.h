@@ -34,6 +34,16 @@ public:
     void close();
     [[nodiscard]] int state() const { return m_database ? StateOpen : StateClosed; }
 
+    /// Takes the write lock of the file: what is read afterwards is still true when it decides what is
+    /// written. To be called before the first look of each step that will write; it commits the steps before
+    /// where that is due, and never in the middle of one. Raises StoreLocked when another program writes.
+    void beginWriting();
+    /// Brings what is written to the disk. Raises StoreLocked when another program's reading holds that up;
+    /// it can be tried again.
+    void commit();
+    /// Undoes what is not committed.
+    void rollBack();
+
     /// Runs one statement that returns no rows, or drops the rows it returns.
     void execute(const QString &sql);
 
@@ -46,7 +56,10 @@ public:
     [[nodiscard]] Database &database() const;
 
 private:
+    void letGo();
+
     std::shared_ptr<Database> m_database;
+    bool m_holds = false;
 };
 
 /// The connection text of a store file.

@@ -118,6 +118,7 @@ std::shared_ptr<Database> Database::open(const QString &path)
     try {
         sqlite3_extended_result_codes(raw, 1);
         registerDialect(raw);
+        sqlite3_busy_timeout(raw, int(usualPatience.count()));
         applyPragmas(raw);
         // Reads the file for the first time: a damaged one shows here.
         (void)queryNumber(raw, "SELECT COUNT(*) FROM sqlite_schema");
@@ -352,10 +353,13 @@ void Database::write(const QString &sql, Prepared &prepared)
         const bool isOutdated = isNew && forgetWhatOthersChanged();
         changesSchema = writeInGroup(isOutdated ? prepare(sql) : prepared);
     } catch (...) {
-        m_group.endUnlessChanged();
+        if (m_holders == 0)
+            m_group.endUnlessChanged();
         throw;
     }
     m_group.take(changesSchema || sqlite3_changes(m_handle.get()) > 0);
+    if (m_holders == 0)
+        m_group.commitIfDue();
     if (alone)
         m_group.commit();
 }
@@ -412,6 +416,40 @@ void Database::raiseLostBefore()
 {
     if (m_lostBefore)
         std::rethrow_exception(std::exchange(m_lostBefore, nullptr));
+}
+
+void Database::beginWriting()
+{
+    requireIdle();
+    raiseLostBefore();
+    m_group.commitIfDue();
+    if (!m_group.open())
+        return;
+    try {
+        forgetWhatOthersChanged();
+    } catch (...) {
+        m_group.endUnlessChanged();
+        throw;
+    }
+}
+
+void Database::commit()
+{
+    requireIdle();
+    raiseLostBefore();
+    m_group.commit();
+}
+
+void Database::rollBack()
+{
+    m_lostBefore = nullptr;
+    m_group.rollBack();
+    forget();
+}
+
+void Database::setPatience(std::chrono::milliseconds patience)
+{
+    sqlite3_busy_timeout(m_handle.get(), int(patience.count()));
 }
 
 void Database::close(bool last)

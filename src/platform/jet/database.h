@@ -9,6 +9,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <exception>
 #include <memory>
 #include <string>
@@ -53,6 +54,23 @@ public:
 
     /// Runs a statement and hands over the rows it returns. Returns false for one that returns none.
     bool run(const QString &sql, RowSink &rows);
+
+    /// Takes the write lock until the changes are committed, so that what is read from here on is still true
+    /// when it decides what is written. Commits before where that is due. Raises StoreLocked and ChangesLost.
+    void beginWriting();
+    /// While held, a group is not committed behind a statement, only where the program paints and where a
+    /// next beginWriting() finds it due.
+    void hold() { ++m_holders; }
+    void release() { --m_holders; }
+    /// Raises StoreLocked when another program's reading holds it up, and ChangesLost.
+    void commit();
+    /// Undoes what is not committed.
+    void rollBack();
+    /// Whether changes are not committed yet, or were lost without having been raised.
+    [[nodiscard]] bool hasPendingChanges() const { return m_lostBefore || m_group.hasChanges(); }
+    static constexpr auto usualPatience = std::chrono::milliseconds(5000);
+    /// How long a statement waits for another program.
+    void setPatience(std::chrono::milliseconds patience);
 
     /// Commits the pending writes for a connection that closes. While another program's reading holds that
     /// up, the last connection loses them, as nobody would try again, which raises ChangesLost; with any
@@ -113,7 +131,8 @@ private:
     std::unordered_map<std::string, Prepared> m_prepared;
     Prepared m_schemaChange;
     std::exception_ptr m_lostBefore; ///< of a flush that had no one to report to
-    bool m_asking = false;           ///< in the middle of a statement, events may run
+    int m_holders = 0;
+    bool m_asking = false; ///< in the middle of a statement, events may run
 
     // The statement at hand; the memory is used again.
     QByteArray m_text;

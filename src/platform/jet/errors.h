@@ -22,12 +22,27 @@ inline constexpr int ObjectOpen = 3705;
 inline constexpr int ProviderMissing = 3706;
 inline constexpr int ConnectionClosed = 3709;
 
-/// A group of writes could not be brought to the disk: what statements before wrote in it is gone, too.
-/// Whoever goes on after a statement that failed must not pass this one over.
-class ChangesLost final : public Error
+/// Something is wrong with the store file rather than with one statement: the disk is full, the file was
+/// moved, it cannot be read or written. Callers that continue after a failed statement must not swallow this.
+class StoreFailure : public Error
 {
 public:
     using Error::Error;
+};
+
+/// Another program holds the file. The statement has done nothing and can be tried again; the text names the
+/// program where that is known.
+class StoreLocked final : public StoreFailure
+{
+public:
+    using StoreFailure::StoreFailure;
+};
+
+/// A group of writes could not be brought to the disk: what statements before wrote in it is gone, too.
+class ChangesLost final : public StoreFailure
+{
+public:
+    using StoreFailure::StoreFailure;
 };
 
 } // namespace jet

@@ -51,7 +51,7 @@ QString fileOf(sqlite3 *handle)
 
 [[noreturn]] void raiseOfFile(std::string_view text, sqlite3 *handle)
 {
-    throwError(Failure, namingFile(QUtf8StringView(text).toString(), fileOf(handle)));
+    throw StoreFailure(Failure, namingFile(QUtf8StringView(text).toString(), fileOf(handle)));
 }
 
 [[noreturn]] void raiseLocked(sqlite3 *handle)
@@ -59,8 +59,8 @@ QString fileOf(sqlite3 *handle)
     const QString path = fileOf(handle);
     const QString holder = lockHolder(path);
     const QString by = holder.isEmpty() ? QStringLiteral("another program") : holder;
-    throwError(Failure,
-               namingFile(QStringLiteral("Could not update; currently locked by %1.").arg(by), path));
+    throw StoreLocked(Failure,
+                      namingFile(QStringLiteral("Could not update; currently locked by %1.").arg(by), path));
 }
 
 /// Whether the message is SQLite's word for a statement beyond its limits.
@@ -103,8 +103,8 @@ void raiseSqlite(sqlite3 *handle, int result)
     if ((result & 0xff) == SQLITE_BUSY)
         raiseLocked(handle);
     if ((result & 0xff) == SQLITE_READONLY)
-        raiseError(Failure, std::string(notUpdatable) + " The file '" + fileOf(handle).toStdString() +
-                                "' is read-only.");
+        throw StoreFailure(Failure, QUtf8StringView(notUpdatable).toString() +
+                                        QStringLiteral(" The file '%1' is read-only.").arg(fileOf(handle)));
     for (const ErrorRow &row : errors) {
         if (row.result != extended && row.result != (result & 0xff))
             continue;

@@ -17,8 +17,6 @@ void registerDialect(sqlite3 *handle)
 
 void applyPragmas(sqlite3 *handle)
 {
-    constexpr int waitMilliseconds = 5000;
-    sqlite3_busy_timeout(handle, waitMilliseconds);
     // A rollback journal, not a write-ahead log: stores lie on file servers too, where the
     // log's shared memory does not work, and a store at rest is one file.
     // Cells that reach out of their page, and functions called by a foreign schema, are refused.

@@ -40,15 +40,21 @@ void WriteGroup::requireFileInPlace() const
     int moved = 0;
     sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     if (moved != 0)
-        throwError(Failure,
-                   QStringLiteral("Could not find file '%1'. It was moved or deleted while it was open.")
-                       .arg(QString::fromUtf8(sqlite3_db_filename(m_handle, "main"))));
+        throw StoreFailure(
+            Failure, QStringLiteral("Could not find file '%1'. It was moved or deleted while it was open.")
+                         .arg(QString::fromUtf8(sqlite3_db_filename(m_handle, "main"))));
 }
 
 void WriteGroup::take(bool changed)
 {
     m_changes += changed ? 1 : 0;
     m_changesSinceTry += changed ? 1 : 0;
+}
+
+void WriteGroup::commitIfDue()
+{
+    if (!m_open)
+        return;
     if (m_changesSinceTry >= mostChanges || std::chrono::steady_clock::now() - m_lastTry >= mostAge)
         commitUnlessRead();
 }
@@ -81,7 +87,13 @@ void WriteGroup::raiseLost()
 
 void WriteGroup::endUnlessChanged()
 {
-    if (!m_open || m_changes > 0)
+    if (m_changes == 0)
+        rollBack();
+}
+
+void WriteGroup::rollBack()
+{
+    if (!m_open)
         return;
     sqlite3_exec(m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
     m_open = false;

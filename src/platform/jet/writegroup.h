@@ -22,12 +22,14 @@ public:
     /// Whether there ever was one: the file has a journal beside it since, if an empty one.
     [[nodiscard]] bool wasEverOpen() const { return m_wasEverOpen; }
 
-    /// Opens a group unless one is open, and tells whether it did. Raises Failure when another program
-    /// writes, or when the file was moved or deleted.
+    /// Opens a group unless one is open, and tells whether it did. Raises StoreLocked when another program
+    /// writes, StoreFailure when the file was moved or deleted.
     bool open();
-    /// To be told of each statement that ran, and whether it changed anything. Commits where that is due and
-    /// no other program reads; raises ChangesLost.
+    /// To be told of each statement that ran, and whether it changed anything.
     void take(bool changed);
+    [[nodiscard]] bool hasChanges() const { return m_open && m_changes > 0; }
+    /// Commits where that is due and no other program reads; raises ChangesLost.
+    void commitIfDue();
     /// To be called where the error of a statement is handled: raises ChangesLost in its place when the group
     /// is lost with it, or the error itself when there was nothing to lose but the statement.
     void raiseIfLost();
@@ -36,12 +38,14 @@ public:
     /// would keep other programs from writing.
     void endUnlessChanged();
 
-    /// Raises ChangesLost, or Failure when another program's reading holds it up: the group stays then.
+    /// Raises ChangesLost, or StoreLocked when another program's reading holds it up: the group stays then.
     void commit();
     /// Held up, it stays without a word.
     void commitUnlessRead();
     /// Held up, it is lost.
     void commitOrLose();
+    /// Undoes what it has taken.
+    void rollBack();
 
 private:
     void requireFileInPlace() const;
