@@ -1,14 +1,56 @@
 #include "assets/modHW.h"
 
 #include "assets/clsHW.h"
+#include "assets/frmHW.h"
+#include "session/connectionstring.h"
 #include "views/lists.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+void newHW(const CommandContext &context)
+{
+    frmHW dialog(
+        context.owner, frmHW::Action::NewHW, context.newRow(),
+        [](const QString &connectionString, const HWRecord &item) { clsHW().Add(connectionString, item); });
+    dialog.exec();
+}
+
+void editHW(const CommandContext &context)
+{
+    jet::Recordset item;
+    clsHW().GetByID(getConnectionString(), item, context.id);
+    if (item.recordCount() == 0)
+        throwError(RuleViolation, u"The requested query did not return data"_s);
+    frmHW dialog(context.owner, frmHW::Action::EditHW, context.target(),
+                 [id = context.id](const QString &connectionString, const HWRecord &changed) {
+                     clsHW().update(connectionString, id, changed);
+                 });
+    dialog.load(item);
+    dialog.exec();
+}
+
+void deleteHW(const QString &connectionString, int id)
+{
+    clsHW().Delete(connectionString, id);
+}
+
+} // namespace
+
+void modHW::listUnassigned(QWidget *owner)
+{
+    openView(owner, nullptr, Mode::HW, u"All Unassigned Hardware"_s, readAll<&clsHW::getUnAssigned>);
+}
 
 std::span<const OpRow> modHW::handlers()
 {
     static const OpRow table[] = {
         {Mode::HW, Op::ListAll, listAll<&clsHW::getAll>(Mode::HW, "All Hardware"_L1)},
+        {Mode::HW, Op::AddNew, newHW},
+        {Mode::HW, Op::Edit, editHW},
+        {Mode::HW, Op::Delete,
+         deleteSelected(u"Deleting Hardware"_s, u"The following Hardware could not be deleted:"_s, deleteHW)},
         {Mode::HW, Op::Properties,
          properties({{PropertyTab::Users, readOf<&clsHW::getUser>},
                      {PropertyTab::Rooms, readOf<&clsHW::getRoom>},

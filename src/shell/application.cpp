@@ -1,18 +1,24 @@
 #include "shell/application.h"
 
 #include "assets/modHW.h"
+#include "assets/modHWType.h"
 #include "assets/modRooms.h"
+#include "assets/modSW.h"
 #include "base/error.h"
 #include "exchange/modImport.h"
+#include "folders/modFolders.h"
 #include "messages/status.h"
 #include "platform/desktop/desktop.h"
 #include "platform/jet/connection.h"
+#include "queries/modCustomQuery.h"
 #include "session/connectionstring.h"
 #include "session/identity.h"
 #include "session/modServers.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "store/clsUsers.h"
+#include "sync/modGlobalGroups.h"
+#include "sync/modLocalGroups.h"
 #include "sync/modUsers.h"
 #include "toolkit/imagelist.h"
 #include "toolkit/messagebox.h"
@@ -39,9 +45,15 @@ std::function<void()> &processEnd()
 // One line a family.
 void registerFamilies()
 {
+    registerHandlers(modGlobalGroups::handlers());
+    registerHandlers(modLocalGroups::handlers());
     registerHandlers(modUsers::handlers());
+    registerHandlers(modFolders::handlers());
+    registerHandlers(modHWType::handlers());
     registerHandlers(modHW::handlers());
     registerHandlers(modRooms::handlers());
+    registerHandlers(modSW::handlers());
+    registerHandlers(modCustomQuery::handlers());
     modUsers::registerImport();
 }
 

@@ -1,10 +1,11 @@
 #include "shell/commands.h"
 
-#include "base/error.h"
+#include "assets/modHW.h"
 #include "exchange/modImport.h"
 #include "messages/guard.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
+#include "shell/frmOptions.h"
 #include "toolkit/imagelist.h"
 #include "toolkit/pointer.h"
 #include "views/families.h"
@@ -25,6 +26,18 @@ namespace {
 void importFromFile(frmMain &window)
 {
     modImport::showImport(&window);
+}
+
+void listUnassigned(frmMain &window)
+{
+    const Hourglass hourglass;
+    modHW::listUnassigned(&window);
+}
+
+void options(frmMain &window)
+{
+    frmOptions dialog(window);
+    dialog.exec();
 }
 
 void about(frmMain &window)
@@ -83,7 +96,7 @@ constexpr MenuEntry menuTable[] = {
     {"mnuFolders"_L1, "mnuFolderUserPermissionWizard"_L1, "User Permission Wizard"_L1, toCome},
     {{}, "mnuHardware"_L1, "Hardware"_L1, {}},
     {"mnuHardware"_L1, "mnuShowAllHardware"_L1, "Show All"_L1, showAll(Mode::HW)},
-    {"mnuHardware"_L1, "mnuShowAllHardwareUnassigned"_L1, "Show Unassigned"_L1, toCome},
+    {"mnuHardware"_L1, "mnuShowAllHardwareUnassigned"_L1, "Show Unassigned"_L1, call(listUnassigned)},
     {"mnuHardware"_L1, "mnuAddNewHardware"_L1, "Add New"_L1, addNew(Mode::HW)},
     {"mnuHardware"_L1, "mnuWizardHWRoom"_L1, "Room Wizard"_L1, toCome},
     {"mnuHardware"_L1, "mnuWizardHWUser"_L1, "User Wizard"_L1, toCome},
@@ -145,7 +158,7 @@ constexpr MenuEntry menuTable[] = {
     {"mnuWindowsNT"_L1, "mnuNTShowUsers"_L1, "Users"_L1, toCome},
     {{}, "mnuTools"_L1, "Tools"_L1, {}},
     {"mnuTools"_L1, "mnuImport"_L1, "Import from File..."_L1, call(importFromFile)},
-    {"mnuTools"_L1, "mnuOptions"_L1, "Options..."_L1, toCome},
+    {"mnuTools"_L1, "mnuOptions"_L1, "Options..."_L1, call(options)},
     {"mnuTools"_L1, "mnuToolCompactDatabase"_L1, "Compact Database"_L1, toCome},
     {{}, "mnuHelp"_L1, "&Help"_L1, {}},
     {"mnuHelp"_L1, "mnuHelpOverView"_L1, "Introduction"_L1, toCome},

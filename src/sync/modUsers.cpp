@@ -1,14 +1,45 @@
 #include "sync/modUsers.h"
 
+#include "session/connectionstring.h"
 #include "store/clsUsers.h"
+#include "sync/frmUser.h"
 #include "views/lists.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+void newUser(const CommandContext &context)
+{
+    frmUser(context.owner, frmUser::Action::NewUser, context.newRow()).exec();
+}
+
+void editUser(const CommandContext &context)
+{
+    jet::Recordset user;
+    clsUsers().getUserByID(getConnectionString(), context.id, user);
+    if (user.recordCount() == 0)
+        throwError(RuleViolation, u"The requested query did not return data"_s);
+    frmUser dialog(context.owner, frmUser::Action::EditUser, context.target());
+    dialog.load(user);
+    dialog.exec();
+}
+
+void deleteUser(const QString &connectionString, int id)
+{
+    clsUsers().Delete(connectionString, std::span(&id, 1));
+}
+
+} // namespace
 
 std::span<const OpRow> modUsers::handlers()
 {
     static const OpRow table[] = {
         {Mode::Users, Op::ListAll, listAll<&clsUsers::getAll>(Mode::Users, "All Users"_L1)},
+        {Mode::Users, Op::AddNew, newUser},
+        {Mode::Users, Op::Edit, editUser},
+        {Mode::Users, Op::Delete,
+         deleteSelected(u"Deleting Users"_s, u"The following Users could not be deleted:"_s, deleteUser)},
         {Mode::Users, Op::Properties,
          properties({{PropertyTab::GlobalGroups, readOf<&clsUsers::getGlobalGroups>},
                      {PropertyTab::LocalGroups, readOf<&clsUsers::getLocalGroups>},

@@ -2,6 +2,9 @@
 
 #include "toolkit/banner.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
 #include <QDialog>
 #include <QEvent>
 #include <QGridLayout>
@@ -96,6 +99,38 @@ Form::Line Form::line(QLatin1StringView labelName, QLatin1StringView caption, QL
     field->setMinimumWidth(fieldWidthInCharacters * m_dialog.fontMetrics().averageCharWidth());
     selectAllOnFocus(*field);
     return {row(labelName, caption, name, field), field};
+}
+
+QComboBox *makeFreeCombo()
+{
+    auto *combo = new QComboBox;
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    selectAllOnFocus(*combo->lineEdit());
+    return combo;
+}
+
+QComboBox *Form::combo(QLatin1StringView labelName, QLatin1StringView caption, QLatin1StringView name)
+{
+    QComboBox *made = makeFreeCombo();
+    made->setMinimumWidth(fieldWidthInCharacters * m_dialog.fontMetrics().averageCharWidth());
+    row(labelName, caption, name, made);
+    return made;
+}
+
+QCheckBox *Form::check(QLatin1StringView name, QLatin1StringView caption)
+{
+    QGridLayout &layout = rows();
+    auto *check = new QCheckBox(caption);
+    check->setObjectName(name);
+    layout.addWidget(check, layout.rowCount(), 0, 1, 2);
+    return check;
+}
+
+void Form::add(QWidget &widget)
+{
+    m_all->addWidget(&widget, 1);
 }
 
 QPushButton *Form::buttonBeside(QLatin1StringView name, QLatin1StringView caption)

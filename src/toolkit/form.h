@@ -4,6 +4,8 @@
 #include <QString>
 
 class Banner;
+class QCheckBox;
+class QComboBox;
 class QDialog;
 class QGridLayout;
 class QGroupBox;
@@ -39,9 +41,13 @@ public:
         QLineEdit *field;
     };
     Line line(QLatin1StringView labelName, QLatin1StringView caption, QLatin1StringView name);
+    /// A list of choices with free text.
+    QComboBox *combo(QLatin1StringView labelName, QLatin1StringView caption, QLatin1StringView name);
     /// A row with any other control, which is named and given to the form.
     QLabel *row(QLatin1StringView labelName, QLatin1StringView caption, QLatin1StringView name,
                 QWidget *field);
+    /// A row of its own, without a label.
+    QCheckBox *check(QLatin1StringView name, QLatin1StringView caption);
     /// Beside the last row.
     QPushButton *buttonBeside(QLatin1StringView name, QLatin1StringView caption);
 
@@ -49,6 +55,8 @@ public:
     // default button takes it everywhere else.
     QPushButton *button(QLatin1StringView name, QLatin1StringView caption);
     QPushButton *defaultButton(QLatin1StringView name, QLatin1StringView caption);
+    /// Any widget of its own, above the buttons.
+    void add(QWidget &widget);
     /// Clicking it rejects the dialog, as Esc does.
     QPushButton *closeButton(QLatin1StringView name, QLatin1StringView caption);
 
@@ -63,6 +71,8 @@ private:
 
 /// All of its text is selected whenever the field gets the focus.
 void selectAllOnFocus(QLineEdit &field);
+/// An empty list of choices with free text.
+[[nodiscard]] QComboBox *makeFreeCombo();
 
 /// A caption without the mark of its mnemonic: "&Save" is "Save".
 [[nodiscard]] QString withoutMnemonic(QString caption);

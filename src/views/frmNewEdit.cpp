@@ -1,14 +1,10 @@
 #include "views/frmNewEdit.h"
 
-#include "base/error.h"
-#include "messages/guard.h"
 #include "messages/status.h"
 #include "session/connectionstring.h"
 #include "toolkit/banner.h"
 #include "toolkit/form.h"
-#include "toolkit/messagebox.h"
-#include "views/choosers.h"
-#include "views/families.h"
+#include "views/savedialog.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -16,24 +12,6 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A button that only the live system can serve.
-template <typename Chooser>
-void offer(QPushButton &button, QDialog &dialog, QLineEdit &field, const Chooser &chooser)
-{
-    button.setEnabled(bool(chooser));
-    button.setToolTip(chooser ? QString() : notYetImplemented());
-    QObject::connect(&button, &QPushButton::clicked, &dialog, [&dialog, &field, &chooser] {
-        guarded(&dialog, [&] {
-            if (const QString chosen = chooser(&dialog); !chosen.isEmpty())
-                field.setText(chosen);
-        });
-    });
-}
-
-} // namespace
 
 frmNewEdit::frmNewEdit(QWidget *owner, const Action &action, const Texts &texts, RowTarget source, Save save)
     : QDialog(owner)
@@ -66,12 +44,11 @@ frmNewEdit::frmNewEdit(QWidget *owner, const Action &action, const Texts &texts,
     txtServer->setText(texts.server);
     txtDescription->setText(texts.description);
     cmdBrowse->setVisible(action.isFolder);
-    offer(*cmdBrowse, *this, *txtName, choosers().folder);
-    offer(*cmdSelectServer, *this, *txtServer, choosers().server);
+    offerFolders(*cmdBrowse, *txtName);
+    offerServers(*cmdSelectServer, *txtServer);
     lblServer->setEnabled(action.hasServer);
     txtServer->setEnabled(action.hasServer);
-    if (!action.hasServer)
-        cmdSelectServer->setEnabled(false);
+    cmdSelectServer->setEnabled(action.hasServer);
 
     connect(cmdOK, &QPushButton::clicked, this, &frmNewEdit::OK);
     txtName->setFocus();
@@ -86,14 +63,13 @@ void frmNewEdit::OK()
 {
     if (m_action.isFolder && !txtName->text().endsWith(u'\\'))
         txtName->setText(txtName->text() % u'\\');
-    if (!attempt([this] {
+    saveAndAccept(
+        *this,
+        [this] {
             m_save(getConnectionString(), texts());
             UpdateSource();
-        })) {
-        messageBox(this, currentError().description, box::StopIcon);
-        return;
-    }
-    accept();
+        },
+        txtName);
 }
 
 void frmNewEdit::UpdateSource() const

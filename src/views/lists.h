@@ -4,13 +4,15 @@
 #include "views/frmProperties.h"
 #include "views/openview.h"
 
+#include <type_traits>
+
 // What the tables of families are made of: the handlers that all families have in common, made from a
 // method of a record class.
 
 template <typename Method>
 struct ReaderOf;
 template <typename Record, typename... Arguments>
-struct ReaderOf<void (Record::*)(const QString &, jet::Recordset &, Arguments...)>
+struct ReaderOf<void (Record::*)(Arguments...)>
 {
     using Class = Record;
 };
@@ -28,7 +30,11 @@ template <auto method>
 void readOf(const QString &connectionString, jet::Recordset &rows, int id)
 {
     typename ReaderOf<decltype(method)>::Class record;
-    (record.*method)(connectionString, rows, id);
+    if constexpr (std::is_invocable_v<decltype(method), decltype(record), const QString &, int,
+                                      jet::Recordset &>)
+        (record.*method)(connectionString, id, rows);
+    else
+        (record.*method)(connectionString, rows, id);
 }
 
 /// The view of all objects of a mode, in the context's view or in a new one.

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "views/families.h"
+
+/// Global groups: their views, their dialog, and what belongs to a group.
+namespace modGlobalGroups {
+
+[[nodiscard]] std::span<const OpRow> handlers();
+
+} // namespace modGlobalGroups

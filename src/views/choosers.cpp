@@ -1,7 +1,0 @@
-#include "views/choosers.h"
-
-Choosers &choosers()
-{
-    static Choosers installed;
-    return installed;
-}

@@ -1,0 +1,7 @@
+#include "views/livehooks.h"
+
+LiveHooks &liveHooks()
+{
+    static LiveHooks installed;
+    return installed;
+}
