@@ -14,12 +14,14 @@
 #include "views/frmDisplay.h"
 #include "views/frmProperties.h"
 #include "views/listpane.h"
+#include "views/modServer.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QMdiArea>
 #include <QMenu>
 #include <QPointer>
+#include <QTabWidget>
 #include <QTimer>
 
 #include <functional>
@@ -154,6 +156,58 @@ void walkRooms(Gallery &gallery)
     paintNow();
 }
 
+/// Takes a picture of each tab of the dialog that opens, the first under the name alone.
+void walkTabs(Gallery &gallery, const QString &name, const std::function<void()> &open)
+{
+    QTimer::singleShot(0, qApp, [&gallery, name] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        auto *tabs = dialog ? dialog->findChild<QTabWidget *>() : nullptr;
+        for (int tab = 0; tabs && tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            paintNow();
+            gallery.add(*dialog, tab == 0 ? name : name % u'-' % QString::number(tab + 1));
+        }
+        if (dialog)
+            dialog->close();
+    });
+    open();
+}
+
+void walkInventory(Gallery &gallery)
+{
+    const struct
+    {
+        QString entry;
+        QString name;
+        bool hasTabs;
+    } kinds[] = {
+        {u"mnuShowAllGlobalGroups"_s, u"globalgroup"_s, false},
+        {u"mnuShowAllLocalGroups"_s, u"localgroup"_s, false},
+        {u"mnuShowAllFolders"_s, u"folder"_s, false},
+        {u"mnuFodlerDefaultPermissionsShowAll"_s, u"defaultpermission"_s, false},
+        {u"mnuShowAllHardwareTypes"_s, u"hardwaretype"_s, false},
+        {u"mnuShowAllSoftware"_s, u"software"_s, false},
+        {u"mnuShowAllHardware"_s, u"hardware"_s, true},
+        {u"mnuShowAllUsers"_s, u"user"_s, true},
+    };
+    for (const auto &kind : kinds) {
+        trigger(kind.entry);
+        frmDisplay &view = activeView();
+        view.listDisplay->chooseRow(1);
+        paintNow();
+        gallery.add(mainForm(), kind.name % "-list"_L1);
+        const auto edit = [&view] { view.run(Op::Edit); };
+        if (kind.hasTabs)
+            walkTabs(gallery, kind.name % "-edit"_L1, edit);
+        else
+            walkModal(gallery, {kind.name % "-edit"_L1}, edit);
+        mainForm().mdiArea().closeAllSubWindows();
+        paintNow();
+    }
+    walkTabs(gallery, u"options"_s, [] { trigger(u"mnuOptions"_s); });
+    walkModal(gallery, {u"server"_s}, [] { static_cast<void>(modServer::selectServer(&mainForm())); });
+}
+
 void walkMessages(Gallery &gallery)
 {
     {
@@ -183,6 +237,7 @@ void walkWindows(Gallery &gallery)
     walkMainWindow(gallery);
     walkViews(gallery);
     walkRooms(gallery);
+    walkInventory(gallery);
     walkModal(gallery, {u"import"_s}, [] { trigger(u"mnuImport"_s); });
     walkModal(gallery, {u"about"_s}, [] { trigger(u"mnuAbout"_s); });
     walkMessages(gallery);
