@@ -106,6 +106,7 @@ void RecordClass::writeForEach(const QString &connectionString, std::span<const 
 {
     withWrites(connectionString, [&](StoreSession &store) {
         for (const int id : ids) {
+            store.beginWriting();
             for (const QLatin1StringView statement : statements)
                 store.execute(withId(statement, id));
         }
