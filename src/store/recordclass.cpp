@@ -88,7 +88,7 @@ void RecordClass::read(const QString &connectionString, jet::Recordset &result, 
 
 void RecordClass::write(const QString &connectionString, const QString &sql)
 {
-    withWrites(connectionString, [&](StoreSession &store) { store.execute(sql); });
+    withStore(connectionString, [&](StoreSession &store) { store.execute(sql); });
 }
 
 void RecordClass::writeUnlessFound(const QString &connectionString, const QString &test,
