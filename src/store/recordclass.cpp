@@ -88,7 +88,7 @@ void RecordClass::read(const QString &connectionString, jet::Recordset &result, 
 
 void RecordClass::write(const QString &connectionString, const QString &sql)
 {
-    withWrites(connectionString, [&](StoreSession &store) { store.execute(sql); });
+    withStore(connectionString, [&](StoreSession &store) { store.execute(sql); });
 }
 
 void RecordClass::writeUnlessFound(const QString &connectionString, const QString &test,
@@ -106,6 +106,7 @@ void RecordClass::writeForEach(const QString &connectionString, std::span<const 
 {
     withWrites(connectionString, [&](StoreSession &store) {
         for (const int id : ids) {
+            store.beginWriting();
             for (const QLatin1StringView statement : statements)
                 store.execute(withId(statement, id));
         }

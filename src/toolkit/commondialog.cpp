@@ -43,10 +43,13 @@ QString askUser(const CommonDialog &dialog, CommonDialog::Kind kind, QWidget *pa
 {
     const PointerScope normalPointer(false);
     const QString filter = dialogFilter(dialog.filter);
-    return kind == CommonDialog::Kind::Open
-               ? QFileDialog::getOpenFileName(parent, {}, dialog.fileName, filter)
-               : QFileDialog::getSaveFileName(parent, {}, dialog.fileName, filter, nullptr,
-                                              QFileDialog::DontConfirmOverwrite);
+    const QString chosen = kind == CommonDialog::Kind::Open
+                               ? QFileDialog::getOpenFileName(parent, {}, dialog.fileName, filter)
+                               : QFileDialog::getSaveFileName(parent, {}, dialog.fileName, filter, nullptr,
+                                                              QFileDialog::DontConfirmOverwrite);
+    if (parent)
+        parent->window()->activateWindow();
+    return chosen;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "base/error.h"
 #include "exchange/frmImport.h"
 #include "exchange/modImport.h"
+#include "exchange/modImportSteps.h"
 #include "messages/frmProgress.h"
 #include "messages/frmResult.h"
 #include "platform/desktop/desktop.h"
@@ -133,6 +134,13 @@ TEST_F(ImportTest, OffersTheSevenTypesAndNoneIsChosen)
                                       u"Local Group - Global Groups (Relationships)"_s,
                                       u"Folders (Root Data)"_s, u"Folder Permissions (Relationships)"_s}));
         EXPECT_EQ(dialog.cboImportType->currentText(), QString());
+        EXPECT_EQ(dialog.cboImportType->accessibleName(), u"Import Type"_s);
+        for (int i = 0; i < types.size(); ++i) {
+            const bool canBeRead = types[i] == usersType;
+            EXPECT_EQ(bool(dialog.cboImportType->model()->index(i, 0).flags() & Qt::ItemIsEnabled),
+                      canBeRead);
+            EXPECT_EQ(dialog.cboImportType->itemData(i, Qt::ToolTipRole).toString().isEmpty(), canBeRead);
+        }
         EXPECT_EQ(dialog.windowTitle(), u"Import from File"_s);
         EXPECT_EQ(dialog.LblInfo->text(), u"Import Data From File"_s);
         QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -184,6 +192,62 @@ TEST_F(ImportTest, EveryFaultOfALineIsReportedWithItsNumber)
                                       "Fields missing on Line 6\nNo Username on Line 8\n\n"_s))
         << resultText().toStdString();
     EXPECT_EQ(column(allUsers), (QStringList{u"SRV01\\anna Anna"_s, u"SRV01\\emil Emil"_s}));
+}
+
+TEST_F(ImportTest, FieldsThatAreTooLongOrNoTextAreRefusedWithTheirLine)
+{
+    const std::string longest(255, 'x');
+    importUsers(line("anna", longest.c_str()) + line("bert", (longest + 'x').c_str()) +
+                    QByteArray(line("cleo", "A#B")).replace('#', '\0') + QByteArray(3'000'000, ';') + '\n' +
+                    line("dora", std::string(3'000'000, 'y').c_str()) + line("emil", "Emil"),
+                box::ResultYes);
+    EXPECT_EQ(column(u"SELECT UserName FROM Tbl_Users ORDER BY UserID"_s),
+              (QStringList{u"anna"_s, u"emil"_s}));
+    EXPECT_TRUE(resultText().contains(u"\n\n\nField longer than 255 Characters on Line 2\n"
+                                      "Field with a Null Character on Line 3\nLine too long on Line 4\n"
+                                      "Line too long on Line 5\n\n"_s))
+        << resultText().toStdString();
+}
+
+TEST_F(ImportTest, TheDialogHasTheResultAndEnterPressesTheFocusedButton)
+{
+    const QString file = write(";\n");
+    expectBox(startQuestion, warningYesNo, box::ResultYes);
+    expectBox(updateQuestion, warningYesNoCancel, box::ResultYes);
+    whenShown<frmImport>([&](frmImport &dialog) {
+        dialog.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        dialog.cboImportType->setCurrentText(usersType);
+        dialog.txtFileName->setText(file);
+        dialog.txtFileName->setFocus();
+        QTest::keyClick(dialog.txtFileName, Qt::Key_Return); // Import is the default
+        EXPECT_EQ(lastBoxOwner(), &dialog);
+        auto *result = find<frmResult>(u"frmResult"_s);
+        EXPECT_EQ(result->parentWidget(), &dialog);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(result));
+
+        dialog.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        dialog.cmdCancel->setFocus();
+        EXPECT_TRUE(dialog.cmdCancel->isDefault());
+        EXPECT_FALSE(dialog.cmdOK->isDefault()) << "Two buttons look like the default.";
+        QTest::keyClick(dialog.cmdCancel, Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    modImport::showImport(nullptr);
+}
+
+TEST_F(ImportTest, ALostStoreIsSaidInFrontOfTheCounts)
+{
+    modImportSteps::ImportReport report;
+    report.end = Report::End::Lost;
+    report.added = 12;
+    report.batchErrors = u"There isn't enough disk space."_s;
+    modImportSteps::reportImport(nullptr, u"users.txt"_s, report, success);
+    EXPECT_TRUE(resultText().startsWith(
+        u"The Import was broken off because the Database can no longer be written.\n\nNew Users:     \t\t12\n"_s))
+        << resultText().toStdString();
+    EXPECT_TRUE(resultText().contains(report.batchErrors));
 }
 
 TEST_F(ImportTest, WhatTheStoreRefusesIsNamedBelowTheBadLines)

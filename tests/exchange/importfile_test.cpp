@@ -64,6 +64,9 @@ TEST_F(ImportFileTest, LinesAndEncodings)
                     "b\0",
                     10),
          {u"Mü"_s, u"b"_s}},
+        {"UTF-16 without a mark", QByteArray("M\0\xfc\0\n\0b\0", 8), {u"Mü"_s, u"b"_s}},
+        {"UTF-16 the other way round", QByteArray("\0M\0\xfc\0\n\0b", 8), {u"Mü"_s, u"b"_s}},
+        {"a null character", QByteArray("a\0b\nc", 5), {QStringList{QString(u"a\0b"_s), u"c"_s}}},
     };
     for (const auto &c : cases)
         EXPECT_EQ(linesOf(write(c.bytes)), c.lines) << c.name;

@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "platform/jet/connection.h"
+#include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 #include "support/freshstore.h"
 
@@ -150,3 +151,32 @@ INSTANTIATE_TEST_SUITE_P(Disk, FailureTest,
                          [](const testing::TestParamInfo<Case> &info) {
                              return std::string(std::get<0>(info.param).name) + std::get<1>(info.param).name;
                          });
+
+TEST(FlushTest, AFailureIsRaisedByTheNextUseOfTheStore)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plan.mdb"_L1);
+    makeFreshStore(path);
+    const std::pair<const char *, void (*)(jet::Connection &)> uses[] = {
+        {"execute", [](jet::Connection &store) { store.execute(u"SELECT * FROM Tbl_Users"_s); }},
+        {"begin", [](jet::Connection &store) { store.beginWriting(); }},
+        {"commit", [](jet::Connection &store) { store.commit(); }},
+        {"all", [](jet::Connection &) { jet::commitPendingWrites(); }},
+        {"close", [](jet::Connection &store) { store.close(); }},
+    };
+    failingvfs::Installed disk;
+    for (const auto &[name, use] : uses) {
+        jet::Connection store;
+        store.open(jet::connectionString(path));
+        store.execute(u"INSERT INTO Tbl_Rooms (RoomNumber) VALUES ('lost')"_s);
+        disk.plan({failingvfs::Kind::Sync, 1, SQLITE_IOERR_FSYNC});
+        EXPECT_NO_THROW(jet::flushPendingWrites()) << name;
+        disk.plan({});
+        EXPECT_THROW(use(store), jet::ChangesLost) << name;
+        if (store.state() == jet::StateClosed)
+            store.open(jet::connectionString(path));
+        jet::Recordset rooms;
+        rooms.open(u"SELECT * FROM Tbl_Rooms"_s, store);
+        EXPECT_EQ(rooms.recordCount(), 0) << name;
+    }
+}

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QScreen>
+#include <QTextBlock>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -141,6 +142,30 @@ TEST_F(ResultTest, CancelAndAFolderThatIsNotThereSaveNothing)
     save({});
     save(u"missing/result.txt"_s);
     EXPECT_FALSE(QFile::exists(path(u"missing"_s)));
+}
+
+TEST_F(ResultTest, ItsKeysSaveAndClose)
+{
+    frmResult *window = show(u"text"_s);
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    expectFile(CommonDialog::Kind::Save, saveFilter, path(u"result.txt"_s));
+    QTest::keyClick(window->txtResult, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(read(u"result.txt"_s), "text");
+    QTest::keyClick(window->txtResult, Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(ResultTest, CountsAreBelowEachOther)
+{
+    frmResult *window = show(u"New Users:     \t\t1\r\nUpdated Users: \t\t1\r\nErrors encountered: \t1"_s);
+    QSet<int> places;
+    for (QTextBlock line = window->txtResult->document()->begin(); line.isValid(); line = line.next()) {
+        QTextCursor count(line);
+        count.movePosition(QTextCursor::EndOfBlock);
+        places.insert(window->txtResult->cursorRect(count).left());
+    }
+    EXPECT_EQ(places.size(), 1);
 }
 
 TEST_F(ResultTest, ControlASelectsTheWholeText)

@@ -163,7 +163,9 @@ Database::~Database()
 {
     try {
         m_group.commit();
-        // The emptied journal goes too: a store at rest is one file.
+        // The emptied journal goes too: a store at rest is one file. Another program that uses the store has
+        // its own need of it.
+        setPatience({});
         if (m_group.wasEverOpen())
             sqlite3_exec(m_handle.get(), "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
     } catch (...) {
