@@ -5,39 +5,47 @@
 #include "toolkit/imagelist.h"
 
 #include <QEvent>
-#include <QFrame>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPainter>
 #include <QStyle>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int pictureSize = 16;
 constexpr int spacing = 4;
-constexpr int narrowest = 76; // percent
-constexpr int narrowing = 3;
-
-/// The font, drawn narrower where that makes the text fit, or as narrow as can be read.
-QFont fitted(QFont font, const QString &text, int room)
-{
-    const auto fits = [&] { return QFontMetrics(font).horizontalAdvance(text) <= room; };
-    for (int stretch = 100; stretch > narrowest && !fits(); stretch -= narrowing)
-        font.setStretch(stretch - narrowing);
-    return font;
-}
+constexpr double narrowest = 0.76; // of the width of the font: less cannot be read
 } // namespace
 
-class StatusBar::Panel final : public QFrame
+QString shortened(const QString &text, const QFontMetrics &metrics, int room)
+{
+    if (metrics.horizontalAdvance(text) <= room)
+        return text;
+    const qsizetype separator = std::max(text.lastIndexOf(u'/'), text.lastIndexOf(u'\\'));
+    if (separator < 0)
+        return metrics.elidedText(text, Qt::ElideRight, room);
+    const QString name = text.sliced(separator);
+    const int before = room - metrics.horizontalAdvance(name);
+    const QString folder = metrics.elidedText(text.first(separator), Qt::ElideRight, before);
+    if (folder.isEmpty() || metrics.horizontalAdvance(folder % name) > room)
+        return metrics.elidedText(text, Qt::ElideMiddle, room);
+    return folder % name;
+}
+
+/// A label, so that screen readers read its text.
+class StatusBar::Panel final : public QLabel
 {
 public:
-    explicit Panel(QWidget *parent) : QFrame(parent)
+    explicit Panel(QWidget *parent) : QLabel(parent)
     {
         setFrameStyle(int(StyledPanel) | int(Sunken));
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        setTextFormat(Qt::PlainText);
     }
 
-    QString text;
     QIcon icon;
     int picture = 0;
     int width = 0; // 0 until it is set
@@ -53,33 +61,36 @@ protected:
     {
         QFrame::paintEvent(event);
         QPainter painter(this);
-        QRect room = contentsRect().adjusted(spacing, 0, -spacing, 0);
-        if (picture != 0) {
-            const QRect place = QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
-                                                    {pictureSize, pictureSize}, room);
-            icon.paint(&painter, place);
-            if (layoutDirection() == Qt::LeftToRight)
-                room.setLeft(place.right() + 1 + spacing);
-            else
-                room.setRight(place.left() - 1 - spacing);
-        }
-        // Of a path the end is what tells.
-        const bool isPath = text.contains(u'/') || text.contains(u'\\');
-        painter.setFont(fitted(font(), text, room.width()));
-        const QString shown =
-            painter.fontMetrics().elidedText(text, isPath ? Qt::ElideMiddle : Qt::ElideRight, room.width());
-        style()->drawItemText(&painter, room, Qt::AlignLeading | Qt::AlignVCenter, palette(), isEnabled(),
-                              shown, QPalette::WindowText);
+        if (picture != 0)
+            icon.paint(&painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
+                                                     {pictureSize, pictureSize}, inside()));
+        const QRect room =
+            QStyle::alignedRect(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter, roomOfText(), inside());
+        // Not by the font: few have a narrow face.
+        const double needed = std::max(1, fontMetrics().horizontalAdvance(text()));
+        const double narrowed = std::clamp(room.width() / needed, narrowest, 1.0);
+        const QRect wide(0, room.top(), qRound(room.width() / narrowed), room.height());
+        painter.translate(room.left(), 0);
+        painter.scale(narrowed, 1);
+        style()->drawItemText(&painter, wide, Qt::AlignLeading | Qt::AlignVCenter, palette(), isEnabled(),
+                              shortened(text(), fontMetrics(), wide.width()), QPalette::WindowText);
     }
 
     bool event(QEvent *event) override
     {
         if (event->type() == QEvent::ToolTip) {
-            const int icons = picture != 0 ? pictureSize + spacing : 0;
-            const int room = contentsRect().width() - 2 * spacing - icons;
-            setToolTip(fontMetrics().horizontalAdvance(text) > room ? text.toHtmlEscaped() : QString());
+            const bool fits = fontMetrics().horizontalAdvance(text()) <= roomOfText().width();
+            setToolTip(fits ? QString() : text().toHtmlEscaped());
         }
-        return QFrame::event(event);
+        return QLabel::event(event);
+    }
+
+private:
+    [[nodiscard]] QRect inside() const { return contentsRect().adjusted(spacing, 0, -spacing, 0); }
+    [[nodiscard]] QSize roomOfText() const
+    {
+        const QRect all = inside();
+        return {std::max(0, all.width() - (picture != 0 ? pictureSize + spacing : 0)), all.height()};
     }
 };
 
@@ -108,17 +119,12 @@ StatusBar::Panel &StatusBar::panelAt(int panel) const
 
 void StatusBar::setPanelText(int panel, const QString &text)
 {
-    Panel &at = panelAt(panel);
-    if (at.text == text)
-        return;
-    at.text = text;
-    at.setAccessibleName(text);
-    at.update();
+    panelAt(panel).setText(text);
 }
 
 QString StatusBar::panelText(int panel) const
 {
-    return panelAt(panel).text;
+    return panelAt(panel).text();
 }
 
 void StatusBar::setPanelPicture(int panel, const ImageList &pictures, int number)
@@ -137,7 +143,12 @@ int StatusBar::panelPicture(int panel) const
 void StatusBar::setPanelWidth(int panel, int width)
 {
     panelAt(panel).width = width;
-    m_layout->setStretch(panel - 1, qMax(1, width));
+    int total = 0;
+    for (const Panel *each : m_panels)
+        total += each->width;
+    const int least = std::max(1, total / (2 * panelCount()));
+    for (int i = 0; i < panelCount(); ++i)
+        m_layout->setStretch(i, std::max(least, m_panels[std::size_t(i)]->width));
 }
 
 int StatusBar::panelWidth(int panel) const

@@ -5,12 +5,18 @@
 #include <vector>
 
 class ImageList;
+class QFontMetrics;
 class QHBoxLayout;
+
+/// The text as far as it fits into the room, in pixels, with an ellipsis at its end; that of a path is in
+/// its middle and leaves the file name whole while that fits.
+[[nodiscard]] QString shortened(const QString &text, const QFontMetrics &metrics, int room);
 
 /// A status bar of panels, each by its index from 1 with a text, a picture and a width.
 /// The widths are shares: a bar that grows keeps the proportions, and a panel never
-/// makes its window wider; a text that is too long is shortened and told in full as a
-/// tool tip.
+/// makes its window wider, nor gets less than half of what it had if all were equal. A text
+/// that is a little too long is drawn narrower, one that still is shortened; a tool tip shows
+/// it in full.
 class StatusBar final : public QStatusBar
 {
     Q_OBJECT

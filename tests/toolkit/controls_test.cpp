@@ -4,6 +4,7 @@
 #include "toolkit/imagelist.h"
 #include "toolkit/statusbar.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QImage>
 #include <QLabel>
@@ -91,7 +92,6 @@ TEST(StatusBarTest, PanelsByIndexFromOne)
     EXPECT_EQ(bar.panelPicture(1), 0);
     EXPECT_FALSE(attempt([&] { bar.setPanelText(4, {}); }));
     EXPECT_FALSE(attempt([&] { static_cast<void>(bar.panelText(0)); }));
-    EXPECT_EQ(findAll<QWidget>(u"panel1"_s, &bar).value(0)->accessibleName(), u"Ready"_s);
 }
 
 TEST(StatusBarTest, PanelsShareTheBarInTheProportionOfTheirWidths)
@@ -138,7 +138,7 @@ TEST(StatusBarTest, ATextThatNearlyFitsIsDrawnWhole)
     while (bar.fontMetrics().horizontalAdvance(text) < panel->width() * 11 / 10)
         text += u'H';
     // The upper half of the end: empty above the dots of a text that is cut off.
-    const QRect end(panel->width() - 16, 3, 10, panel->height() / 2 - 3);
+    const QRect end(panel->width() - 12, 3, 7, panel->height() / 2 - 3);
     const auto inkAtTheEnd = [&](const QString &shown) {
         bar.setPanelText(1, shown);
         const QImage picture = panel->grab(end).toImage();
@@ -146,6 +146,53 @@ TEST(StatusBarTest, ATextThatNearlyFitsIsDrawnWhole)
     };
     EXPECT_GT(inkAtTheEnd(text), 0);
     EXPECT_EQ(inkAtTheEnd(text + text), 0);
+}
+
+TEST(StatusBarTest, APanelIsReadOutWhole)
+{
+    StatusBar bar(1);
+    bar.resize(60, 24);
+    const QString path = u"/home/anna/plans & <drafts>/Headquarters 2005.mdb"_s;
+    bar.setPanelText(1, path);
+    QAccessibleInterface *panel = QAccessible::queryAccessibleInterface(find<QWidget>(u"panel1"_s, &bar));
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->role(), QAccessible::StaticText);
+    EXPECT_EQ(panel->text(QAccessible::Name), path);
+}
+
+TEST(StatusBarTest, AShortenedPathKeepsTheFileNameWhileItFits)
+{
+    const StatusBar bar(1);
+    const QFontMetrics metrics = bar.fontMetrics();
+    const QString ellipsis(QChar(0x2026));
+    for (const QString &path :
+         {u"/home/anna/plans/Headquarters.mdb"_s, u"C:\\Data\\Plans\\Headquarters.mdb"_s}) {
+        const QString name = path.right(17);
+        const int whole = metrics.horizontalAdvance(path);
+        EXPECT_EQ(shortened(path, metrics, whole), path);
+        for (int room = whole - 1; room > 0; --room) {
+            SCOPED_TRACE(room);
+            const QString shown = shortened(path, metrics, room);
+            EXPECT_NE(shown, path);
+            EXPECT_TRUE(metrics.horizontalAdvance(shown) <= room || shown.size() <= 1);
+            if (metrics.horizontalAdvance(ellipsis % name) <= room) {
+                EXPECT_TRUE(shown.endsWith(name)) << qPrintable(shown);
+            }
+        }
+    }
+    const QString text = u"Reading Data. Please stand by"_s;
+    EXPECT_TRUE(shortened(text, metrics, metrics.horizontalAdvance(text) / 2).startsWith(u"Reading"_s));
+}
+
+TEST(StatusBarTest, NoPanelIsSqueezedOut)
+{
+    StatusBar bar(3);
+    bar.resize(600, 24);
+    bar.show();
+    bar.setPanelWidth(1, 300);
+    bar.setPanelWidth(2, 0);
+    bar.setPanelWidth(3, 300);
+    EXPECT_TRUE(waitFor([&] { return find<QWidget>(u"panel2"_s, &bar)->width() > 70; }));
 }
 
 TEST(BannerTest, PictureTitleAndTheMarkOfTheLiveSystem)
