@@ -23,7 +23,6 @@ public:
     /// What the window is about.
     struct Action
     {
-        QLatin1StringView text; ///< "NewSW"
         QLatin1StringView caption;
         int bannerPicture;
         QLatin1StringView typeLabel;

@@ -12,8 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr frmSWHWType::Action newAction{.text = "NewHWType"_L1,
-                                        .caption = "Add New Hardware Type"_L1,
+constexpr frmSWHWType::Action newAction{.caption = "Add New Hardware Type"_L1,
                                         .bannerPicture = 7,
                                         .typeLabel = "Hardware Type"_L1,
                                         .nameLabel = "Model"_L1,
@@ -21,7 +20,6 @@ constexpr frmSWHWType::Action newAction{.text = "NewHWType"_L1,
 
 constexpr frmSWHWType::Action asEdit(frmSWHWType::Action action)
 {
-    action.text = "EditHWType"_L1;
     action.caption = "Edit Hardware Type"_L1;
     return action;
 }

@@ -9,8 +9,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr frmNewEdit::Action newAction{
-    .text = "NewRoom"_L1, .caption = "Add New Room"_L1, .bannerPicture = 6, .nameLabel = "Room Number"_L1};
-constexpr frmNewEdit::Action editAction{.text = "EditRoom"_L1, .caption = "Edit Room"_L1, .bannerPicture = 6};
+    .caption = "Add New Room"_L1, .bannerPicture = 6, .nameLabel = "Room Number"_L1};
+constexpr frmNewEdit::Action editAction{.caption = "Edit Room"_L1, .bannerPicture = 6};
 
 void newRoom(const CommandContext &context)
 {

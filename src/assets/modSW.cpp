@@ -9,8 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr frmSWHWType::Action newAction{.text = "NewSW"_L1,
-                                        .caption = "Add New Software"_L1,
+constexpr frmSWHWType::Action newAction{.caption = "Add New Software"_L1,
                                         .bannerPicture = 8,
                                         .typeLabel = "Software Type"_L1,
                                         .nameLabel = "Software Name"_L1,
@@ -18,7 +17,6 @@ constexpr frmSWHWType::Action newAction{.text = "NewSW"_L1,
 
 constexpr frmSWHWType::Action asEdit(frmSWHWType::Action action)
 {
-    action.text = "EditSW"_L1;
     action.caption = "Edit Software"_L1;
     return action;
 }

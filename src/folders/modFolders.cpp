@@ -9,10 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr frmNewEdit::Action newAction{
-    .text = "NewFolder"_L1, .caption = "Add New Folder"_L1, .bannerPicture = 4, .isFolder = true};
-constexpr frmNewEdit::Action editAction{
-    .text = "EditFolder"_L1, .caption = "Edit Folder"_L1, .bannerPicture = 4, .isFolder = true};
+constexpr frmNewEdit::Action newAction{.caption = "Add New Folder"_L1, .bannerPicture = 4, .isFolder = true};
+constexpr frmNewEdit::Action editAction{.caption = "Edit Folder"_L1, .bannerPicture = 4, .isFolder = true};
 
 void newFolder(const CommandContext &context)
 {

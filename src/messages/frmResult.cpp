@@ -1,6 +1,7 @@
 #include "messages/frmResult.h"
 
 #include "base/error.h"
+#include "base/errornumbers.h"
 #include "base/text.h"
 #include "messages/guard.h"
 #include "session/identity.h"
@@ -78,8 +79,11 @@ void frmResult::setResult(const QString &text, const QString &title)
 void frmResult::Save()
 {
     Dialog.filter = u"*.txt | *.txt"_s;
-    if (!attempt([this] { Dialog.showSave(this); }))
+    if (!attempt([this] { Dialog.showSave(this); })) {
+        if (currentError().number != CancelError)
+            throwError(currentError().number, currentError().description);
         return;
+    }
     const QString name = Dialog.fileName;
     if (QFile::exists(name)) {
         const QString question = fillMarker(u"The File $ already exists. Overwrite?"_s, name);
@@ -89,10 +93,10 @@ void frmResult::Save()
     // Written beside and renamed, so that a full disk leaves the old file.
     QSaveFile file(name);
     file.setDirectWriteFallback(true); // in a folder where nothing can be added
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(resultText().toUtf8());
-        file.commit();
-    }
+    const QByteArray bytes = resultText().toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throwError(FileAccessError,
+                   "The File '"_L1 % name % "' could not be written: "_L1 % file.errorString());
 }
 
 // The edit keeps lines, not line breaks: a text that nobody changed is saved as it came.

@@ -29,8 +29,8 @@ public:
 
     void setResult(const QString &text, const QString &title);
 
-    /// Asks for a file and writes the text into it as UTF-8. A file that cannot be written
-    /// keeps its old contents; nothing is said about it.
+    /// Asks for a file and writes the text into it as UTF-8. Raises FileAccessError for a file that
+    /// cannot be written, which keeps its old contents.
     void Save();
 
 private:

@@ -7,11 +7,10 @@
 #include "shell/frmMain.h"
 #include "shell/frmOptions.h"
 #include "toolkit/imagelist.h"
-#include "toolkit/pointer.h"
 #include "views/families.h"
+#include "views/menutree.h"
 
 #include <QGroupBox>
-#include <QHash>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -30,7 +29,6 @@ void importFromFile(frmMain &window)
 
 void listUnassigned(frmMain &window)
 {
-    const Hourglass hourglass;
     modHW::listUnassigned(&window);
 }
 
@@ -48,17 +46,17 @@ void about(frmMain &window)
 
 constexpr Command showAll(Mode mode)
 {
-    return {Command::Kind::ShowAll, mode, nullptr};
+    return {Command::Kind::Run, mode, Op::ListAll, nullptr};
 }
 constexpr Command addNew(Mode mode)
 {
-    return {Command::Kind::AddNew, mode, nullptr};
+    return {Command::Kind::Run, mode, Op::AddNew, nullptr};
 }
 constexpr Command call(void (*function)(frmMain &))
 {
-    return {Command::Kind::Call, Mode::Unknown, function};
+    return {Command::Kind::Call, Mode::Unknown, Op::None, function};
 }
-constexpr Command toCome{Command::Kind::ToCome, Mode::Unknown, nullptr};
+constexpr Command toCome{Command::Kind::ToCome, Mode::Unknown, Op::None, nullptr};
 
 // clang-format off
 constexpr MenuEntry menuTable[] = {
@@ -210,12 +208,13 @@ const Command &commandOf(QLatin1StringView entry)
 
 /// Connects what is clicked, an action or a button, with its command.
 template <typename Clicked, typename Signal>
-void serve(frmMain &window, Clicked &clicked, Signal signal, const Command &command)
+void serve(frmMain &window, Clicked &clicked, Signal signal, const Command &command,
+           const QString &plain = {})
 {
     const bool works = command.works();
     clicked.setEnabled(works);
     if (!works)
-        clicked.setToolTip(notYetImplemented());
+        clicked.setToolTip(plain.isEmpty() ? notYetImplemented() : plain % u'\n' % notYetImplemented());
     QObject::connect(&clicked, signal, &window,
                      [&window, command] { guarded(&window, [&] { command.run(window); }); });
 }
@@ -225,10 +224,8 @@ void serve(frmMain &window, Clicked &clicked, Signal signal, const Command &comm
 bool Command::works() const
 {
     switch (kind) {
-    case Kind::ShowAll:
-        return bool(handlerOf(mode, Op::ListAll));
-    case Kind::AddNew:
-        return bool(handlerOf(mode, Op::AddNew));
+    case Kind::Run:
+        return bool(handlerOf(mode, op));
     case Kind::ToCome:
         return false;
     case Kind::Menu:
@@ -241,13 +238,8 @@ bool Command::works() const
 void Command::run(frmMain &window) const
 {
     switch (kind) {
-    case Kind::ShowAll: {
-        const Hourglass hourglass;
-        runWithoutList(&window, mode, Op::ListAll);
-        break;
-    }
-    case Kind::AddNew:
-        runWithoutList(&window, mode, Op::AddNew);
+    case Kind::Run:
+        runWithoutList(&window, mode, op);
         break;
     case Kind::Call:
         call(window);
@@ -275,30 +267,12 @@ std::span<const SidebarButton> sidebar()
 
 QList<QMenu *> buildMenus(frmMain &window, std::span<const MenuEntry> entries)
 {
-    QList<QMenu *> top;
-    QHash<QLatin1StringView, QMenu *> menus;
-    for (const MenuEntry &entry : entries) {
-        QMenu *parent = menus.value(entry.parent);
-        QAction *action = nullptr;
-        if (entry.command.kind == Command::Kind::Menu) {
-            auto *menu = new QMenu(entry.caption, &window);
-            menu->setObjectName(entry.name);
-            menu->setToolTipsVisible(true);
-            menus.insert(entry.name, menu);
-            action = menu->menuAction();
-            if (parent)
-                parent->addMenu(menu);
-            else
-                top.append(menu);
-        } else {
-            action = parent->addAction(entry.caption);
-            if (entry.key != 0)
-                action->setShortcut(QKeySequence(entry.key));
-            serve(window, *action, &QAction::triggered, entry.command);
-        }
-        action->setObjectName(entry.name);
-    }
-    return top;
+    return buildMenuTree(
+        window, entries, [](const MenuEntry &entry) { return entry.command.kind == Command::Kind::Menu; },
+        [&](const MenuEntry &entry, QAction &action) {
+            if (entry.command.kind != Command::Kind::Menu)
+                serve(window, action, &QAction::triggered, entry.command);
+        });
 }
 
 void fillToolbar(frmMain &window, QToolBar &toolbar, std::span<const ToolbarButton> buttons)
@@ -307,7 +281,7 @@ void fillToolbar(frmMain &window, QToolBar &toolbar, std::span<const ToolbarButt
         QAction *action =
             toolbar.addAction(imageLists().ImageListToolbar.icon(button.picture), button.tooltip);
         action->setObjectName(button.key);
-        serve(window, *action, &QAction::triggered, button.command);
+        serve(window, *action, &QAction::triggered, button.command, button.tooltip);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "views/modes.h"
+#include "views/operations.h"
 
 #include <QLatin1StringView>
 #include <QList>
@@ -17,17 +18,17 @@ class frmMain;
 struct Command
 {
     enum class Kind : quint8 {
-        Menu,    ///< nothing: it has entries of its own
-        ShowAll, ///< the view of all objects of the mode
-        AddNew,  ///< the dialog of a new object of the mode
+        Menu, ///< nothing: it has entries of its own
+        Run,  ///< the operation of the mode, without a list
         Call,
         ToCome, ///< of a family that is not there yet
     };
     Kind kind = Kind::Menu;
     Mode mode = Mode::Unknown;
+    Op op = Op::None;
     void (*call)(frmMain &window) = nullptr;
 
-    /// Whether somebody stands ready to do it.
+    /// Whether there is code for it.
     [[nodiscard]] bool works() const;
     void run(frmMain &window) const;
 };

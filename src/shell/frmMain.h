@@ -29,6 +29,9 @@ public:
     /// Brings the sidebar and the status bar up to the settings and the session. Yields.
     void prepareMainWindow();
 
+    /// None: which toolbar shows is not the user's choice.
+    [[nodiscard]] QMenu *createPopupMenu() override { return nullptr; }
+
     /// Arranges the open views: 0 cascade, 1 tile horizontally, 2 tile vertically, 3
     /// arrange icons.
     void Arrange(int arrangement);

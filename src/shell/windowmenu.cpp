@@ -88,6 +88,7 @@ void cascade(const QMdiArea &area)
 void fillWindowList(QMenu &list, QMdiArea &area)
 {
     list.clear();
+    delete list.findChild<QActionGroup *>();
     auto *oneChecked = new QActionGroup(&list);
     for (QMdiSubWindow *window : area.subWindowList(QMdiArea::CreationOrder)) {
         QAction *entry = list.addAction(window->windowTitle().replace(u'&', "&&"_L1));

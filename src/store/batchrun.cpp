@@ -120,9 +120,13 @@ void BatchRun::close()
 {
     try {
         if (m_store) {
-            // Who does not want to wait any longer gets the last try of the closing.
+            const Report::End end = m_report.end;
+            const QString note = m_note;
+            // Closing tries once more for a user who does not want to wait any longer.
             (void)waiting([this] { m_store->commit(); });
             m_store->close();
+            m_report.end = end; // all is written
+            m_note = note;
         }
     } catch (const jet::StoreFailure &failure) {
         lose(failure);

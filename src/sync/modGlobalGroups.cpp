@@ -9,9 +9,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr frmNewEdit::Action newAction{
-    .text = "NewGlobalGroup"_L1, .caption = "Add New Global Group"_L1, .bannerPicture = 1, .hasServer = true};
+    .caption = "Add New Global Group"_L1, .bannerPicture = 1, .hasServer = true};
 constexpr frmNewEdit::Action editAction{
-    .text = "EditGlobalGroup"_L1, .caption = "Edit Global Group"_L1, .bannerPicture = 1, .hasServer = true};
+    .caption = "Edit Global Group"_L1, .bannerPicture = 1, .hasServer = true};
 
 void newGroup(const CommandContext &context)
 {

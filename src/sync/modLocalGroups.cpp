@@ -12,9 +12,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr frmNewEdit::Action newAction{
-    .text = "NewLocalGroup"_L1, .caption = "Add New Local Group"_L1, .bannerPicture = 2, .hasServer = true};
+    .caption = "Add New Local Group"_L1, .bannerPicture = 2, .hasServer = true};
 constexpr frmNewEdit::Action editAction{
-    .text = "EditLocalGroup"_L1, .caption = "Edit Local Group"_L1, .bannerPicture = 2, .hasServer = true};
+    .caption = "Edit Local Group"_L1, .bannerPicture = 2, .hasServer = true};
 
 void newGroup(const CommandContext &context)
 {

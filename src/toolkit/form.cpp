@@ -6,7 +6,7 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QDialog>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -25,12 +25,21 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
+        if (event->type() != QEvent::FocusIn)
+            return false;
+        // What is half typed when its menu closes, or another program goes, stays as it is.
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        const bool comesBack = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
         // After the click that brought the focus has put the cursor somewhere.
-        if (event->type() == QEvent::FocusIn)
+        if (!comesBack || !m_hadFocus)
             QMetaObject::invokeMethod(static_cast<QLineEdit *>(watched), &QLineEdit::selectAll,
                                       Qt::QueuedConnection);
+        m_hadFocus = true;
         return false;
     }
+
+private:
+    bool m_hadFocus = false;
 };
 
 } // namespace

@@ -184,6 +184,9 @@ void ListView::fill(ListRows rows)
 {
     m_model->setRows(std::move(rows));
     ++m_fillNumber;
+    // The rows come in an order of their own.
+    for (int column = 0; column < columnCount(); ++column)
+        m_model->setHeadingPicture(column, 0);
     if (m_spread)
         applySpread();
 }

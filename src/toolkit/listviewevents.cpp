@@ -25,7 +25,9 @@ bool isTyped(const QKeyEvent &event)
 
 void ListView::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (event->matches(QKeySequence::Copy))
+        event->ignore(); // the base class would copy the current cell, whatever the list offers
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         Q_EMIT enterPressed();
     else if (isMenuKey(*event))
         Q_EMIT contextMenuAsked(menuPlace());

@@ -3,6 +3,7 @@
 #include "messages/guard.h"
 #include "toolkit/messagebox.h"
 #include "views/listpane.h"
+#include "views/modRender.h"
 
 #include <array>
 
@@ -10,7 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Table = std::array<std::array<Handler, std::size_t(Op::Count)>, modeCount>;
+struct Cell
+{
+    Handler run;
+    Needs needs = Needs::Nothing;
+};
+
+using Table = std::array<std::array<Cell, std::size_t(Op::Count)>, modeCount>;
 
 Table &table()
 {
@@ -30,6 +37,24 @@ std::vector<int> CommandContext::selectedIds() const
     return pane ? pane->selectedIds() : std::vector<int>();
 }
 
+QStringList CommandContext::selectedSubItems(int index) const
+{
+    QStringList texts;
+    if (pane && index < pane->columnCount())
+        for (const int selected : pane->selectedRows())
+            texts.append(pane->subItem(selected, index));
+    return texts;
+}
+
+QStringList CommandContext::selectedNames() const
+{
+    QStringList names;
+    if (pane)
+        for (const int selected : pane->selectedRows())
+            names.append(modRender::objectName(mode, *pane, selected));
+    return names;
+}
+
 RowTarget CommandContext::target() const
 {
     return pane && row >= 0 ? RowTarget(*pane, row) : RowTarget();
@@ -43,12 +68,18 @@ RowTarget CommandContext::newRow() const
 void registerHandlers(std::span<const OpRow> rows)
 {
     for (const OpRow &row : rows)
-        table()[std::size_t(row.mode)][std::size_t(row.op)] = row.run;
+        table()[std::size_t(row.mode)][std::size_t(row.op)] = {row.run, row.needs};
 }
 
 const Handler &handlerOf(Mode mode, Op op)
 {
-    return table()[std::size_t(mode)][std::size_t(op)];
+    return table()[std::size_t(mode)][std::size_t(op)].run;
+}
+
+Needs needsOf(Mode mode, Op op)
+{
+    const Cell &cell = table()[std::size_t(mode)][std::size_t(op)];
+    return cell.run ? cell.needs : needsOf(op);
 }
 
 QString notYetImplemented()

@@ -29,6 +29,10 @@ struct CommandContext
     [[nodiscard]] QString subItem(int index) const;
     /// The ids of the selected rows, in the order of the list; 0 among them for rows without one.
     [[nodiscard]] std::vector<int> selectedIds() const;
+    /// Sub-item n of the selected rows, in the same order.
+    [[nodiscard]] QStringList selectedSubItems(int index) const;
+    /// The names of their objects.
+    [[nodiscard]] QStringList selectedNames() const;
     /// The current row, for a dialog that changes it.
     [[nodiscard]] RowTarget target() const;
     /// A new row of the list, for a dialog that adds one.
@@ -43,12 +47,15 @@ struct OpRow
     Mode mode;
     Op op;
     Handler run;
+    Needs needs = needsOf(op); ///< what it asks of the list before it runs
 };
 
 /// Called once a family at start. A pair that is registered again gets the new handler.
 void registerHandlers(std::span<const OpRow> rows);
 /// Empty where nothing is registered.
 [[nodiscard]] const Handler &handlerOf(Mode mode, Op op);
+/// What the registered handler asks of the list, or what the operation asks in every mode.
+[[nodiscard]] Needs needsOf(Mode mode, Op op);
 
 /// The answer to a command that no family has registered.
 [[nodiscard]] QString notYetImplemented();

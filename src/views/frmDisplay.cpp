@@ -20,6 +20,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -28,12 +29,6 @@ namespace {
 
 constexpr QSize defaultSize(640, 480);
 constexpr int firstVisibleColumn = 1;
-
-/// The modes whose rows a double click edits.
-bool canBeEdited(std::optional<Mode> mode)
-{
-    return mode && *mode < Mode::Unknown;
-}
 
 } // namespace
 
@@ -97,7 +92,7 @@ void frmDisplay::connectList()
             [] { showOnlyToolbar(MainWindowLink::Toolbar::Display); });
     connect(listDisplay, &ListView::enterPressed, this, [this] { run(Op::Properties); });
     connect(listDisplay, &ListView::rowDoubleClicked, this, [this] {
-        if (canBeEdited(m_mode))
+        if (m_mode && handlerOf(*m_mode, Op::Edit))
             run(Op::Edit);
     });
 }
@@ -128,7 +123,7 @@ void frmDisplay::joinArea(QMdiArea &area)
     bool maximized = false;
     attempt([&] { maximized = modRegistry::getMaximizeWindows(); });
 
-    const QMdiSubWindow *active = area.activeSubWindow();
+    const QMdiSubWindow *active = area.currentSubWindow();
     const QPoint place = active && !active->isMaximized() ? cascadedFrom(*active, area) : QPoint(0, 0);
     area.addSubWindow(this);
     connect(&area, &QMdiArea::subWindowActivated, this, [this](const QMdiSubWindow *active) {
@@ -157,6 +152,7 @@ void frmDisplay::PrepareForm()
     MainWindowLink *window = mainWindow();
     // Painted once, with its pictures.
     listDisplay->setUpdatesEnabled(false);
+    auto painting = qScopeGuard([this] { listDisplay->setUpdatesEnabled(true); });
     if (window)
         window->setWindowMenuShown(true);
     prepareToolbar();
@@ -167,6 +163,7 @@ void frmDisplay::PrepareForm()
     listDisplay->setFocus();
     takeCaption();
     RenderListIcons();
+    painting.dismiss();
     listDisplay->setUpdatesEnabled(true);
     paintNow();
     showStatusReady();
@@ -207,8 +204,9 @@ bool frmDisplay::hasWhatItNeeds(Op op, const CommandContext &context)
         messageBox(context.owner, text, box::WarningIcon);
         return false;
     };
-    const Needs needs = needsOf(op);
-    if (needs == Needs::EditableRow && context.row >= 0 && context.id == 0)
+    const Needs needs = needsOf(context.mode, op);
+    if (needs == Needs::EditableRow && context.row >= 0 &&
+        (context.id == 0 || !modRender::hasEditedColumns(context.mode, *listDisplay)))
         return refuse(u"Please refresh this view by pressing F5 to edit the selected object"_s);
     const bool needsRow = needs == Needs::EditableRow || needs == Needs::StoredRow;
     if ((needsRow && context.id == 0) || (needs == Needs::Selection && listDisplay->selectedCount() == 0))
@@ -219,16 +217,10 @@ bool frmDisplay::hasWhatItNeeds(Op op, const CommandContext &context)
 void frmDisplay::run(Op op)
 {
     guarded(window(), [this, op] {
-        switch (op) {
-        case Op::Copy:
-            return listDisplay->Copy();
-        case Op::Sort:
-            return listDisplay->Sort();
-        case Op::ViewRefresh:
+        if (isOfTheList(op))
+            return listDisplay->run(op);
+        if (op == Op::ViewRefresh)
             return ViewRefresh();
-        default:
-            break;
-        }
         const CommandContext target = context();
         if (!hasWhatItNeeds(op, target))
             return;
@@ -271,7 +263,6 @@ void frmDisplay::ViewRefresh()
         if (const Handler &listAll = handlerOf(*m_mode, Op::ListAll))
             listAll({.mode = *m_mode, .owner = window(), .view = this});
     }
-    takeCaption();
     PrepareForm();
 }
 
@@ -282,7 +273,7 @@ void frmDisplay::closeEvent(QCloseEvent *event)
         return;
     }
     m_closing = true;
-    // Before the window goes: its going activates the next view, which has the last word.
+    // Before the window goes: then the next view is activated and shows what is its own.
     unload();
     QMdiSubWindow::closeEvent(event);
 }
@@ -290,7 +281,8 @@ void frmDisplay::closeEvent(QCloseEvent *event)
 void frmDisplay::unload()
 {
     MainWindowLink *window = mainWindow();
-    if (!window)
+    // Another view that is active keeps what it shows.
+    if (!window || (window->targetDisplay() && window->targetDisplay() != this))
         return;
     swapToolbars(MainWindowLink::Toolbar::Main, {MainWindowLink::Toolbar::Display});
     window->setWindowMenuShown(false);

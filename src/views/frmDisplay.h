@@ -27,14 +27,7 @@ public:
 
     /// Stores the mode; nothing is shown of it before the next activation.
     void SetAction(Mode mode) { m_mode = mode; }
-    /// A text that is no mode leaves the view without one.
-    void SetAction(QStringView mode) { m_mode = modeOf(mode); }
     [[nodiscard]] std::optional<Mode> mode() const override { return m_mode; }
-    /// The group whose live members the view shows.
-    void setGlobalGroupName(const QString &name) { m_globalGroupName = name; }
-    [[nodiscard]] const QString &globalGroupName() const { return m_globalGroupName; }
-    void setLocalGroupName(const QString &name) { m_localGroupName = name; }
-    [[nodiscard]] const QString &localGroupName() const { return m_localGroupName; }
 
     /// Shows the view in the main window, which takes it over, and makes it the active one; becoming active
     /// prepares it.
@@ -52,7 +45,7 @@ public:
     void run(Op op) override;
 
 public Q_SLOTS:
-    /// Dresses the window from its mode. A step that fails is skipped.
+    /// Dresses the window from its mode.
     void PrepareForm();
     /// Puts the mode's picture on the first visible cell of every row.
     void RenderListIcons();
@@ -70,7 +63,6 @@ private:
     void connectList();
     void unload();
     void joinArea(QMdiArea &area);
-    void placeIn(const QMdiArea &area);
     void activated();
     void takeCaption();
     [[nodiscard]] CommandContext context();
@@ -78,8 +70,6 @@ private:
     void Delete(const CommandContext &context);
 
     std::optional<Mode> m_mode;
-    QString m_globalGroupName;
-    QString m_localGroupName;
     bool m_showing = false;
     bool m_closing = false;
 };

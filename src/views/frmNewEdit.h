@@ -23,7 +23,6 @@ public:
     /// What the dialog is about: a row of the family's table of handlers.
     struct Action
     {
-        QLatin1StringView text; ///< "NewRoom"
         QLatin1StringView caption;
         int bannerPicture;
         bool hasServer = false;

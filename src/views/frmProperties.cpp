@@ -14,8 +14,6 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,7 +29,7 @@ struct Tab
     Mode objects; ///< whose row picture its rows have
 };
 
-constexpr Tab tabs[] = {
+constexpr Tab looks[] = {
     {"GlobalGroups"_L1, "frameGlobalGroups"_L1, "listGlobalGroups"_L1, "Global Groups"_L1,
      Mode::GlobalGroups},
     {"LocalGroups"_L1, "frameLocalGroups"_L1, "ListLocalGroups"_L1, "Local Groups"_L1, Mode::LocalGroups},
@@ -41,43 +39,11 @@ constexpr Tab tabs[] = {
     {"Rooms"_L1, "frameRooms"_L1, "listRooms"_L1, "Rooms"_L1, Mode::Rooms},
     {"Software"_L1, "frameSW"_L1, "ListSW"_L1, "Software"_L1, Mode::SW},
 };
-static_assert(std::size(tabs) == propertyTabCount);
-
-using enum PropertyTab;
-constexpr PropertyTab ofGlobalGroup[] = {LocalGroups, Users, Folders};
-constexpr PropertyTab ofLocalGroup[] = {GlobalGroups, Users, Folders};
-constexpr PropertyTab ofUser[] = {GlobalGroups, LocalGroups, Folders, Hardware, Rooms, Software};
-constexpr PropertyTab ofFolder[] = {GlobalGroups, LocalGroups, Users};
-constexpr PropertyTab ofHW[] = {Users, Rooms, Software};
-constexpr PropertyTab ofHWType[] = {Users, Hardware, Rooms};
-constexpr PropertyTab ofRoomOrSW[] = {Users, Hardware};
+static_assert(std::size(looks) == propertyTabCount);
 
 } // namespace
 
-std::span<const PropertyTab> propertyTabs(Mode mode)
-{
-    switch (mode) {
-    case Mode::GlobalGroups:
-        return ofGlobalGroup;
-    case Mode::LocalGroups:
-        return ofLocalGroup;
-    case Mode::Users:
-        return ofUser;
-    case Mode::Folders:
-        return ofFolder;
-    case Mode::HW:
-        return ofHW;
-    case Mode::HWType:
-        return ofHWType;
-    case Mode::Rooms:
-    case Mode::SW:
-        return ofRoomOrSW;
-    default:
-        return {};
-    }
-}
-
-frmProperties::frmProperties(QWidget *owner)
+frmProperties::frmProperties(QWidget *owner, std::span<const PropertyTab> shown)
     : QDialog(owner)
     , picLogoContainer(new Banner(this))
     , picContext(picLogoContainer->picContext)
@@ -87,6 +53,7 @@ frmProperties::frmProperties(QWidget *owner)
     , mnuEdit(new QMenu(u"Edit"_s, this))
     , mnuCopy(mnuEdit->addAction(u"Copy"_s))
     , mnuSort(mnuEdit->addAction(u"Sort"_s))
+    , m_tabs(shown.begin(), shown.end())
 {
     setObjectName("frmProperties"_L1);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -100,20 +67,21 @@ frmProperties::frmProperties(QWidget *owner)
 
     bool gridLines = false;
     attempt([&] { gridLines = modRegistry::getShowGridLines(); });
-    for (int tab = 0; tab < propertyTabCount; ++tab) {
+    for (const PropertyTab key : m_tabs) {
+        const Tab &tab = looks[std::size_t(key)];
         auto *frame = new QWidget;
-        frame->setObjectName(tabs[tab].frame);
+        frame->setObjectName(tab.frame);
         auto *list = new ListPane(frame);
-        list->setObjectName(tabs[tab].list);
-        list->setAccessibleName(tabs[tab].caption);
+        list->setObjectName(tab.list);
+        list->setAccessibleName(tab.caption);
         list->setGridLines(gridLines);
         list->setContextMenu(mnuEdit);
         list->setCountsBar(StatusBar);
-        m_lists[std::size_t(tab)] = list;
+        m_lists[std::size_t(key)] = list;
         auto *layout = new QVBoxLayout(frame);
         layout->setContentsMargins(4, 4, 4, 4);
         layout->addWidget(list);
-        TabStrip->addTab(frame, tabs[tab].caption);
+        TabStrip->addTab(frame, tab.caption);
     }
 
     auto *middle = new QVBoxLayout;
@@ -128,8 +96,8 @@ frmProperties::frmProperties(QWidget *owner)
     resize(defaultSize);
 
     connect(TabStrip, &QTabWidget::currentChanged, this, [this] { showTab(); });
-    connect(mnuCopy, &QAction::triggered, this, [this] { currentList()->Copy(); });
-    connect(mnuSort, &QAction::triggered, this, [this] { currentList()->Sort(); });
+    connect(mnuCopy, &QAction::triggered, this, [this] { guarded(this, [this] { currentList()->Copy(); }); });
+    connect(mnuSort, &QAction::triggered, this, [this] { guarded(this, [this] { currentList()->Sort(); }); });
 }
 
 ListPane *frmProperties::currentList() const
@@ -151,20 +119,16 @@ void frmProperties::InitializeForm()
 {
     modRender::renderContext({*picLogoContainer, *StatusBar, *this}, m_mode);
     setWindowTitle("Properties - "_L1 % LblInfo->text());
-    const std::span<const PropertyTab> remaining = propertyTabs(m_mode);
-    for (int tab = propertyTabCount - 1; tab >= 0; --tab)
-        if (std::ranges::find(remaining, PropertyTab(tab)) == remaining.end())
-            TabStrip->removeTab(tab);
     TabStrip->setCurrentIndex(0);
     RenderListIcons();
 }
 
 void frmProperties::RenderListIcons()
 {
-    for (const PropertyTab tab : propertyTabs(m_mode)) {
+    for (const PropertyTab tab : m_tabs) {
         ListPane &shown = *list(tab);
         if (shown.columnCount() > 1)
-            shown.setColumnPicture(1, lookOf(tabs[std::size_t(tab)].objects).rowPicture);
+            shown.setColumnPicture(1, lookOf(looks[std::size_t(tab)].objects).rowPicture);
     }
 }
 

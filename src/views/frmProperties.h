@@ -6,6 +6,7 @@
 
 #include <array>
 #include <span>
+#include <vector>
 
 class Banner;
 class ListPane;
@@ -18,9 +19,6 @@ class StatusBar;
 enum class PropertyTab : quint8 { GlobalGroups, LocalGroups, Users, Folders, Hardware, Rooms, Software };
 inline constexpr int propertyTabCount = 7;
 
-/// Which tabs the window has in a mode, in their order; none in a mode without properties.
-[[nodiscard]] std::span<const PropertyTab> propertyTabs(Mode mode);
-
 /// All that an object is related to, a list a tab. Nothing can be changed here. The caller fills the lists,
 /// sets the object's name in the banner and the mode, and shows the window, which then deletes itself when it
 /// is closed.
@@ -29,7 +27,8 @@ class frmProperties final : public QDialog
     Q_OBJECT
 
 public:
-    explicit frmProperties(QWidget *owner);
+    /// At least one tab, in the order given.
+    frmProperties(QWidget *owner, std::span<const PropertyTab> tabs);
 
     Banner *picLogoContainer;
     QLabel *picContext;
@@ -41,6 +40,8 @@ public:
     QAction *mnuSort;
 
     void SetAction(Mode mode) { m_mode = mode; }
+    [[nodiscard]] const std::vector<PropertyTab> &tabs() const { return m_tabs; }
+    /// Nothing for a tab that the window does not have.
     [[nodiscard]] ListPane *list(PropertyTab tab) const { return m_lists[std::size_t(tab)]; }
     /// Of the tab that is shown.
     [[nodiscard]] ListPane *currentList() const;
@@ -55,5 +56,6 @@ private:
 
     Mode m_mode = Mode::Unknown;
     bool m_initialized = false;
+    std::vector<PropertyTab> m_tabs;
     std::array<ListPane *, propertyTabCount> m_lists{};
 };

@@ -58,6 +58,14 @@ std::vector<int> ListPane::selectedIds() const
     return ids;
 }
 
+void ListPane::run(Op op)
+{
+    if (op == Op::Copy)
+        Copy();
+    else if (op == Op::Sort)
+        Sort();
+}
+
 void ListPane::Copy()
 {
     if (currentRow() >= 0 && m_contextColumn > 0 && m_contextColumn < columnCount())
@@ -71,7 +79,8 @@ void ListPane::Sort()
 
 void ListPane::find(int column)
 {
-    guarded(window(), [&] { frmListFind::Initialize(*this, 0, column); });
+    if (column > 0 && column < columnCount())
+        guarded(window(), [&] { frmListFind::Initialize(*this, 0, column); });
 }
 
 // The first row whose first visible cell begins with the character.
@@ -99,7 +108,7 @@ void ListPane::jumpTo(const QString &character)
 void ListPane::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Find))
-        find(m_contextColumn > 0 ? m_contextColumn : 1);
+        find(m_contextColumn > 0 && m_contextColumn < columnCount() ? m_contextColumn : 1);
     else
         ListView::keyPressEvent(event);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/listview.h"
+#include "views/operations.h"
 
 class QMenu;
 class StatusBar;
@@ -30,6 +31,9 @@ public:
     [[nodiscard]] int idOf(int row) const;
     /// In the order of the list.
     [[nodiscard]] std::vector<int> selectedIds() const;
+
+    /// Runs an operation of the list's own.
+    void run(Op op);
 
 public Q_SLOTS:
     /// Puts the current row's text in the context column on the clipboard; nothing for column 0.

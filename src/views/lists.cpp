@@ -13,7 +13,9 @@
 #include "views/listpane.h"
 #include "views/modRender.h"
 
-#include <optional>
+#include <algorithm>
+#include <iterator>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -53,7 +55,9 @@ Handler properties(std::vector<PropertyList> lists)
 {
     return [lists = std::move(lists)](const CommandContext &context) {
         const Hourglass hourglass;
-        auto window = std::make_unique<frmProperties>(context.owner);
+        std::vector<PropertyTab> tabs;
+        std::ranges::transform(lists, std::back_inserter(tabs), &PropertyList::tab);
+        auto window = std::make_unique<frmProperties>(context.owner, tabs);
         for (const PropertyList &list : lists) {
             jet::Recordset rows;
             list.read(getConnectionString(), rows, context.id);

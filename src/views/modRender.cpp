@@ -70,6 +70,17 @@ bool hasHeadings(const ListView &list, const QStringList &headings)
     return true;
 }
 
+/// The column of a heading, blanks left out: one query writes "HardwareType" for "Hardware Type". -1 for
+/// none.
+int columnOf(const ListView &list, QLatin1StringView heading)
+{
+    const QString wanted = QString(heading).remove(u' ');
+    for (int column = 1; column < list.columnCount(); ++column)
+        if (list.heading(column).remove(u' ').compare(wanted, Qt::CaseInsensitive) == 0)
+            return column;
+    return -1;
+}
+
 void readTexts(jet::Recordset &recordset, int field, ListRows &rows)
 {
     if (const TextColumn *texts = recordset.texts(field)) {
@@ -119,17 +130,15 @@ constexpr QColor liveTitleColor(255, 0, 0);
 void modRender::renderList(ListView &list, jet::Recordset &recordset)
 {
     QStringList headings;
-    attempt([&] {
-        const jet::Fields fields = recordset.fields();
-        for (int field = 0; field < fields.count(); ++field)
-            headings += fields.item(field).name();
-    });
+    const jet::Fields fields = recordset.fields();
+    for (int field = 0; field < fields.count(); ++field)
+        headings += fields.item(field).name();
     const bool sameColumns = hasHeadings(list, headings);
     if (!sameColumns)
         list.setColumns(headings);
     ListRows rows(int(headings.size()));
     if (recordset.state() != 0 && !headings.isEmpty())
-        attempt([&] { rows = readRows(recordset, headings); });
+        rows = readRows(recordset, headings);
     if (sameColumns) {
         list.replaceRows(std::move(rows));
         return;
@@ -169,19 +178,31 @@ void modRender::showRecordCount(StatusBar &bar, int count)
 
 QString modRender::objectName(Mode mode, const ListView &list, int row)
 {
+    if (list.columnCount() < 2)
+        return {};
     QString name;
-    const QLatin1StringView pattern = lookOf(mode).objectName;
-    for (qsizetype at = 0; at < pattern.size(); ++at) {
-        if (pattern[at] != u'{') {
-            name += pattern[at];
-            continue;
-        }
-        const int column = QChar(pattern[++at]).digitValue();
-        ++at; // the brace that closes
-        if (column < list.columnCount())
-            name += list.subItem(row, column);
+    QLatin1StringView rest = lookOf(mode).objectName;
+    for (qsizetype open = rest.indexOf(u'{'); open >= 0; open = rest.indexOf(u'{')) {
+        const qsizetype close = rest.indexOf(u'}', open);
+        const int column = columnOf(list, rest.sliced(open + 1, close - open - 1));
+        // A drill-down has columns of its own, the first of which is the name.
+        if (column < 0)
+            return list.subItem(row, 1);
+        name += rest.first(open) % list.subItem(row, column);
+        rest = rest.sliced(close + 1);
     }
-    return name;
+    return name.isEmpty() ? list.subItem(row, 1) : name;
+}
+
+bool modRender::hasEditedColumns(Mode mode, const ListView &list)
+{
+    const QString needed(lookOf(mode).editedColumns);
+    int column = 0;
+    for (const QStringView heading : QStringView(needed).split(u'|', Qt::SkipEmptyParts)) {
+        if (++column >= list.columnCount() || list.heading(column).compare(heading, Qt::CaseInsensitive) != 0)
+            return false;
+    }
+    return true;
 }
 
 void modRender::showSelectedCount(const ListView &list, StatusBar &bar, int panel)

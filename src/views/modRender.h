@@ -38,8 +38,11 @@ void showRecordCount(StatusBar &bar, int count);
 /// The number of selected rows in a panel.
 void showSelectedCount(const ListView &list, StatusBar &bar, int panel = 3);
 
-/// The name of a row's object as titles show it; empty in a mode whose rows have none.
+/// The name of a row's object as titles show it.
 [[nodiscard]] QString objectName(Mode mode, const ListView &list, int row);
+/// Whether the list has the columns that the dialog of the mode edits. A drill-down may have others under the
+/// same mode: what a dialog read from those would be saved in the wrong place.
+[[nodiscard]] bool hasEditedColumns(Mode mode, const ListView &list);
 
 /// One entry a record: field 1 is its text, field 0 its numeric data.
 void fillComboFromRecordset(jet::Recordset &recordset, QComboBox &combo);

@@ -37,8 +37,11 @@ struct ModeLook
     ModeFamily family;
     int bannerPicture; ///< of ImageListContext
     int rowPicture;    ///< of ImageListList
-    /// The name of a row's object in titles: {n} is sub-item n. Empty where rows have no name.
+    /// The name of a row's object in titles, columns in braces. Empty where the first visible column is the
+    /// name.
     QLatin1StringView objectName;
+    /// The first visible columns that a dialog needs to edit a row of the list; a drill-down may have others.
+    QLatin1StringView editedColumns = {}; ///< with bars between; empty where the dialog reads its own record
 };
 
 /// A view without a mode has no family and the pictures of an unknown object.

@@ -6,10 +6,8 @@
 #include "session/connectionstring.h"
 #include "toolkit/messagebox.h"
 #include "toolkit/pointer.h"
-#include "toolkit/statusbar.h"
 #include "views/frmDisplay.h"
 #include "views/listpane.h"
-#include "views/mainwindowlink.h"
 #include "views/modRender.h"
 
 #include <QLabel>
@@ -40,7 +38,6 @@ frmDisplay *openView(QWidget *owner, frmDisplay *view, Mode mode, const QString 
         target->showView();
         shown = target;
     });
-    if (MainWindowLink *window = mainWindow())
-        window->mainStatusBar().setPanelText(1, u"Ready"_s);
+    showStatusReady();
     return shown;
 }

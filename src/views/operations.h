@@ -90,6 +90,7 @@ enum class Needs : quint8 {
     EditableRow, ///< the same, with another message
     Selection,   ///< at least one selected row
 };
+/// What it asks unless a family registers it with something else.
 [[nodiscard]] constexpr Needs needsOf(Op op)
 {
     if (op == Op::Edit)
@@ -99,4 +100,10 @@ enum class Needs : quint8 {
     if (op == Op::Delete)
         return Needs::Selection;
     return Needs::Nothing;
+}
+
+/// Copying and sorting are the list's own: they work in every mode and need no family.
+[[nodiscard]] constexpr bool isOfTheList(Op op)
+{
+    return op == Op::Copy || op == Op::Sort;
 }

@@ -18,7 +18,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int fieldWidthInCharacters = 26;
+// In characters; a page of two columns has narrower fields.
+constexpr int fieldWidth = 44;
+constexpr int narrowFieldWidth = 26;
 // Cells of a column: label, field, button.
 constexpr int cellsAColumn = 3;
 
@@ -41,6 +43,8 @@ RecordForm::RecordForm(QTabWidget &tabs, std::span<const FieldPage> pages) : m_t
                 grid->addWidget(widget, line, cell, 1, 2);
                 continue;
             }
+            widget->setMinimumWidth((page.columns == 1 ? fieldWidth : narrowFieldWidth) *
+                                    m_tabs.fontMetrics().averageCharWidth());
             auto *label = new QLabel(row.label);
             label->setBuddy(widget);
             const bool memo = row.kind == FieldKind::Memo;
@@ -92,8 +96,6 @@ QWidget *RecordForm::make(const FieldRow &row)
     }
     made->setObjectName(row.control);
     made->setAccessibleName(row.label);
-    if (row.kind != FieldKind::Check)
-        made->setMinimumWidth(fieldWidthInCharacters * m_tabs.fontMetrics().averageCharWidth());
     return made;
 }
 

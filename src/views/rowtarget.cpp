@@ -13,18 +13,19 @@ RowTarget RowTarget::appended(ListView &list)
 {
     RowTarget target;
     target.m_list = &list;
+    target.m_fillNumber = list.fillNumber();
     return target;
 }
 
 void RowTarget::put(const QStringList &subItems) const
 {
-    if (!m_list)
+    if (!m_list || m_fillNumber != m_list->fillNumber())
         return;
     if (m_key < 0) {
         m_list->addRow(QStringLiteral("0"), subItems);
         return;
     }
-    const int row = m_fillNumber == m_list->fillNumber() ? m_list->rowOfKey(m_key) : -1;
+    const int row = m_list->rowOfKey(m_key);
     if (row < 0)
         return;
     for (int i = 0; i < subItems.size() && i + 1 < m_list->columnCount(); ++i)

@@ -14,14 +14,18 @@
 void saveAndAccept(QDialog &dialog, const std::function<void()> &save, QWidget *fieldAtFault)
 {
     bool saved = false;
+    bool isRule = false;
     guarded(&dialog, [&] {
         saved = attempt(save);
-        if (!saved)
-            messageBox(&dialog, currentError().description, box::StopIcon);
+        if (saved)
+            return;
+        const CurrentError failure = currentError();
+        isRule = failure.number == RuleViolation;
+        messageBox(&dialog, failure.description, box::StopIcon);
     });
     if (saved)
         dialog.accept();
-    else if (fieldAtFault && currentError().number == RuleViolation)
+    else if (fieldAtFault && isRule)
         fieldAtFault->setFocus();
 }
 

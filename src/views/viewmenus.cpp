@@ -2,9 +2,8 @@
 
 #include "toolkit/imagelist.h"
 #include "views/families.h"
+#include "views/menutree.h"
 
-#include <QAction>
-#include <QMenu>
 #include <QToolBar>
 
 using namespace Qt::StringLiterals;
@@ -117,12 +116,6 @@ constexpr ViewToolbarButton buttons[] = {
 };
 // clang-format on
 
-/// The list does these itself, in every mode.
-bool isOfTheList(Op op)
-{
-    return op == Op::Copy || op == Op::Sort || op == Op::ViewRefresh;
-}
-
 } // namespace
 
 std::span<const ViewMenuEntry> viewMenuEntries()
@@ -137,28 +130,9 @@ std::span<const ViewToolbarButton> viewToolbarButtons()
 
 ViewMenus::ViewMenus(QWidget *owner, QToolBar &toolbar) : QObject(owner)
 {
-    QHash<QLatin1StringView, QMenu *> menus;
-    for (const ViewMenuEntry &entry : entries) {
-        QMenu *parent = menus.value(entry.parent);
-        QAction *action = nullptr;
-        if (entry.op == Op::None) {
-            auto *menu = new QMenu(entry.caption, owner);
-            menu->setObjectName(entry.name);
-            menu->setToolTipsVisible(true);
-            menus.insert(entry.name, menu);
-            action = menu->menuAction();
-            if (parent)
-                parent->addMenu(menu);
-            else
-                m_menus.append(menu);
-        } else {
-            action = parent->addAction(entry.caption);
-            if (entry.key != 0)
-                action->setShortcut(QKeySequence(entry.key));
-        }
-        action->setObjectName(entry.name);
-        add(action, entry.op, entry.modes);
-    }
+    m_menus = buildMenuTree(
+        *owner, viewMenuEntries(), [](const ViewMenuEntry &entry) { return entry.op == Op::None; },
+        [this](const ViewMenuEntry &entry, QAction &action) { add(&action, entry.op, entry.modes); });
     for (const ViewToolbarButton &button : buttons) {
         QAction *action =
             toolbar.addAction(imageLists().ImageListToolbar.icon(button.picture), button.tooltip);
@@ -184,8 +158,8 @@ void ViewMenus::dress(CommandTarget *target)
     const std::optional<Mode> mode = target ? target->mode() : std::nullopt;
     for (const Entry &entry : m_entries) {
         const bool shown = target && contains(entry.modes, mode);
-        const bool works =
-            entry.op == Op::None || isOfTheList(entry.op) || (mode && handlerOf(*mode, entry.op));
+        const bool works = entry.op == Op::None || isOfTheList(entry.op) || entry.op == Op::ViewRefresh ||
+                           (mode && handlerOf(*mode, entry.op));
         entry.action->setVisible(shown);
         entry.action->setEnabled(shown && works);
         const QString plain = entry.action->text();

@@ -1,3 +1,4 @@
+#include "base/errornumbers.h"
 #include "messages/frmResult.h"
 #include "messages/showresult.h"
 #include "support/windowtest.h"
@@ -136,10 +137,13 @@ TEST_F(ResultTest, AnExistingFileIsAskedAbout)
     EXPECT_EQ(read(u"old.txt"_s), "new");
 }
 
-TEST_F(ResultTest, CancelAndAFolderThatIsNotThereSaveNothing)
+TEST_F(ResultTest, CancelSavesNothingAndAFolderThatIsNotThereIsReported)
 {
     show(u"new"_s);
     save({});
+    expectBox(u"%1\r\nThe File '%2' could not be written: No such file or directory"_s.arg(FileAccessError)
+                  .arg(path(u"missing/result.txt"_s)),
+              box::StopIcon);
     save(u"missing/result.txt"_s);
     EXPECT_FALSE(QFile::exists(path(u"missing"_s)));
 }

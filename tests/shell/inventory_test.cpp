@@ -145,7 +145,7 @@ TEST_F(InventoryTest, EveryDrillDownLeadsToWhatBelongsToTheObject)
             settle();
             auto *properties = dynamic_cast<frmProperties *>(find<QWidget>(u"frmProperties"_s));
             ASSERT_NE(properties, nullptr);
-            for (const PropertyTab tab : propertyTabs(mode))
+            for (const PropertyTab tab : properties->tabs())
                 EXPECT_GE(properties->list(tab)->rowCount(), 1)
                     << "mode " << int(mode) << ", tab " << int(tab);
             delete properties;

@@ -20,9 +20,9 @@ namespace {
 using DialogsTest = ViewTest;
 
 constexpr frmNewEdit::Action groupAction{
-    .text = "EditGlobalGroup"_L1, .caption = "Edit Global Group"_L1, .bannerPicture = 1, .hasServer = true};
+    .caption = "Edit Global Group"_L1, .bannerPicture = 1, .hasServer = true};
 constexpr frmNewEdit::Action folderAction{
-    .text = "NewFolder"_L1, .caption = "Add New Folder"_L1, .bannerPicture = 4, .isFolder = true};
+    .caption = "Add New Folder"_L1, .bannerPicture = 4, .isFolder = true};
 
 } // namespace
 
@@ -105,28 +105,10 @@ TEST_F(DialogsTest, ARowTargetOutlivesItsListAndItsFilling)
     added.put({u"x"_s});
 }
 
-TEST_F(DialogsTest, PropertiesHaveTheTabsOfTheMode)
-{
-    QStringList pages;
-    for (int i = 0; i < modeCount; ++i) {
-        frmProperties properties(window.get());
-        properties.setAttribute(Qt::WA_DeleteOnClose, false);
-        properties.SetAction(Mode(i));
-        if (propertyTabs(Mode(i)).empty())
-            continue;
-        properties.show();
-        QString tabs;
-        for (int tab = 0; tab < properties.TabStrip->count(); ++tab)
-            tabs += properties.TabStrip->tabText(tab).left(1);
-        pages += tabs;
-    }
-    EXPECT_EQ(pages,
-              (QStringList{u"LUF"_s, u"GUF"_s, u"GLFHRS"_s, u"GLU"_s, u"UHR"_s, u"URS"_s, u"UH"_s, u"UH"_s}));
-}
-
 TEST_F(DialogsTest, ATabShowsTheCountsOfItsList)
 {
-    auto *properties = new frmProperties(window.get());
+    constexpr PropertyTab tabs[] = {PropertyTab::Users, PropertyTab::Hardware};
+    auto *properties = new frmProperties(window.get(), tabs);
     jet::Recordset rows;
     fill(rows, {u"ID"_s, u"Hardware Type"_s}, {{Value(7), Value(u"PC"_s)}, {Value(8), Value(u"Disk"_s)}});
     modRender::renderList(*properties->list(PropertyTab::Hardware), rows);

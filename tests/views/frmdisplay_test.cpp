@@ -4,6 +4,7 @@
 #include "toolkit/banner.h"
 #include "toolkit/listview.h"
 #include "views/families.h"
+#include "views/modRender.h"
 #include "views/openview.h"
 
 #include <QHeaderView>
@@ -176,6 +177,24 @@ TEST_F(FrmDisplayTest, AHandlerGetsTheRowAndTheNameOfItsObject)
     EXPECT_EQ(got.view, view);
     EXPECT_EQ(got.owner, window.get());
     const OpRow none[] = {{Mode::Users, Op::ViewRooms, {}}};
+    registerHandlers(none);
+}
+
+TEST_F(FrmDisplayTest, ADrillDownWithOtherColumnsIsNotEdited)
+{
+    int edited = 0;
+    const OpRow rows[] = {{Mode::LocalGroups, Op::Edit, [&](const CommandContext &) { ++edited; }}};
+    registerHandlers(rows);
+    const QString title = u"Local Group(s) for User SRV\\anna"_s;
+    frmDisplay *view =
+        open(Mode::LocalGroups, title, {u"ID"_s, u"LocalGroup"_s, u"Description"_s, u"GlobalGroup"_s},
+             {{Value(7), Value(u"SRV\\Printers"_s), Value(u"All"_s), Value(u"Staff"_s)}});
+    view->listDisplay->chooseRow(0);
+    expectBox(u"Please refresh this view by pressing F5 to edit the selected object"_s, box::WarningIcon);
+    view->run(Op::Edit);
+    EXPECT_EQ(edited, 0) << "The columns would go into the wrong fields.";
+    EXPECT_EQ(modRender::objectName(Mode::LocalGroups, *view->listDisplay, 0), u"SRV\\Printers"_s);
+    const OpRow none[] = {{Mode::LocalGroups, Op::Edit, {}}};
     registerHandlers(none);
 }
 
