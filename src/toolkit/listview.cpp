@@ -406,6 +406,24 @@ void ListView::reorder(std::span<const int> order)
     m_model->reorder(order);
 }
 
+void ListView::setEmptyText(const QString &text)
+{
+    m_emptyText = text;
+    viewport()->update();
+}
+
+void ListView::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (rowCount() > 0 || m_emptyText.isEmpty())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    constexpr int margin = 16;
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     int(Qt::AlignHCenter) | int(Qt::AlignTop) | int(Qt::TextWordWrap), m_emptyText);
+}
+
 void ListView::setGridLines(bool shown)
 {
     m_gridLines = shown;

@@ -92,6 +92,10 @@ public:
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
     void setSortOrder(Qt::SortOrder order) { m_sortOrder = order; }
 
+    /// Shown in the middle of a list without rows: what to do next.
+    void setEmptyText(const QString &text);
+    [[nodiscard]] const QString &emptyText() const { return m_emptyText; }
+
     void setGridLines(bool shown);
     [[nodiscard]] bool gridLines() const { return m_gridLines; }
 
@@ -120,6 +124,7 @@ Q_SIGNALS:
     void focusReceived();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -146,6 +151,7 @@ private:
 
     ListModel *m_model;
     bool m_gridLines = false;
+    QString m_emptyText;
     bool m_spread = false;  ///< the columns follow the list's width
     bool m_fitting = false; ///< and are doing so
     int m_fillNumber = 0;

@@ -15,6 +15,7 @@ struct Cell
 {
     Handler run;
     Needs needs = Needs::Nothing;
+    DeleteNote note;
 };
 
 using Table = std::array<std::array<Cell, std::size_t(Op::Count)>, modeCount>;
@@ -68,7 +69,7 @@ RowTarget CommandContext::newRow() const
 void registerHandlers(std::span<const OpRow> rows)
 {
     for (const OpRow &row : rows)
-        table()[std::size_t(row.mode)][std::size_t(row.op)] = {row.run, row.needs};
+        table()[std::size_t(row.mode)][std::size_t(row.op)] = {row.run, row.needs, row.note};
 }
 
 const Handler &handlerOf(Mode mode, Op op)
@@ -80,6 +81,13 @@ Needs needsOf(Mode mode, Op op)
 {
     const Cell &cell = table()[std::size_t(mode)][std::size_t(op)];
     return cell.run ? cell.needs : needsOf(op);
+}
+
+QString noteOf(const CommandContext &context)
+{
+    const DeleteNote &note = table()[std::size_t(context.mode)][std::size_t(Op::Delete)].note;
+    const QString text = note ? note(context) : QString();
+    return text.isEmpty() ? text : "\r\n\r\n"_L1 % text;
 }
 
 QString notYetImplemented()

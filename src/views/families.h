@@ -41,6 +41,9 @@ struct CommandContext
 
 using Handler = std::function<void(const CommandContext &)>;
 
+/// A sentence that the delete question ends with; empty when there is nothing to add.
+using DeleteNote = std::function<QString(const CommandContext &)>;
+
 /// One row of a family's table: what an operation does in a mode.
 struct OpRow
 {
@@ -48,6 +51,7 @@ struct OpRow
     Op op;
     Handler run;
     Needs needs = needsOf(op); ///< what it asks of the list before it runs
+    DeleteNote note = {};      ///< of Op::Delete
 };
 
 /// Called once a family at start. A pair that is registered again gets the new handler.
@@ -56,6 +60,9 @@ void registerHandlers(std::span<const OpRow> rows);
 [[nodiscard]] const Handler &handlerOf(Mode mode, Op op);
 /// What the registered handler asks of the list, or what the operation asks in every mode.
 [[nodiscard]] Needs needsOf(Mode mode, Op op);
+
+/// What the family has to add to the question before a delete, with a line break in front.
+[[nodiscard]] QString noteOf(const CommandContext &context);
 
 /// The answer to a command that no family has registered.
 [[nodiscard]] QString notYetImplemented();

@@ -159,6 +159,7 @@ void frmDisplay::PrepareForm()
     modRender::renderContext({*picLogoContainer, *StatusBar, *this}, m_mode);
     if (window)
         window->setTargetDisplay(this);
+    listDisplay->setEmptyText(emptyText());
     listDisplay->showCounts();
     listDisplay->setFocus();
     takeCaption();
@@ -167,6 +168,13 @@ void frmDisplay::PrepareForm()
     listDisplay->setUpdatesEnabled(true);
     paintNow();
     showStatusReady();
+}
+
+QString frmDisplay::emptyText() const
+{
+    if (!m_mode || !handlerOf(*m_mode, Op::AddNew))
+        return {};
+    return "No "_L1 % lookOf(m_mode).objects % " yet. Ctrl+N adds one."_L1;
 }
 
 void frmDisplay::takeCaption()
@@ -241,11 +249,10 @@ void frmDisplay::run(Op op)
 
 void frmDisplay::Delete(const CommandContext &context)
 {
-    const int answer = messageBox(
-        context.owner,
+    const QString question =
         u"Warning! The selected Root Object(s) and all its Relationships will be deleted. This operation "
-        "cannot be undone\r\nAre you sure to delete the selected Root Object(s)?"_s,
-        box::YesNo | box::WarningIcon);
+        "cannot be undone\r\nAre you sure to delete the selected Root Object(s)?"_s;
+    const int answer = messageBox(context.owner, question % noteOf(context), box::YesNo | box::WarningIcon);
     if (answer != box::ResultYes)
         return;
     {

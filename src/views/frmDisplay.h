@@ -65,6 +65,7 @@ private:
     void joinArea(QMdiArea &area);
     void activated();
     void takeCaption();
+    [[nodiscard]] QString emptyText() const;
     [[nodiscard]] CommandContext context();
     [[nodiscard]] bool hasWhatItNeeds(Op op, const CommandContext &context);
     void Delete(const CommandContext &context);

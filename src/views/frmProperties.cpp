@@ -75,6 +75,7 @@ frmProperties::frmProperties(QWidget *owner, std::span<const PropertyTab> shown)
         list->setObjectName(tab.list);
         list->setAccessibleName(tab.caption);
         list->setGridLines(gridLines);
+        list->setEmptyText("No "_L1 % lookOf(tab.objects).objects);
         list->setContextMenu(mnuEdit);
         list->setCountsBar(StatusBar);
         m_lists[std::size_t(key)] = list;

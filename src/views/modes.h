@@ -33,7 +33,8 @@ enum class ModeFamily : quint8 { None, Database, Live };
 
 struct ModeLook
 {
-    QLatin1StringView text; ///< the mode where it is a text: "DisplayUsers"
+    QLatin1StringView text;    ///< the mode where it is a text: "DisplayUsers"
+    QLatin1StringView objects; ///< as a sentence calls them: "rooms"
     ModeFamily family;
     int bannerPicture; ///< of ImageListContext
     int rowPicture;    ///< of ImageListList
@@ -41,7 +42,7 @@ struct ModeLook
     /// name.
     QLatin1StringView objectName;
     /// The first visible columns that a dialog needs to edit a row of the list; a drill-down may have others.
-    QLatin1StringView editedColumns = {}; ///< with bars between; empty where the dialog reads its own record
+    QLatin1StringView editedColumns; ///< with bars between; empty where the dialog reads its own record
 };
 
 /// A view without a mode has no family and the pictures of an unknown object.
@@ -68,8 +69,7 @@ using ModeSet = quint32;
     }
     return set;
 }
-/// A view without a mode has the menus of Mode::Unknown.
-[[nodiscard]] constexpr bool contains(ModeSet set, std::optional<Mode> mode)
+[[nodiscard]] constexpr bool contains(ModeSet set, Mode mode)
 {
-    return (set & bitOf(mode.value_or(Mode::Unknown))) != 0;
+    return (set & bitOf(mode)) != 0;
 }

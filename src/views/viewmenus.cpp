@@ -155,11 +155,13 @@ void ViewMenus::add(QAction *action, Op op, ModeSet modes)
 void ViewMenus::dress(CommandTarget *target)
 {
     m_target = target;
-    const std::optional<Mode> mode = target ? target->mode() : std::nullopt;
+    const std::optional<Mode> given = target ? target->mode() : std::nullopt;
+    // A view without a mode has the menus of one of unknown rows.
+    const Mode mode = given.value_or(Mode::Unknown);
     for (const Entry &entry : m_entries) {
         const bool shown = target && contains(entry.modes, mode);
         const bool works = entry.op == Op::None || isOfTheList(entry.op) || entry.op == Op::ViewRefresh ||
-                           (mode && handlerOf(*mode, entry.op));
+                           handlerOf(mode, entry.op);
         entry.action->setVisible(shown);
         entry.action->setEnabled(shown && works);
         const QString plain = entry.action->text();
