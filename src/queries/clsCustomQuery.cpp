@@ -1,5 +1,6 @@
 #include "queries/clsCustomQuery.h"
 
+#include "platform/jet/connection.h"
 #include "queries/querystatements.h"
 #include "store/statement.h"
 
@@ -31,6 +32,36 @@ void clsCustomQuery::Execute(const QString &connectionString, jet::Recordset &re
         read(connectionString, result, statement);
     else
         write(connectionString, statement);
+}
+
+QStringList clsCustomQuery::tableNames(const QString &connectionString)
+{
+    QStringList names;
+    keepingErrors([&] {
+        jet::Connection connection;
+        connection.open(connectionString);
+        jet::Recordset tables;
+        connection.openSchema(jet::SchemaTables, tables);
+        for (; !tables.eof(); tables.moveNext()) {
+            const QString name = tables.value(u"TABLE_NAME").toText();
+            const bool isView =
+                tables.value(u"TABLE_TYPE").toText().compare("view"_L1, Qt::CaseInsensitive) == 0;
+            if (!name.startsWith("MSys"_L1) && !isView)
+                names.append(name);
+        }
+    });
+    return names;
+}
+
+QStringList clsCustomQuery::fieldNames(const QString &connectionString, const QString &table)
+{
+    jet::Recordset row;
+    const QString quoted = u'[' + table + u']';
+    read(connectionString, row, joined("SELECT Top 1 * FROM {table}"_L1, {{"table"_L1, quoted}}));
+    QStringList names;
+    for (int field = 0; field < row.fields().count(); ++field)
+        names.append(row.fields().item(field).name());
+    return names;
 }
 
 void clsCustomQuery::Delete(const QString &connectionString, int id)

@@ -4,6 +4,7 @@
 #include "store/recordclass.h"
 
 #include <QString>
+#include <QStringList>
 
 /// All that reads and writes Tbl_CustomQuery, the saved statements, and the way to run one. A
 /// query is known by its name.
@@ -21,6 +22,10 @@ public:
     /// Runs a statement of the user's. One whose first six letters are "select" opens the recordset
     /// if it gives rows, as SELECT INTO does not; any other leaves it closed, also a SELECT behind a
     /// blank.
+    /// The tables of the store by name, without those of the engine.
+    [[nodiscard]] QStringList tableNames(const QString &connectionString);
+    /// The fields of a table in their order.
+    [[nodiscard]] QStringList fieldNames(const QString &connectionString, const QString &table);
     void Execute(const QString &connectionString, jet::Recordset &result, const QString &statement);
     void Delete(const QString &connectionString, int id);
     /// Raises RuleViolation when another query has the name.

@@ -113,6 +113,7 @@ void Main()
     resolveNetwork();
     paintNow();
     testStore();
+    mainForm().buildQueryMenu();
     mainForm().show();
     attempt(showStatusReady);
 }

@@ -1,8 +1,10 @@
 #include "shell/frmMain.h"
 
+#include "base/error.h"
 #include "base/text.h"
 #include "messages/guard.h"
 #include "messages/status.h"
+#include "queries/modCustomQuery.h"
 #include "session/identity.h"
 #include "session/modRegistry.h"
 #include "session/modServers.h"
@@ -265,6 +267,32 @@ void frmMain::showMenus()
         return;
     menuBar()->clear();
     menuBar()->addActions(shown);
+}
+
+void frmMain::buildQueryMenu()
+{
+    auto *menu = findChild<QMenu *>(u"mnuExecuteQuery"_s);
+    menu->clear();
+    std::vector<modCustomQuery::SavedQuery> queries;
+    // A store that does not open was reported at the start.
+    attempt([&] { queries = modCustomQuery::savedQueries(); });
+    if (queries.empty()) {
+        QAction *empty = menu->addAction(u"Empty"_s);
+        empty->setObjectName("mnuQueries"_L1);
+        empty->setEnabled(false);
+    }
+    for (const modCustomQuery::SavedQuery &query : queries) {
+        QAction *entry = menu->addAction(QString(query.name).replace(u'&', "&&"_L1));
+        entry->setObjectName("mnuQueries"_L1);
+        entry->setToolTip(query.description);
+        connect(entry, &QAction::triggered, this, [this, query] {
+            guarded(this, [&] { modCustomQuery::run(this, query.statement, query.description); });
+        });
+    }
+    menu->addSeparator();
+    QAction *reload = menu->addAction(u"Reload Execute Menu"_s);
+    reload->setObjectName("mnuReloadExecuteMenu"_L1);
+    connect(reload, &QAction::triggered, this, [this] { guarded(this, [this] { buildQueryMenu(); }); });
 }
 
 void frmMain::addKeys()

@@ -36,6 +36,9 @@ public:
     /// arrange icons.
     void Arrange(int arrangement);
 
+    /// Fills the menu of the saved queries anew.
+    void buildQueryMenu();
+
     // MainWindowLink
     [[nodiscard]] QWidget &window() override { return *this; }
     [[nodiscard]] QMdiArea &mdiArea() override { return *m_area; }

@@ -461,6 +461,17 @@ void ListView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, co
 
 void ListView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
-    QTreeView::selectionChanged(selected, deselected);
+    // Of many rows the base class would look for the place of each.
+    const auto rows = [](const QItemSelection &selection) {
+        int count = 0;
+        for (const QItemSelectionRange &range : selection)
+            count += range.height();
+        return count;
+    };
+    constexpr int few = 1000;
+    if (rows(selected) + rows(deselected) <= few)
+        QTreeView::selectionChanged(selected, deselected);
+    else
+        viewport()->update();
     Q_EMIT selectedChanged();
 }

@@ -83,6 +83,24 @@ void ListPane::find(int column)
         guarded(window(), [&] { frmListFind::Initialize(*this, 0, column); });
 }
 
+namespace {
+
+/// Whether a text begins with a character, which is case folded. Most texts are told apart by their first
+/// byte.
+bool beginsWith(QUtf8StringView text, const QString &character)
+{
+    if (text.isEmpty())
+        return false;
+    const auto first = static_cast<unsigned char>(text.front());
+    constexpr unsigned char beyondAscii = 0x80;
+    if (first < beyondAscii)
+        return character == QString(QChar(char16_t(first)).toCaseFolded());
+    // Four bytes hold any character.
+    return text.first(std::min<qsizetype>(text.size(), 4)).toString().left(1).toCaseFolded() == character;
+}
+
+} // namespace
+
 // The first row whose first visible cell begins with the character.
 void ListPane::jumpTo(const QString &character)
 {
@@ -91,10 +109,7 @@ void ListPane::jumpTo(const QString &character)
     const QString wanted = character.left(1).toCaseFolded();
     const ListModel &texts = rows();
     for (int row = 0; row < rowCount(); ++row) {
-        const QUtf8StringView text = texts.view(row, 1);
-        // Four bytes hold any character.
-        if (!text.isEmpty() &&
-            text.first(std::min<qsizetype>(text.size(), 4)).toString().left(1).toCaseFolded() == wanted) {
+        if (beginsWith(texts.view(row, 1), wanted)) {
             chooseRow(row);
             setFocus();
             return;
