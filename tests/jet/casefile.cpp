@@ -3,6 +3,7 @@
 #include "base/oledate.h"
 
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -42,33 +43,50 @@ private:
             expectation(m_file.cases.back().steps.back(), line);
     }
 
-    void statement(const QString &sql)
+    void statement(const QString &text)
     {
         Step &step = m_file.cases.back().steps.emplace_back();
         step.line = m_line;
-        step.sql = sql;
+        const qsizetype arrow = text.lastIndexOf(" => "_L1);
+        step.sql = text.left(arrow);
+        if (arrow >= 0)
+            expectation(step, text.mid(arrow + 4).trimmed());
     }
 
-    void expectation(Step &step, const QString &line)
+    void expectation(Step &step, const QString &text)
     {
-        if (line == "done"_L1)
+        if (text == "done"_L1)
             step.done = true;
-        else if (line == "no rows"_L1)
+        else if (text == "no rows"_L1)
             step.count = 0;
-        else if (line == "any order"_L1)
-            step.anyOrder = true;
-        else if (const auto count = after(line, "count "_L1))
+        else if (text.startsWith(u'['))
+            columns(step, text);
+        else if (const auto rows = after(text, "any order"_L1))
+            step.anyOrder = (rest(step, *rows), true);
+        else if (const auto count = after(text, "count "_L1))
             step.count = wholeNumber(*count);
-        else if (const auto column = after(line, "ordered by "_L1))
+        else if (const auto column = after(text, "ordered by "_L1))
             step.orderedBy = wholeNumber(*column);
-        else if (const auto names = after(line, "columns "_L1))
-            step.columns = names->split(" | "_L1);
-        else if (const auto error = after(line, "error "_L1))
+        else if (const auto error = after(text, "error "_L1))
             expectError(step, *error);
-        else if (const std::optional<Row> row = readRow(line))
-            step.rows.push_back(*row);
-        else
-            mistake("is no row and no other expectation: "_L1 + line);
+        else if (!readRows(step, text))
+            mistake("is no row and no other expectation: "_L1 + text);
+    }
+
+    void columns(Step &step, const QString &text)
+    {
+        const qsizetype end = text.indexOf(u']');
+        if (end < 0)
+            mistake("needs a bracket at the end of the columns"_L1);
+        step.columns = text.mid(1, end - 1).split(" | "_L1);
+        rest(step, end < 0 ? QString() : text.mid(end + 1).trimmed());
+    }
+
+    /// What may follow on the same line.
+    void rest(Step &step, const QString &text)
+    {
+        if (!text.isEmpty())
+            expectation(step, text);
     }
 
     int wholeNumber(const QString &text)
@@ -90,20 +108,22 @@ private:
             mistake("needs an error number"_L1);
     }
 
-    static std::optional<Row> readRow(const QString &line)
+    static bool readRows(Step &step, QStringView rest)
     {
         Row row;
-        QStringView rest = line;
         for (;;) {
             const std::optional<Value> value = readValue(rest);
             if (!value)
-                return std::nullopt;
+                return false;
             row.push_back(*value);
             rest = rest.trimmed();
+            const bool endOfRow = rest.isEmpty() || rest.startsWith(u';');
+            if (!endOfRow && !rest.startsWith(u'|'))
+                return false;
+            if (endOfRow)
+                step.rows.push_back(std::exchange(row, {}));
             if (rest.isEmpty())
-                return row;
-            if (!rest.startsWith(u'|'))
-                return std::nullopt;
+                return true;
             rest = rest.mid(1).trimmed();
         }
     }
@@ -113,9 +133,11 @@ private:
     {
         if (rest.startsWith(u'"'))
             return readText(rest);
-        const qsizetype bar = rest.indexOf(u'|');
-        const QStringView word = (bar < 0 ? rest : rest.left(bar)).trimmed();
-        rest = bar < 0 ? QStringView() : rest.mid(bar);
+        qsizetype end = 0;
+        while (end < rest.size() && rest[end] != u'|' && rest[end] != u';')
+            ++end;
+        const QStringView word = rest.left(end).trimmed();
+        rest = rest.mid(end);
         if (word == "Null"_L1)
             return Value();
         if (word == "True"_L1 || word == "False"_L1)
