@@ -1,10 +1,11 @@
 #include "platform/jet/errors.h"
 #include "store/clsUsers.h"
-#include "support/recordtest.h"
+#include "support/companytest.h"
 
 #include <limits>
 
 using namespace Qt::StringLiterals;
+using namespace company;
 
 namespace {
 
@@ -80,6 +81,12 @@ const QString fullRow =
     "IT|5100|1|2|3|North"_s;
 
 class UsersTest : public RecordTest
+{
+protected:
+    clsUsers users;
+};
+
+class UserRelationsTest : public CompanyTest
 {
 protected:
     clsUsers users;
@@ -174,18 +181,6 @@ TEST_F(UsersTest, ApostropheIsRefusedByTheEngineInAddAndUpdate)
     EXPECT_EQ(rows(u"SELECT Comment FROM Tbl_Users"_s), Rows{u""_s});
 }
 
-TEST_F(UsersTest, Delete_TakesTheNamedUsersOnly)
-{
-    for (int id = 1; id <= 4; ++id) {
-        UserRecord user = account(u"user%1"_s.arg(id), u"SRV01"_s, id);
-        users.Add(connection, user);
-    }
-    users.Delete(connection, QList<int>{2, 4, 99});
-    EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users ORDER BY UserID"_s), (Rows{u"1"_s, u"3"_s}));
-    users.Delete(connection, QList<int>());
-    EXPECT_EQ(rows(u"SELECT COUNT(*) FROM Tbl_Users"_s), Rows{u"2"_s});
-}
-
 TEST_F(UsersTest, Import_ReplacesTheTableByTheNamedRemoteUsers)
 {
     UserRecord old = account(u"old"_s, u"SRV01"_s);
@@ -199,4 +194,48 @@ TEST_F(UsersTest, Import_ReplacesTheTableByTheNamedRemoteUsers)
     run(u"DROP TABLE Tbl_Users"_s);
     users.Import(connection);
     EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users"_s), Rows{u"7"_s});
+}
+
+TEST_F(UserRelationsTest, AddFoldersBatch_AddsMissingFoldersAndNamesTheImpossible)
+{
+    jet::Recordset records;
+    makeRecords(records, {u"Name"_s, u"Permission"_s},
+                {{u"D:\\Admin\\"_s, u"R"_s}, {u"D:\\It's\\"_s, u"R"_s}, {u"D:\\New\\"_s, u"CH"_s}});
+    QString failed = u"before,"_s;
+    users.addFoldersBatch(connection, u"anna"_s, records, failed);
+    EXPECT_EQ(failed, u"before,D:\\It's\\,"_s);
+    EXPECT_EQ(rows(u"SELECT FolderID, Permission FROM Tbl_UserFolderPermission WHERE UserID = 13 "
+                   "ORDER BY FolderID"_s),
+              (Rows{u"42|R"_s, u"43|R"_s, u"45|CH"_s}));
+    EXPECT_EQ(rows(u"SELECT ID, FolderName FROM Tbl_Folders WHERE ID > 44"_s), Rows{u"45|D:\\New\\"_s});
+
+    const CurrentError error =
+        errorOf([&] { users.addFoldersBatch(connection, u"nobody"_s, records, failed); });
+    EXPECT_EQ(error.number, RuleViolation);
+    EXPECT_EQ(error.description, u"The specified User does not exist in your Database"_s);
+}
+
+TEST_F(UserRelationsTest, AddFoldersBatch_EndsWhereTheFoldersAreGone)
+{
+    jet::Recordset records;
+    makeRecords(records, {u"Name"_s, u"Permission"_s}, {{u"D:\\New\\"_s, u"R"_s}});
+    run(u"DROP TABLE Tbl_Folders"_s);
+    const Rows before = content("Tbl_UserFolderPermission");
+    QString failed;
+    const CurrentError error =
+        errorOf([&] { users.addFoldersBatch(connection, u"anna"_s, records, failed); });
+    EXPECT_EQ(error.number, jet::MissingTable);
+    EXPECT_TRUE(error.description.contains(u"Tbl_Folders")) << error.description.toStdString();
+    EXPECT_EQ(failed, QString());
+    EXPECT_EQ(content("Tbl_UserFolderPermission"), before);
+}
+
+TEST_F(UserRelationsTest, TheIdOfTheNewestUserIsGivenAgainWithWhatStayedBehind)
+{
+    users.Delete(connection, QList<int>{13});
+    UserRecord next = account(u"dora"_s, u"SRV01"_s);
+    users.Add(connection, next);
+    EXPECT_EQ(next.UserID, 13);
+    EXPECT_EQ(rowsFrom([&](auto &result) { users.getGlobalGroups(connection, result, 13); }),
+              Rows{globalAdmins});
 }
