@@ -63,38 +63,13 @@ const std::vector<std::vector<std::string>> orders = {
 
 std::string randomText(std::mt19937 &random)
 {
+    // clang-format off
     static const std::vector<std::string> pieces = {
-        "a",
-        "A",
-        "b",
-        "ss",
-        "ß",
-        "é",
-        "e",
-        "e\u0301",
-        "\u0301",
-        "'",
-        "-",
-        " ",
-        "  ",
-        "1",
-        "!",
-        "_",
-        "æ",
-        "ae",
-        "Ω",
-        "ω",
-        "я",
-        "漢",
-        "\xff",
-        "\xc3",
-        "\xf0\x9f\x98\x80",
-        "\xed\xa0\x80",
-        std::string(1, '\0'),
-        "\t",
-        "’",
-        "Ǽ",
+        "a", "A", "b", "ss", "ß", "é", "e", "e\u0301", "\u0301", "'", "-", " ", "  ", "1", "!", "_", "æ",
+        "ae", "Ω", "ω", "я", "漢", "\xff", "\xc3", "\xf0\x9f\x98\x80", "\xed\xa0\x80", std::string(1, '\0'),
+        "\t", "’", "Ǽ",
     };
+    // clang-format on
     std::string text;
     for (auto count = random() % 6; count > 0; --count)
         text += pieces[random() % pieces.size()];

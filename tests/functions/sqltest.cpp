@@ -44,15 +44,3 @@ std::string SqlTest::values(const std::string &sql)
     sqlite3_finalize(statement);
     return result;
 }
-
-void SqlTest::check(std::span<const SqlCase> cases, const std::string &shownBy)
-{
-    for (const SqlCase &row : cases) {
-        const std::string_view expected = row.expected;
-        std::string actual = values("SELECT " + shownBy + '(' + row.expression + ')');
-        // A mismatch goes on to name the value.
-        if (expected.ends_with("criteria expression.") && actual.starts_with(expected))
-            actual.resize(expected.size());
-        EXPECT_EQ(actual, expected) << row.expression;
-    }
-}

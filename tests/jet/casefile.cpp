@@ -62,7 +62,7 @@ private:
         else if (text.startsWith(u'['))
             columns(step, text);
         else if (const auto rows = after(text, "any order"_L1))
-            step.anyOrder = (rest(step, *rows), true);
+            anyOrder(step, *rows);
         else if (const auto count = after(text, "count "_L1))
             step.count = wholeNumber(*count);
         else if (const auto column = after(text, "ordered by "_L1))
@@ -71,6 +71,12 @@ private:
             expectError(step, *error);
         else if (!readRows(step, text))
             mistake("is no row and no other expectation: "_L1 + text);
+    }
+
+    void anyOrder(Step &step, const QString &text)
+    {
+        step.anyOrder = true;
+        rest(step, text);
     }
 
     void columns(Step &step, const QString &text)

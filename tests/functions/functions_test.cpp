@@ -1,0 +1,103 @@
+#include "platform/jet/functions.h"
+
+#include "base/value.h"
+#include "platform/jet/clock.h"
+#include "platform/jet/errormark.h"
+#include "platform/jet/errortexts.h"
+#include "platform/jet/numbertext.h"
+#include "sqltest.h"
+
+#include <cmath>
+#include <random>
+#include <sstream>
+
+namespace {
+
+using FunctionsTest = SqlTest;
+
+// clang-format off
+const char *const arguments[] = {
+    "NULL", "''", "' '", "'abc'", "'ÄÖ Ü'", "'12.5'", "'1/15/2005 2:30 PM'", "'2005-'",
+    "CAST(x'ff61c3' AS TEXT)", "CAST(x'610062' AS TEXT)", "x'00ff'", "0", "1", "-1", "3", "7", "300",
+    "2147483648", "-9223372036854775807 - 1", "0.5", "-2.5", "38415.604166666664", "-657434.5",
+    "2958465.99999999", "1e300", "9e999", "-9e999", "'yyyy'", "'ww'", "'#,##0.00;(0);z;n'", "'@@&<!;x'",
+    "'dddd mmmm hh:nn:ss a/p \"q'", "'0.0E+00%\\'", "'[!a-z]%[_'",
+};
+// clang-format on
+
+} // namespace
+
+// Whatever stands in an argument, a function gives a value or an error that carries its number.
+TEST_F(FunctionsTest, EveryFunctionAnswersAnyArguments)
+{
+    std::istringstream names(
+        values("SELECT name FROM pragma_function_list "
+               "WHERE name GLOB 'jet_*' AND type = 's' AND name <> 'jet_raise' ORDER BY name"));
+    std::mt19937 random(1973);
+    int functions = 0;
+    for (std::string name; names >> name; ++functions) {
+        for (int round = 0; round < 200; ++round) {
+            std::string list;
+            for (auto count = random() % 6; count > 0; --count)
+                list += (list.empty() ? "" : ", ") + std::string(arguments[random() % std::size(arguments)]);
+            const std::string call = name + '(' + list + ')';
+            const std::string result = values("SELECT quote(" + call + ")");
+            EXPECT_FALSE(result.starts_with("0 ")) << call << ": " << result;
+        }
+    }
+    EXPECT_GT(functions, 70);
+}
+
+TEST_F(FunctionsTest, ReadTheClock)
+{
+    jet::setClock([] { return QDateTime(QDate(2005, 3, 4), QTime(14, 30, 15, 750)); });
+    EXPECT_EQ(values("SELECT jet_datetext(jet_now()) || ', ' || jet_datetext(jet_today()) || ', ' || "
+                     "jet_datetext(jet_time()) || ', ' || jet_timer()"),
+              "3/4/2005 2:30:15 PM, 3/4/2005, 2:30:15 PM, 52215.75");
+    jet::setClock({});
+}
+
+TEST_F(FunctionsTest, RandomNumbersSpread)
+{
+    EXPECT_EQ(values("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 200),"
+                     "r(x) AS MATERIALIZED (SELECT jet_rnd() FROM n)"
+                     "SELECT count(DISTINCT x) > 150 AND min(x) >= 0 AND max(x) < 1 FROM r"),
+              "1");
+}
+
+TEST_F(FunctionsTest, RaiseWhatNoStatementCanReach)
+{
+    EXPECT_EQ(values("SELECT jet_raise(-2147467259, 'At most one.')"), "-2147467259 At most one.");
+    EXPECT_EQ(values("SELECT jet_todouble(9e999)"), "-2147467259 Numeric field overflow.");
+    EXPECT_EQ(values("SELECT jet_datetext(1e9)"), "-2147467259 Overflow");
+    EXPECT_EQ(values("SELECT jet_idiv(-9223372036854775807 - 1, -1)"), "-2147467259 Overflow");
+    EXPECT_EQ(values("SELECT jet_abs(-9223372036854775807 - 1) > 9e18"), "1");
+    std::string_view foreign = "no such table: x";
+    EXPECT_EQ(jet::takeErrorNumber(foreign), 0);
+    EXPECT_EQ(foreign, "no such table: x");
+}
+
+TEST(NumberText, AgreesWithTheValuesOfRecords)
+{
+    std::mt19937_64 random(1973);
+    for (int i = 0; i < 20000; ++i) {
+        const auto exponent = int(random() % 60) - 30;
+        const double number = std::ldexp(double(qint64(random())), exponent - 63);
+        ASSERT_EQ(jet::numberText(number), numberToText(number).toStdString());
+    }
+    for (const double number :
+         {0.0, -0.0, 1e15, 999999999999999.0, 1e-5, 1e100, -1.5e-7, 1.7976931348623157e308})
+        EXPECT_EQ(jet::numberText(number), numberToText(number).toStdString());
+}
+
+TEST(FindFunction, KnowsNamesInAnyCaseAndWithTheirDollar)
+{
+    ASSERT_NE(jet::findFunction("uCASE"), nullptr);
+    EXPECT_EQ(jet::findFunction("uCASE"), jet::findFunction("UCase$"));
+    EXPECT_EQ(jet::findFunction("Abs$"), nullptr);
+    EXPECT_EQ(jet::findFunction("Nz"), nullptr);
+    EXPECT_EQ(jet::findFunction("DLookup"), nullptr);
+    EXPECT_EQ(jet::findFunction(""), nullptr);
+    EXPECT_EQ(jet::suggestion("DateDif", jet::functionNames()), " Did you mean 'DateDiff'?");
+    EXPECT_EQ(jet::suggestion("Frobnicate", jet::functionNames()), "");
+}
