@@ -65,8 +65,6 @@ private:
             anyOrder(step, *rows);
         else if (const auto count = after(text, "count "_L1))
             step.count = wholeNumber(*count);
-        else if (const auto column = after(text, "ordered by "_L1))
-            step.orderedBy = wholeNumber(*column);
         else if (const auto error = after(text, "error "_L1))
             expectError(step, *error);
         else if (!readRows(step, text))

@@ -25,7 +25,6 @@ struct Step
     QString sql;
     bool done = false;     // succeeds and returns no rows
     bool anyOrder = false; // the rows are a bag
-    int orderedBy = 0;     // from 1: a bag too, but this column's values come in the order given
     int count = -1;        // of rows that are not told one by one
     std::optional<ExpectedError> error;
     std::optional<QStringList> columns;
