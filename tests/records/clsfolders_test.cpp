@@ -7,17 +7,17 @@ using namespace company;
 
 namespace {
 
+QList<QStringList> fieldsOf(const QStringList &lines)
+{
+    QList<QStringList> fields;
+    for (const QString &line : lines)
+        fields += line.split(u'|');
+    return fields;
+}
+
 class FoldersTest : public CompanyTest
 {
 protected:
-    struct Line
-    {
-        QString path;
-        QString name;
-        QString server;
-        QString permission;
-    };
-
     /// Without the company's own folders.
     Rows added() const { return content("Tbl_Folders").sliced(4); }
 
@@ -34,26 +34,22 @@ protected:
         return all;
     }
 
-    void give(const QList<Line> &lines)
+    /// A line is path, name, server and permission with bars between.
+    void give(const QStringList &lines)
     {
-        QStringList paths;
-        QStringList names;
-        QStringList servers;
-        QStringList words;
-        for (const Line &line : lines) {
-            paths += line.path;
-            names += line.name;
-            servers += line.server;
-            words += line.permission;
+        QStringList fields[4];
+        for (const QString &line : lines) {
+            for (int i = 0; i < 4; ++i)
+                fields[i] += line.section(u'|', i, i);
         }
-        folders.AddPermissionsBatch(connection, paths, names, servers, words, errors);
+        folders.AddPermissionsBatch(connection, fields[0], fields[1], fields[2], fields[3], errors);
     }
 
-    /// Returns the accounts that could not be placed.
-    QString permit(const QString &path, const QList<QStringList> &accounts)
+    /// An account is name, server and permission. Returns the accounts that could not be placed.
+    QString permit(const QString &path, const QStringList &accounts)
     {
         jet::Recordset objects;
-        makeRecords(objects, {u"Name"_s, u"Server"_s, u"Permission"_s}, accounts);
+        makeRecords(objects, {u"Name"_s, u"Server"_s, u"Permission"_s}, fieldsOf(accounts));
         return folders.addPermittedObjects(connection, path, objects);
     }
 
@@ -120,10 +116,8 @@ TEST_F(FoldersTest, AddBatch_OfAPathTwiceUpdatesTheFirst)
 TEST_F(FoldersTest, AnAccountKeepsOneRowAFolder)
 {
     const Rows before = permissions();
-    give({{u"D:\\Common"_s, u"BERT"_s, u"srv02"_s, u"L"_s},
-          {u"d:\\common\\"_s, u"bert"_s, u"SRV02"_s, u"R"_s},
-          {u"D:\\Data"_s, u"anna"_s, u"SRV01"_s, u"R"_s},
-          {u"D:\\Admin"_s, u"Admins"_s, u"SRV01"_s, u"Full Control"_s}});
+    give({u"D:\\Common|BERT|srv02|L"_s, u"d:\\common\\|bert|SRV02|R"_s, u"D:\\Data|anna|SRV01|R"_s,
+          u"D:\\Admin|Admins|SRV01|Full Control"_s});
     EXPECT_EQ(errors, QString());
     Rows after = before;
     after.replace(after.indexOf(u"user 12|42|CH"_s), u"user 12|42|R"_s);
@@ -135,7 +129,7 @@ TEST_F(FoldersTest, AnAccountKeepsOneRowAFolder)
 TEST_F(FoldersTest, ALocalGroupGoesBeforeAUserOfItsName)
 {
     run(u"INSERT INTO Tbl_Users (UserID,UserName,ServerName) VALUES (14,'Staff','SRV01')"_s);
-    give({{u"C:\\Tools"_s, u"Staff"_s, u"SRV01"_s, u"R"_s}});
+    give({u"C:\\Tools|Staff|SRV01|R"_s});
     EXPECT_EQ(permissions().filter(u"|44|"_s), (Rows{u"user 11|44|R"_s, u"local 31|44|R"_s}));
 }
 
@@ -143,12 +137,8 @@ TEST_F(FoldersTest, WhatCannotBeGivenIsNamedAndTheRestGoesOn)
 {
     const Rows before = permissions();
     errors = u"before"_s;
-    give({{u"D:\\Nowhere"_s, u"anna"_s, u"SRV01"_s, u"R"_s},
-          {u"D:\\It's"_s, u"anna"_s, u"SRV01"_s, u"R"_s},
-          {u"D:\\Data"_s, u"anna"_s, u"SRV02"_s, u"R"_s},
-          {u"D:\\Data"_s, u"Staff"_s, u"DC01"_s, u"R"_s},
-          {u"D:\\Data"_s, u"O'Brien"_s, u"SRV01"_s, u"R"_s},
-          {u"D:\\Admin"_s, u"anna"_s, u"SRV01"_s, u"it's"_s}});
+    give({u"D:\\Nowhere|anna|SRV01|R"_s, u"D:\\It's|anna|SRV01|R"_s, u"D:\\Data|anna|SRV02|R"_s,
+          u"D:\\Data|Staff|DC01|R"_s, u"D:\\Data|O'Brien|SRV01|R"_s, u"D:\\Admin|anna|SRV01|it's"_s});
     EXPECT_EQ(
         errors,
         u"before"
@@ -159,8 +149,7 @@ TEST_F(FoldersTest, WhatCannotBeGivenIsNamedAndTheRestGoesOn)
         "\r\nSRV01\\O'Brien is not a Local Group and not a User in DB"
         "\r\nD:\\Admin\\ SRV01\\anna Syntax error (missing operator) in query expression ''it's''. Near 's' at 85."_s);
     EXPECT_EQ(permissions(), before);
-    give(
-        {{u"D:\\Nowhere"_s, u"anna"_s, u"SRV01"_s, u"R"_s}, {u"D:\\Admin"_s, u"anna"_s, u"SRV01"_s, u"R"_s}});
+    give({u"D:\\Nowhere|anna|SRV01|R"_s, u"D:\\Admin|anna|SRV01|R"_s});
     EXPECT_EQ(permissions().filter(u"user 13"_s), (Rows{u"user 13|42|R"_s, u"user 13|43|R"_s}));
 }
 
@@ -168,13 +157,9 @@ TEST_F(FoldersTest, PermittedObjectsReplaceAllPermissionsOfTheFolder)
 {
     const Rows others = without(permissions(), 43);
     folders.AddDefaultFolderPermission(connection, u"DC01\\Operators"_s, u"CH"_s);
-    EXPECT_EQ(permit(u"d:\\admin\\"_s, {{u"bert"_s, u"SRV02"_s, u"CH"_s},
-                                        {u"Staff"_s, u"SRV01"_s, u"R"_s},
-                                        {u"nobody"_s, u"SRV01"_s, u"R"_s},
-                                        {u"Staff"_s, u"DC01"_s, u"Full Control"_s},
-                                        {u"operators"_s, u"dc01"_s, u"R"_s},
-                                        {u"anna"_s, u"SRV01"_s, u"L"_s},
-                                        {u"Admins"_s, u"SRV02"_s, u"R"_s}}),
+    EXPECT_EQ(permit(u"d:\\admin\\"_s, {u"bert|SRV02|CH"_s, u"Staff|SRV01|R"_s, u"nobody|SRV01|R"_s,
+                                        u"Staff|DC01|Full Control"_s, u"operators|dc01|R"_s,
+                                        u"anna|SRV01|L"_s, u"Admins|SRV02|R"_s}),
               u"SRV01\\nobody,SRV02\\Admins,"_s);
     EXPECT_EQ(permissions().filter(u"|43|"_s), (Rows{u"user 12|43|CH"_s, u"user 13|43|L"_s,
                                                      u"local 31|43|R"_s, u"global 21|43|Full Control"_s}));
@@ -188,8 +173,7 @@ TEST_F(FoldersTest, PermittedObjects_TheFirstKindOfAccountThatMatchesWins)
     run(u"UPDATE Tbl_GlobalGroups SET Name = 'anna', Server = 'SRV01' WHERE ID = 21"_s);
     run(u"UPDATE Tbl_LocalGroups SET Name = 'anna' WHERE ID = 31"_s);
     run(u"UPDATE Tbl_GlobalGroups SET Name = 'Guests', Server = 'SRV02' WHERE ID = 22"_s);
-    EXPECT_EQ(permit(u"D:\\Data\\"_s, {{u"anna"_s, u"SRV01"_s, u"L"_s}, {u"Guests"_s, u"SRV02"_s, u"L"_s}}),
-              QString());
+    EXPECT_EQ(permit(u"D:\\Data\\"_s, {u"anna|SRV01|L"_s, u"Guests|SRV02|L"_s}), QString());
     EXPECT_EQ(permissions().filter(u"|41|"_s), (Rows{u"user 13|41|L"_s, u"local 32|41|L"_s}));
 }
 
@@ -197,7 +181,7 @@ TEST_F(FoldersTest, PermittedObjects_KeepTheOldRowsWhenAnAccountCannotBeLookedUp
 {
     const Rows before = permissions();
     CurrentError error = errorOf([&] {
-        permit(u"D:\\Data\\"_s, {{u"bert"_s, u"SRV02"_s, u"CH"_s}, {u"O'Brien"_s, u"SRV01"_s, u"R"_s}});
+        permit(u"D:\\Data\\"_s, {u"bert|SRV02|CH"_s, u"O'Brien|SRV01|R"_s});
     });
     EXPECT_EQ(error.number, jet::SyntaxError);
 
@@ -212,9 +196,7 @@ TEST_F(FoldersTest, PermittedObjects_KeepTheOldRowsWhenAnAccountCannotBeLookedUp
 TEST_F(FoldersTest, PermittedObjects_AreWrittenUsersFirstAndGlobalGroupsLast)
 {
     EXPECT_EQ(errorOf([&] {
-                  permit(u"D:\\Data\\"_s, {{u"Guests"_s, u"DC02"_s, u"R"_s},
-                                           {u"Admins"_s, u"SRV01"_s, u"it's"_s},
-                                           {u"anna"_s, u"SRV01"_s, u"R"_s}});
+                  permit(u"D:\\Data\\"_s, {u"Guests|DC02|R"_s, u"Admins|SRV01|it's"_s, u"anna|SRV01|R"_s});
               }).number,
               jet::SyntaxError);
     EXPECT_EQ(permissions().filter(u"|41|"_s), (Rows{u"user 13|41|R"_s, u"global 21|41|CH"_s}))

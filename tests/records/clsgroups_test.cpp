@@ -7,15 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList groupFields = {u"Name"_s, u"Server"_s, u"Description"_s};
-// In another order than the batch asks for them, one too many.
-const QStringList memberFields = {u"Line"_s, u"GroupName"_s, u"GroupServer"_s, u"UserName"_s,
-                                  u"UserServer"_s};
-
-QStringList member(const QString &user, const QString &userServer, const QString &group,
-                   const QString &groupServer)
+QList<QStringList> fieldsOf(const QStringList &lines)
 {
-    return {u"7"_s, group, groupServer, user, userServer};
+    QList<QStringList> fields;
+    for (const QString &line : lines)
+        fields += line.split(u'|');
+    return fields;
 }
 
 /// What both kinds of groups do, reported by the place of a group in the company: 1 for Staff.
@@ -25,17 +22,25 @@ class GroupsTest : public CompanyTest
 protected:
     static constexpr bool isGlobal = std::is_same_v<Groups, clsGlobalGroups>;
 
-    void importGroups(const QList<QStringList> &lines, bool leaveExisting)
+    /// Lines with bars between their fields; "$1" is the first server of the groups.
+    QList<QStringList> fieldsWithServers(QStringList lines) const
+    {
+        return fieldsOf(lines.replaceInStrings(u"$"_s, server));
+    }
+
+    void importGroups(const QStringList &lines, bool leaveExisting)
     {
         jet::Recordset records;
-        makeRecords(records, groupFields, lines);
+        makeRecords(records, {u"Name"_s, u"Server"_s, u"Description"_s}, fieldsWithServers(lines));
         groups.AddBatch(connection, records, leaveExisting);
     }
 
-    void importMembers(const QList<QStringList> &lines)
+    /// The fields in another order than the batch asks for them, one too many.
+    void importMembers(const QStringList &lines)
     {
         jet::Recordset records;
-        makeRecords(records, memberFields, lines);
+        makeRecords(records, {u"Line"_s, u"UserServer"_s, u"UserName"_s, u"GroupServer"_s, u"GroupName"_s},
+                    fieldsWithServers(lines));
         groups.AddUsersBatch(connection, records, text, [this] { ++breaths; });
     }
 
@@ -93,11 +98,8 @@ TYPED_TEST(GroupsTest, Add_HandsBackTheIdAndLeavesItWhenItFails)
 
 TYPED_TEST(GroupsTest, AddBatch_ChangesOnlyTheDescriptionOfAKnownGroup)
 {
-    const QList<QStringList> lines = {{u"STAFF"_s, this->first.toLower(), u"new"_s},
-                                      {u"Staff"_s, this->second, u"other server"_s},
-                                      {u"Twice"_s, this->second, u"first"_s},
-                                      {u"Twice"_s, this->second, u"it''s"_s},
-                                      {u"Bare"_s, this->second}};
+    const QStringList lines = {"STAFF|"_L1 + this->first.toLower() + "|new"_L1, u"Staff|$2|other server"_s,
+                               u"Twice|$2|first"_s, u"Twice|$2|it''s"_s, u"Bare|$2"_s};
     Rows expected = {u"1|Staff|1|All"_s,          u"2|Guests|2|-"_s,    u"3|Admins|1|-"_s,
                      u"4|Staff|2|other server"_s, u"5|Twice|2|first"_s, u"6|Bare|2|"_s};
     this->importGroups(lines, true);
@@ -111,8 +113,7 @@ TYPED_TEST(GroupsTest, AddBatch_ChangesOnlyTheDescriptionOfAKnownGroup)
 TYPED_TEST(GroupsTest, AddBatch_EndsAtTheFirstFailureAndKeepsTheRowsBeforeIt)
 {
     const CurrentError error = errorOf([&] {
-        this->importGroups(
-            {{u"A"_s, u"S"_s, u"fine"_s}, {u"B"_s, u"S"_s, u"it's"_s}, {u"C"_s, u"S"_s, u"fine"_s}}, false);
+        this->importGroups({u"A|S|fine"_s, u"B|S|it's"_s, u"C|S|fine"_s}, false);
     });
     EXPECT_EQ(error.number, jet::SyntaxError);
     EXPECT_EQ(this->groups.errorDescription(), error.description);
@@ -142,12 +143,12 @@ TYPED_TEST(GroupsTest, AddUsersBatch_OnlyAddsAndNamesWhatIsMissing)
 {
     this->text = u"before"_s;
     this->importMembers({
-        member(u"ANNA"_s, u"srv01"_s, u"staff"_s, this->first.toLower()),
-        member(u"anna"_s, u"SRV01"_s, u"Staff"_s, this->first),
-        member(u"nobody"_s, u"SRV01"_s, u"Staff"_s, this->first),
-        member(u"anna"_s, u"SRV02"_s, u"nowhere"_s, this->first),
-        member(u"rolf"_s, u"SRV01"_s, u"Staff"_s, this->second),
-        member(u"rolf"_s, u"SRV01"_s, u"Guests"_s, this->second),
+        "7|srv01|ANNA|"_L1 + this->first.toLower() + "|staff"_L1,
+        u"7|SRV01|anna|$1|Staff"_s,
+        u"7|SRV01|nobody|$1|Staff"_s,
+        u"7|SRV02|anna|$1|nowhere"_s,
+        u"7|SRV01|rolf|$2|Staff"_s,
+        u"7|SRV01|rolf|$2|Guests"_s,
     });
     EXPECT_EQ(this->memberships(), (Rows{u"1|11"_s, u"1|12"_s, u"1|13"_s, u"2|11"_s, u"2|12"_s, u"3|13"_s}));
     EXPECT_EQ(this->text, "before\r\n\r\n"_L1 + this->first +
@@ -161,10 +162,10 @@ TYPED_TEST(GroupsTest, AddUsersBatch_EndsAtAFailureOfTheStore)
 {
     const CurrentError error = errorOf([&] {
         this->importMembers({
-            member(u"anna"_s, u"SRV01"_s, u"Staff"_s, this->first),
-            member(u"nobody"_s, u"SRV01"_s, u"Staff"_s, this->first),
-            member(u"o'brien"_s, u"SRV01"_s, u"Staff"_s, this->first),
-            member(u"rolf"_s, u"SRV01"_s, u"Guests"_s, this->second),
+            u"7|SRV01|anna|$1|Staff"_s,
+            u"7|SRV01|nobody|$1|Staff"_s,
+            u"7|SRV01|o'brien|$1|Staff"_s,
+            u"7|SRV01|rolf|$2|Guests"_s,
         });
     });
     EXPECT_EQ(error.number, jet::SyntaxError);
@@ -175,20 +176,20 @@ TYPED_TEST(GroupsTest, AddUsersBatch_EndsAtAFailureOfTheStore)
 class LocalGroupsTest : public GroupsTest<clsLocalGroups>
 {
 protected:
-    void nest(const QList<QStringList> &lines)
+    void nest(const QStringList &lines)
     {
         jet::Recordset records;
         makeRecords(
             records,
             {u"LocalGroupName"_s, u"LocalGroupServer"_s, u"GlobalGroupName"_s, u"GlobalGroupServer"_s},
-            lines);
+            fieldsOf(lines));
         groups.AddGlobalGroupsBatch(connection, records, text, [this] { ++breaths; });
     }
 
-    void permit(const QString &group, const QList<QStringList> &lines)
+    void permit(const QString &group, const QStringList &lines)
     {
         jet::Recordset records;
-        makeRecords(records, {u"Name"_s, u"Permission"_s}, lines);
+        makeRecords(records, {u"Name"_s, u"Permission"_s}, fieldsOf(lines));
         groups.addFoldersBatch(connection, group, records, text);
     }
 
@@ -198,12 +199,8 @@ protected:
 TEST_F(LocalGroupsTest, AddGlobalGroupsBatch_OnlyAddsAndNamesWhatIsMissing)
 {
     text = u"before,"_s;
-    nest({{u"Staff"_s, u"SRV01"_s, u"Staff"_s, u"DC01"_s},
-          {u"Staff"_s, u"SRV01"_s, u"guests"_s, u"dc02"_s},
-          {u"Staff"_s, u"SRV01"_s, u"Guests"_s, u"DC01"_s},
-          {u"Staff"_s, u"SRV02"_s, u"Guests"_s, u"DC02"_s},
-          {u"Staff"_s, u"SRV02"_s, u"Guests"_s, u"DC01"_s},
-          {u"Guests"_s, u"SRV02"_s, u"Admins"_s, u"DC01"_s}});
+    nest({u"Staff|SRV01|Staff|DC01"_s, u"Staff|SRV01|guests|dc02"_s, u"Staff|SRV01|Guests|DC01"_s,
+          u"Staff|SRV02|Guests|DC02"_s, u"Staff|SRV02|Guests|DC01"_s, u"Guests|SRV02|Admins|DC01"_s});
     EXPECT_EQ(content("Tbl_LocalGroupsGlobalGroups"),
               (Rows{u"31|21"_s, u"31|22"_s, u"32|21"_s, u"32|22"_s, u"32|23"_s, u"33|23"_s}));
     EXPECT_EQ(text, u"before,\r\n\r\nSRV01\\Staff\tDC01\\Guests Global Group not found"
@@ -214,12 +211,11 @@ TEST_F(LocalGroupsTest, AddGlobalGroupsBatch_OnlyAddsAndNamesWhatIsMissing)
 
 TEST_F(LocalGroupsTest, AddGlobalGroupsBatch_EndsAtAFailureOfTheStore)
 {
-    EXPECT_EQ(errorOf([&] {
-                  nest({{u"Staff"_s, u"SRV01"_s, u"Guests"_s, u"DC02"_s},
-                        {u"Staff"_s, u"SRV'01"_s, u"Staff"_s, u"DC01"_s},
-                        {u"Staff"_s, u"SRV01"_s, u"Admins"_s, u"DC01"_s}});
-              }).number,
-              jet::SyntaxError);
+    EXPECT_EQ(
+        errorOf([&] {
+            nest({u"Staff|SRV01|Guests|DC02"_s, u"Staff|SRV'01|Staff|DC01"_s, u"Staff|SRV01|Admins|DC01"_s});
+        }).number,
+        jet::SyntaxError);
     EXPECT_EQ(content("Tbl_LocalGroupsGlobalGroups").first(2), (Rows{u"31|21"_s, u"31|22"_s}));
     EXPECT_EQ(text, QString());
     EXPECT_EQ(breaths, 1);
@@ -228,16 +224,13 @@ TEST_F(LocalGroupsTest, AddGlobalGroupsBatch_EndsAtAFailureOfTheStore)
 TEST_F(LocalGroupsTest, AddFoldersBatch_AddsMissingFoldersAndNamesTheImpossible)
 {
     text = u"before,"_s;
-    permit(u"STAFF"_s, {{u"d:\\data\\"_s, u"CH"_s},
-                        {u"D:\\It's\\"_s, u"R"_s},
-                        {u"D:\\New"_s, u"CH"_s},
-                        {u"D:\\Don't\\"_s, u"R"_s},
-                        {u"D:\\New"_s, u"R"_s}});
+    permit(u"STAFF"_s,
+           {u"d:\\data\\|CH"_s, u"D:\\It's\\|R"_s, u"D:\\New|CH"_s, u"D:\\Don't\\|R"_s, u"D:\\New|R"_s});
     EXPECT_EQ(text, u"before,D:\\It's\\,D:\\Don't\\,"_s);
     EXPECT_EQ(permissions(), (Rows{u"1|41|CH"_s, u"1|42|CH"_s, u"1|45|R"_s, u"2|43|L"_s, u"3|43|R"_s}));
     EXPECT_EQ(rows(u"SELECT ID, FolderName FROM Tbl_Folders WHERE ID > 44"_s), Rows{u"45|D:\\New"_s});
 
-    const CurrentError error = errorOf([&] { permit(u"nobody"_s, {{u"D:\\Newer\\"_s, u"R"_s}}); });
+    const CurrentError error = errorOf([&] { permit(u"nobody"_s, {u"D:\\Newer\\|R"_s}); });
     EXPECT_EQ(error.number, RuleViolation);
     EXPECT_EQ(error.description, u"The specified Local Group does not exist in your Database"_s);
     EXPECT_EQ(content("Tbl_Folders").size(), 5) << "the group is looked for before a folder is added";
@@ -246,7 +239,7 @@ TEST_F(LocalGroupsTest, AddFoldersBatch_AddsMissingFoldersAndNamesTheImpossible)
 TEST_F(LocalGroupsTest, AddFoldersBatch_KeepsTheFoldersWhenAPermissionIsRefused)
 {
     EXPECT_EQ(errorOf([&] {
-                  permit(u"Staff"_s, {{u"D:\\New\\"_s, u"R"_s}, {u"D:\\Newer\\"_s, u"it's"_s}});
+                  permit(u"Staff"_s, {u"D:\\New\\|R"_s, u"D:\\Newer\\|it's"_s});
               }).number,
               jet::SyntaxError);
     EXPECT_EQ(rows(u"SELECT FolderName FROM Tbl_Folders WHERE ID > 44 ORDER BY ID"_s),
@@ -257,7 +250,7 @@ TEST_F(LocalGroupsTest, AddFoldersBatch_KeepsTheFoldersWhenAPermissionIsRefused)
 TEST_F(LocalGroupsTest, AddFoldersBatch_TakesOneOfTheGroupsOfAName)
 {
     run(u"UPDATE Tbl_LocalGroups SET Name = 'Guests' WHERE ID = 33"_s);
-    permit(u"Guests"_s, {{u"D:\\Data\\"_s, u"Full Control"_s}});
+    permit(u"Guests"_s, {u"D:\\Data\\|Full Control"_s});
     EXPECT_EQ(permissions().filter(u"|41|Full Control"_s).size(), 1);
     EXPECT_EQ(permissions().size(), 5);
 }
