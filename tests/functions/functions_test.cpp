@@ -2,10 +2,13 @@
 
 #include "base/value.h"
 #include "platform/jet/clock.h"
+#include "platform/jet/collation.h"
 #include "platform/jet/errormark.h"
 #include "platform/jet/errortexts.h"
 #include "platform/jet/numbertext.h"
-#include "sqltest.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <cmath>
 #include <random>
@@ -13,7 +16,46 @@
 
 namespace {
 
-using FunctionsTest = SqlTest;
+/// A handle in memory with the functions and the collation of the store.
+class FunctionsTest : public testing::Test
+{
+protected:
+    FunctionsTest()
+    {
+        sqlite3_open(":memory:", &m_handle);
+        jet::registerCollation(m_handle);
+        jet::registerFunctions(m_handle);
+    }
+    ~FunctionsTest() override
+    {
+        EXPECT_EQ(sqlite3_close(m_handle), SQLITE_OK) << "a statement or a value was left behind";
+    }
+
+    /// The first column of all rows, joined by a blank, or the error.
+    std::string values(const std::string &sql)
+    {
+        sqlite3_stmt *statement = nullptr;
+        std::string result;
+        int code = sqlite3_prepare_v2(m_handle, sql.c_str(), -1, &statement, nullptr);
+        while (code == SQLITE_OK || code == SQLITE_ROW) {
+            code = sqlite3_step(statement);
+            if (code != SQLITE_ROW)
+                break;
+            result += result.empty() ? "" : " ";
+            result += reinterpret_cast<const char *>(sqlite3_column_text(statement, 0));
+        }
+        if (code != SQLITE_DONE) {
+            std::string_view message = sqlite3_errmsg(m_handle);
+            const int number = jet::takeErrorNumber(message);
+            result = std::to_string(number) + ' ' + std::string(message);
+        }
+        sqlite3_finalize(statement);
+        return result;
+    }
+
+private:
+    sqlite3 *m_handle = nullptr;
+};
 
 // clang-format off
 const char *const arguments[] = {

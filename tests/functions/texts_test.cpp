@@ -1,6 +1,7 @@
 #include "platform/jet/collation.h"
+#include "platform/jet/like.h"
 
-#include "sqltest.h"
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
@@ -67,8 +68,6 @@ std::string bytes(const std::string &text)
     return testing::PrintToString(text);
 }
 
-using CollationTest = SqlTest;
-
 } // namespace
 
 TEST(CompareTexts, TellsTheSameFromTheSimilar)
@@ -116,13 +115,24 @@ TEST(FoldCase, FoldsAllLettersAndKeepsBrokenBytes)
     EXPECT_EQ(jet::foldCase("A\xff\xc3Z"), "a\xff\xc3z");
 }
 
-TEST_F(CollationTest, GroupsAndFindsThroughAnIndex)
+TEST(LikePattern, ReadsTextsBeyondTheShortOnes)
 {
-    execute("CREATE TABLE t (name TEXT COLLATE JET);"
-            "CREATE INDEX i ON t (name);"
-            "INSERT INTO t VALUES ('Müller'), ('MÜLLER'), ('müller  '), ('Muller'), ('Ärger'), ('adams'), "
-            "('Bauer')");
-    EXPECT_EQ(values("SELECT count(*) FROM t GROUP BY name ORDER BY name"), "1 1 1 1 3");
-    EXPECT_EQ(values("SELECT count(*) FROM t WHERE name = 'mÜller'"), "3");
-    EXPECT_EQ(values("SELECT name FROM t WHERE name BETWEEN 'a' AND 'b'"), "adams Ärger");
+    const std::string filler(5000, 'x');
+    EXPECT_TRUE(jet::LikePattern("%needle%").matches(filler + "NEEDLE" + filler));
+    EXPECT_TRUE(jet::LikePattern("x%NEEDL_").matches(filler + "needle"));
+    EXPECT_FALSE(jet::LikePattern("%needle%").matches(filler + "needl" + filler));
+    EXPECT_TRUE(jet::LikePattern("a_c").matches("a\xff"
+                                                "c"))
+        << "a byte that is no character";
+}
+
+TEST(LikePattern, NeverTriesEveryWay)
+{
+    // Each % could end anywhere; trying all of them would outlast the test.
+    std::string pattern = "%";
+    for (int i = 0; i < 40; ++i)
+        pattern += "a%_%";
+    pattern += "b";
+    EXPECT_FALSE(jet::LikePattern(pattern).matches(std::string(20000, 'a')));
+    EXPECT_TRUE(jet::LikePattern(pattern).matches(std::string(20000, 'a') + 'b'));
 }
