@@ -1,5 +1,6 @@
 #include "casefile.h"
 
+#include "base/error.h"
 #include "base/oledate.h"
 
 #include <cmath>
@@ -14,7 +15,7 @@ namespace {
 class Parser final
 {
 public:
-    File parse(const QString &text)
+    std::vector<Case> parse(const QString &text)
     {
         for (const QString &raw : text.split(u'\n')) {
             ++m_line;
@@ -23,7 +24,7 @@ public:
                 take(line);
         }
         endCase();
-        return std::move(m_file);
+        return std::move(m_cases);
     }
 
 private:
@@ -33,19 +34,19 @@ private:
             startCase(*name);
         else if (const auto fixture = after(line, "fixture "_L1))
             m_fixture = *fixture;
-        else if (m_file.cases.empty() || !m_open)
+        else if (m_cases.empty())
             mistake("stands before the first case"_L1);
         else if (line.startsWith(u'>'))
             statement(line.mid(1).trimmed());
-        else if (m_file.cases.back().steps.empty())
+        else if (m_cases.back().steps.empty())
             mistake("is an expectation without a statement"_L1);
         else
-            expectation(m_file.cases.back().steps.back(), line);
+            expectation(m_cases.back().steps.back(), line);
     }
 
     void statement(const QString &text)
     {
-        Step &step = m_file.cases.back().steps.emplace_back();
+        Step &step = m_cases.back().steps.emplace_back();
         step.line = m_line;
         const qsizetype arrow = text.lastIndexOf(" => "_L1);
         step.sql = text.left(arrow);
@@ -83,7 +84,7 @@ private:
         if (end < 0)
             mistake("needs a bracket at the end of the columns"_L1);
         step.columns = text.mid(1, end - 1).split(" | "_L1);
-        rest(step, end < 0 ? QString() : text.mid(end + 1).trimmed());
+        rest(step, text.mid(end + 1).trimmed());
     }
 
     /// What may follow on the same line.
@@ -106,10 +107,9 @@ private:
     {
         bool isNumber = false;
         const int number = text.section(u' ', 0, 0).toInt(&isNumber);
-        if (isNumber)
-            step.error = ExpectedError{number, text.section(u' ', 1).trimmed()};
-        else
+        if (!isNumber)
             mistake("needs an error number"_L1);
+        step.error = ExpectedError{number, text.section(u' ', 1).trimmed()};
     }
 
     static bool readRows(Step &step, QStringView rest)
@@ -176,26 +176,22 @@ private:
     void startCase(const QString &name)
     {
         endCase();
-        for (const Case &other : m_file.cases)
+        for (const Case &other : m_cases)
             if (other.name == name)
                 mistake("names a case that is there already: "_L1 + name);
-        m_file.cases.push_back({.name = name, .fixture = m_fixture, .line = m_line, .steps = {}});
-        m_open = true;
+        m_cases.push_back({.name = name, .fixture = m_fixture, .line = m_line, .steps = {}});
     }
 
     void endCase()
     {
-        if (!m_open)
-            return;
-        m_open = false;
-        const std::vector<Step> &steps = m_file.cases.back().steps;
-        if (steps.empty() || steps.back().expectsNothing())
-            mistake("ends a case that expects nothing: "_L1 + m_file.cases.back().name);
+        if (!m_cases.empty() &&
+            (m_cases.back().steps.empty() || m_cases.back().steps.back().expectsNothing()))
+            mistake("ends a case that expects nothing: "_L1 + m_cases.back().name);
     }
 
-    void mistake(const QString &what)
+    [[noreturn]] void mistake(const QString &what) const
     {
-        m_file.mistakes.append("line "_L1 + QString::number(m_line) + u' ' + what);
+        throwError(5, "line "_L1 + QString::number(m_line) + u' ' + what);
     }
 
     static std::optional<QString> after(const QString &line, QLatin1StringView word)
@@ -203,15 +199,14 @@ private:
         return line.startsWith(word) ? std::optional(line.mid(word.size()).trimmed()) : std::nullopt;
     }
 
-    File m_file;
+    std::vector<Case> m_cases;
     QString m_fixture;
     int m_line = 0;
-    bool m_open = false;
 };
 
 } // namespace
 
-File parse(const QString &text)
+std::vector<Case> parse(const QString &text)
 {
     return Parser().parse(text);
 }

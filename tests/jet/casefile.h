@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-/// The text files under tests/jet/cases; their form is told in tests/jet/README.md.
+/// The text files under tests/jet/cases; their form is in tests/jet/README.md.
 namespace casefile {
 
 struct ExpectedError
@@ -42,13 +42,8 @@ struct Case
     std::vector<Step> steps;
 };
 
-struct File
-{
-    std::vector<Case> cases;
-    QStringList mistakes; // each with its line
-};
-
-[[nodiscard]] File parse(const QString &text);
+/// Raises an Error that names the line of the first mistake.
+[[nodiscard]] std::vector<Case> parse(const QString &text);
 
 /// A value as it is written in a case file.
 [[nodiscard]] QString written(const Value &value);
