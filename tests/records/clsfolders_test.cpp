@@ -7,14 +7,6 @@ using namespace company;
 
 namespace {
 
-QList<QStringList> fieldsOf(const QStringList &lines)
-{
-    QList<QStringList> fields;
-    for (const QString &line : lines)
-        fields += line.split(u'|');
-    return fields;
-}
-
 class FoldersTest : public CompanyTest
 {
 protected:

@@ -7,14 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QList<QStringList> fieldsOf(const QStringList &lines)
-{
-    QList<QStringList> fields;
-    for (const QString &line : lines)
-        fields += line.split(u'|');
-    return fields;
-}
-
 /// What both kinds of groups do, reported by the place of a group in the company: 1 for Staff.
 template <typename Groups>
 class GroupsTest : public CompanyTest

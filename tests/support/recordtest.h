@@ -68,6 +68,15 @@ inline void makeRecords(jet::Recordset &records, const QStringList &names, const
     }
 }
 
+/// The fields of lines with bars between them.
+inline QList<QStringList> fieldsOf(const QStringList &lines)
+{
+    QList<QStringList> fields;
+    for (const QString &line : lines)
+        fields += line.split(u'|');
+    return fields;
+}
+
 /// A new, empty store for each test of the record classes.
 class RecordTest : public testing::Test
 {
