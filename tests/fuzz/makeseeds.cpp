@@ -53,8 +53,7 @@ void writeStatements(const QString &cases, const QString &out)
     Seeds runs(out + "/execute"_L1);
     QSet<QString> words;
     for (QDirIterator at(cases, {u"*.test"_s}, QDir::Files, QDirIterator::Subdirectories); at.hasNext();) {
-        for (const casefile::Case &testCase :
-             casefile::parse(QString::fromUtf8(contentOf(at.next()))).cases) {
+        for (const casefile::Case &testCase : casefile::parse(QString::fromUtf8(contentOf(at.next())))) {
             QByteArray all;
             for (const casefile::Step &step : testCase.steps) {
                 statements.add(step.sql.toUtf8());

@@ -1,8 +1,10 @@
 #include "casefile.h"
 
+#include "base/error.h"
 #include "base/oledate.h"
 
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +15,7 @@ namespace {
 class Parser final
 {
 public:
-    File parse(const QString &text)
+    std::vector<Case> parse(const QString &text)
     {
         for (const QString &raw : text.split(u'\n')) {
             ++m_line;
@@ -22,7 +24,7 @@ public:
                 take(line);
         }
         endCase();
-        return std::move(m_file);
+        return std::move(m_cases);
     }
 
 private:
@@ -32,43 +34,64 @@ private:
             startCase(*name);
         else if (const auto fixture = after(line, "fixture "_L1))
             m_fixture = *fixture;
-        else if (m_file.cases.empty() || !m_open)
+        else if (m_cases.empty())
             mistake("stands before the first case"_L1);
         else if (line.startsWith(u'>'))
             statement(line.mid(1).trimmed());
-        else if (m_file.cases.back().steps.empty())
+        else if (m_cases.back().steps.empty())
             mistake("is an expectation without a statement"_L1);
         else
-            expectation(m_file.cases.back().steps.back(), line);
+            expectation(m_cases.back().steps.back(), line);
     }
 
-    void statement(const QString &sql)
+    void statement(const QString &text)
     {
-        Step &step = m_file.cases.back().steps.emplace_back();
+        Step &step = m_cases.back().steps.emplace_back();
         step.line = m_line;
-        step.sql = sql;
+        const qsizetype arrow = text.lastIndexOf(" => "_L1);
+        step.sql = text.left(arrow);
+        if (arrow >= 0)
+            expectation(step, text.mid(arrow + 4).trimmed());
     }
 
-    void expectation(Step &step, const QString &line)
+    void expectation(Step &step, const QString &text)
     {
-        if (line == "done"_L1)
+        if (text == "done"_L1)
             step.done = true;
-        else if (line == "no rows"_L1)
+        else if (text == "no rows"_L1)
             step.count = 0;
-        else if (line == "any order"_L1)
-            step.anyOrder = true;
-        else if (const auto count = after(line, "count "_L1))
+        else if (text.startsWith(u'['))
+            columns(step, text);
+        else if (const auto rows = after(text, "any order"_L1))
+            anyOrder(step, *rows);
+        else if (const auto count = after(text, "count "_L1))
             step.count = wholeNumber(*count);
-        else if (const auto column = after(line, "ordered by "_L1))
-            step.orderedBy = wholeNumber(*column);
-        else if (const auto names = after(line, "columns "_L1))
-            step.columns = names->split(" | "_L1);
-        else if (const auto error = after(line, "error "_L1))
+        else if (const auto error = after(text, "error "_L1))
             expectError(step, *error);
-        else if (const std::optional<Row> row = readRow(line))
-            step.rows.push_back(*row);
-        else
-            mistake("is no row and no other expectation: "_L1 + line);
+        else if (!readRows(step, text))
+            mistake("is no row and no other expectation: "_L1 + text);
+    }
+
+    void anyOrder(Step &step, const QString &text)
+    {
+        step.anyOrder = true;
+        rest(step, text);
+    }
+
+    void columns(Step &step, const QString &text)
+    {
+        const qsizetype end = text.indexOf(u']');
+        if (end < 0)
+            mistake("needs a bracket at the end of the columns"_L1);
+        step.columns = text.mid(1, end - 1).split(" | "_L1);
+        rest(step, text.mid(end + 1).trimmed());
+    }
+
+    /// What may follow on the same line.
+    void rest(Step &step, const QString &text)
+    {
+        if (!text.isEmpty())
+            expectation(step, text);
     }
 
     int wholeNumber(const QString &text)
@@ -84,26 +107,27 @@ private:
     {
         bool isNumber = false;
         const int number = text.section(u' ', 0, 0).toInt(&isNumber);
-        if (isNumber)
-            step.error = ExpectedError{number, text.section(u' ', 1).trimmed()};
-        else
+        if (!isNumber)
             mistake("needs an error number"_L1);
+        step.error = ExpectedError{number, text.section(u' ', 1).trimmed()};
     }
 
-    static std::optional<Row> readRow(const QString &line)
+    static bool readRows(Step &step, QStringView rest)
     {
         Row row;
-        QStringView rest = line;
         for (;;) {
             const std::optional<Value> value = readValue(rest);
             if (!value)
-                return std::nullopt;
+                return false;
             row.push_back(*value);
             rest = rest.trimmed();
+            const bool endOfRow = rest.isEmpty() || rest.startsWith(u';');
+            if (!endOfRow && !rest.startsWith(u'|'))
+                return false;
+            if (endOfRow)
+                step.rows.push_back(std::exchange(row, {}));
             if (rest.isEmpty())
-                return row;
-            if (!rest.startsWith(u'|'))
-                return std::nullopt;
+                return true;
             rest = rest.mid(1).trimmed();
         }
     }
@@ -113,9 +137,11 @@ private:
     {
         if (rest.startsWith(u'"'))
             return readText(rest);
-        const qsizetype bar = rest.indexOf(u'|');
-        const QStringView word = (bar < 0 ? rest : rest.left(bar)).trimmed();
-        rest = bar < 0 ? QStringView() : rest.mid(bar);
+        qsizetype end = 0;
+        while (end < rest.size() && rest[end] != u'|' && rest[end] != u';')
+            ++end;
+        const QStringView word = rest.left(end).trimmed();
+        rest = rest.mid(end);
         if (word == "Null"_L1)
             return Value();
         if (word == "True"_L1 || word == "False"_L1)
@@ -150,26 +176,22 @@ private:
     void startCase(const QString &name)
     {
         endCase();
-        for (const Case &other : m_file.cases)
+        for (const Case &other : m_cases)
             if (other.name == name)
                 mistake("names a case that is there already: "_L1 + name);
-        m_file.cases.push_back({.name = name, .fixture = m_fixture, .line = m_line, .steps = {}});
-        m_open = true;
+        m_cases.push_back({.name = name, .fixture = m_fixture, .line = m_line, .steps = {}});
     }
 
     void endCase()
     {
-        if (!m_open)
-            return;
-        m_open = false;
-        const std::vector<Step> &steps = m_file.cases.back().steps;
-        if (steps.empty() || steps.back().expectsNothing())
-            mistake("ends a case that expects nothing: "_L1 + m_file.cases.back().name);
+        if (!m_cases.empty() &&
+            (m_cases.back().steps.empty() || m_cases.back().steps.back().expectsNothing()))
+            mistake("ends a case that expects nothing: "_L1 + m_cases.back().name);
     }
 
-    void mistake(const QString &what)
+    [[noreturn]] void mistake(const QString &what) const
     {
-        m_file.mistakes.append("line "_L1 + QString::number(m_line) + u' ' + what);
+        throwError(5, "line "_L1 + QString::number(m_line) + u' ' + what);
     }
 
     static std::optional<QString> after(const QString &line, QLatin1StringView word)
@@ -177,15 +199,14 @@ private:
         return line.startsWith(word) ? std::optional(line.mid(word.size()).trimmed()) : std::nullopt;
     }
 
-    File m_file;
+    std::vector<Case> m_cases;
     QString m_fixture;
     int m_line = 0;
-    bool m_open = false;
 };
 
 } // namespace
 
-File parse(const QString &text)
+std::vector<Case> parse(const QString &text)
 {
     return Parser().parse(text);
 }

@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-/// The text files under tests/jet/cases; their form is told in tests/jet/README.md.
+/// The text files under tests/jet/cases; their form is in tests/jet/README.md.
 namespace casefile {
 
 struct ExpectedError
@@ -25,7 +25,6 @@ struct Step
     QString sql;
     bool done = false;     // succeeds and returns no rows
     bool anyOrder = false; // the rows are a bag
-    int orderedBy = 0;     // from 1: a bag too, but this column's values come in the order given
     int count = -1;        // of rows that are not told one by one
     std::optional<ExpectedError> error;
     std::optional<QStringList> columns;
@@ -43,13 +42,8 @@ struct Case
     std::vector<Step> steps;
 };
 
-struct File
-{
-    std::vector<Case> cases;
-    QStringList mistakes; // each with its line
-};
-
-[[nodiscard]] File parse(const QString &text);
+/// Raises an Error that names the line of the first mistake.
+[[nodiscard]] std::vector<Case> parse(const QString &text);
 
 /// A value as it is written in a case file.
 [[nodiscard]] QString written(const Value &value);

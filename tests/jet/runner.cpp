@@ -91,15 +91,10 @@ bool sameRow(const Row &expected, const Row &actual)
 
 bool sameRows(const Step &step, const std::vector<Row> &actual)
 {
-    if (!step.anyOrder && step.orderedBy == 0)
-        return std::equal(step.rows.begin(), step.rows.end(), actual.begin(), actual.end(), sameRow);
-    const auto column = std::size_t(step.orderedBy) - 1;
-    const auto sameInColumn = [&](const Row &expected, const Row &row) {
-        return column < expected.size() && column < row.size() &&
-               casefile::same(expected[column], row[column]);
-    };
-    return std::is_permutation(step.rows.begin(), step.rows.end(), actual.begin(), actual.end(), sameRow) &&
-           (step.anyOrder || std::equal(step.rows.begin(), step.rows.end(), actual.begin(), sameInColumn));
+    return step.anyOrder
+               ? std::is_permutation(step.rows.begin(), step.rows.end(), actual.begin(), actual.end(),
+                                     sameRow)
+               : std::equal(step.rows.begin(), step.rows.end(), actual.begin(), actual.end(), sameRow);
 }
 
 std::string text(const std::vector<Row> &rows)
@@ -188,16 +183,6 @@ private:
     const Case &m_case;
 };
 
-class MistakeTest final : public testing::Test
-{
-public:
-    explicit MistakeTest(std::string mistakes) : m_mistakes(std::move(mistakes)) {}
-    void TestBody() override { FAIL() << m_mistakes; }
-
-private:
-    std::string m_mistakes;
-};
-
 /// Letters, digits and underlines, for the filters of the test runner.
 std::string testName(const QString &words)
 {
@@ -207,17 +192,12 @@ std::string testName(const QString &words)
     return name;
 }
 
-void registerFile(const QString &folder, const QString &path, const casefile::File &file, Fixtures &fixtures)
+void registerFile(const QString &folder, const QString &path, const std::vector<Case> &cases,
+                  Fixtures &fixtures)
 {
     const std::string suite = testName(QDir(folder).relativeFilePath(path).chopped(int(qstrlen(".test"))));
     const std::string source = path.toStdString();
-    if (!file.mistakes.isEmpty() || file.cases.empty()) {
-        const std::string mistakes =
-            file.mistakes.isEmpty() ? "has no case" : file.mistakes.join(u'\n').toStdString();
-        testing::RegisterTest(suite.c_str(), "reads", nullptr, nullptr, source.c_str(), 1,
-                              [=]() -> testing::Test * { return new MistakeTest(mistakes); });
-    }
-    for (const Case &testCase : file.cases)
+    for (const Case &testCase : cases)
         testing::RegisterTest(suite.c_str(), testName(testCase.name).c_str(), nullptr, nullptr,
                               source.c_str(), testCase.line,
                               [&]() -> testing::Test * { return new CaseTest(fixtures, testCase); });
@@ -229,11 +209,16 @@ void registerCases(const QString &folder)
 {
     // The registered tests point into both until the process ends.
     static Fixtures fixtures(folder);
-    static std::list<casefile::File> files;
+    static std::list<std::vector<Case>> files;
     QStringList paths;
     for (QDirIterator at(folder, {u"*.test"_s}, QDir::Files, QDirIterator::Subdirectories); at.hasNext();)
         paths.append(at.next());
     paths.sort();
-    for (const QString &path : paths)
-        registerFile(folder, path, files.emplace_back(casefile::parse(readFile(path))), fixtures);
+    for (const QString &path : paths) {
+        try {
+            registerFile(folder, path, files.emplace_back(casefile::parse(readFile(path))), fixtures);
+        } catch (const Error &mistake) {
+            throwError(mistake.number(), path + ": "_L1 + mistake.description());
+        }
+    }
 }

@@ -1,4 +1,5 @@
 #include "jet/failingvfs.h"
+#include "platform/jet/database.h"
 #include "platform/jet/errors.h"
 #include "store/clsGlobalGroups.h"
 #include "store/clsUsers.h"
@@ -69,6 +70,7 @@ TEST_F(ClosingTest, AnEarlierOneLeavesItToTheLast)
 {
     jet::Connection held;
     held.open(connection);
+    sqlite3_busy_timeout(held.database().handle(), 1);
     {
         const Reader reader(path);
         EXPECT_NO_THROW(addGroup(u"New"_s));

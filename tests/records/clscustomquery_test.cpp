@@ -27,8 +27,8 @@ TEST_F(CustomQueryTest, ASavedStatementComesBackAsTyped)
     const QString typed = u"SELECT * FROM Tbl_Users WHERE [LastName] LIKE 'O''B%'"_s;
     queries.Add(connection, u"Irish"_s, u"All of them"_s, escapeQuotes(typed));
     queries.Add(connection, u"Empty"_s, {}, {});
-    expectRows(queries,
-               {{"getAll", &clsCustomQuery::getAll, 0, {u"2|Empty||"_s, u"1|Irish|All of them|"_s + typed}}});
+    EXPECT_EQ(rowsFrom([&](auto &all) { queries.getAll(connection, all); }),
+              (Rows{u"2|Empty||"_s, u"1|Irish|All of them|"_s + typed}));
 
     jet::Recordset result;
     queries.Execute(connection, result, typed);

@@ -1,10 +1,8 @@
 #include "assets/clsHW.h"
-#include "assets/clsRooms.h"
 #include "platform/jet/errors.h"
 #include "support/companytest.h"
 
 using namespace Qt::StringLiterals;
-using namespace company;
 
 namespace {
 
@@ -40,13 +38,7 @@ QString itemRow(int id, const QString &serialNumber, int type = 1)
                .arg(serialNumber);
 }
 
-class HWRecordTest : public RecordTest
-{
-protected:
-    clsHW hardware;
-};
-
-class HWTest : public CompanyTest
+class HWTest : public RecordTest
 {
 protected:
     clsHW hardware;
@@ -54,7 +46,7 @@ protected:
 
 } // namespace
 
-TEST_F(HWRecordTest, AddAndUpdateWriteEveryColumn)
+TEST_F(HWTest, AddAndUpdateWriteEveryColumn)
 {
     hardware.Add(connection, {.SerialNumber = u"before"_s, .PurchaseDate = u"1/1/2000"_s, .Network = 1});
     hardware.Add(connection, item(u"SN-1"_s));
@@ -63,7 +55,7 @@ TEST_F(HWRecordTest, AddAndUpdateWriteEveryColumn)
     EXPECT_EQ(rows(allItems), (Rows{itemRow(1, u"SN-2"_s, 3), itemRow(2, u"SN-1"_s)}));
 }
 
-TEST_F(HWRecordTest, ASerialNumberIsTakenWithinItsType)
+TEST_F(HWTest, ASerialNumberIsTakenWithinItsType)
 {
     hardware.Add(connection, item(u"SN-1"_s));
     hardware.Add(connection, item(u"SN-1"_s, 2));
@@ -85,7 +77,7 @@ TEST_F(HWRecordTest, ASerialNumberIsTakenWithinItsType)
     EXPECT_EQ(rows(allItems), (Rows{before[0], itemRow(2, u"SN-3"_s)})) << "only the number differs";
 }
 
-TEST_F(HWRecordTest, WhatTheStoreCannotReadIsRefusedWithNothingWritten)
+TEST_F(HWTest, WhatTheStoreCannotReadIsRefusedWithNothingWritten)
 {
     hardware.Add(connection, item(u"SN-1"_s));
     const struct
@@ -118,45 +110,9 @@ TEST_F(HWRecordTest, WhatTheStoreCannotReadIsRefusedWithNothingWritten)
     EXPECT_EQ(rows(allItems), Rows{itemRow(1, u"SN-1"_s)});
 }
 
-TEST_F(HWTest, ReadersGiveTheirRows)
+TEST_F(CompanyTest, GetAssignedRoom_GivesTheRoomOrNothing)
 {
-    // clang-format off
-    expectRows(hardware, {
-        {"getAll", &clsHW::getAll, 0, {hw66, hw65, hw64, hw63, hw62, hw61}},
-        {"getUnAssigned", &clsHW::getUnAssigned, 0, {hw66, hw65}},
-        {"getOfType", &clsHW::getOfType, 51,
-         {u"62|PC Maker M1 7|S8|-|P2|-|10.2"_s, u"61|PC Maker M1 7|S9|W1|P1|Office|10.1"_s}},
-        {"getRoom", &clsHW::getRoom, 64, {room102, room7}},
-        {"getNotRoom", &clsHW::getNotRoom, 62, {room101, room102}},
-        {"getUser", &clsHW::getUser, 63, {bert, rolf}},
-        {"getNotUser", &clsHW::getNotUser, 61, {anna, bert}},
-        {"getSW", &clsHW::getSW, 61, {writer1, writer2}},
-        {"getNotSW", &clsHW::getNotSW, 61, {driver, zed, calc}},
-        {"getNotSW", &clsHW::getNotSW, 62, {driver, zed, writer1, writer2}},
-        {"GetByID", &clsHW::GetByID, 62, {u"62|51|S8|A2|-|P2|WS2|-|-|-|-|False|-|False|10.2|-|PC Maker M1 7"_s}},
-        {"getUser of none", &clsHW::getUser, 66, {}},
-    });
-    // clang-format on
-    hardware.addSW(connection, 66, QList<int>{71, 72, 73, 74, 75});
-    expectRows(hardware, {{"getSW of all", &clsHW::getSW, 66, {driver, zed, calc, writer1, writer2}}});
-}
-
-TEST_F(HWTest, DistinctTextsOfferWhatIsInUse)
-{
-    run(u"UPDATE Tbl_HW SET Supplier = 'of ' & Usage, Status = Usage & ' ok'"_s);
-    const auto texts = [&](auto reader) {
-        Rows found = rowsFrom([&](auto &result) { (hardware.*reader)(connection, result); });
-        for (QString &row : found)
-            row = row.toLower();
-        return found;
-    };
-    EXPECT_EQ(texts(&clsHW::getUsage), (Rows{u"0|-"_s, u"0|lab"_s, u"0|office"_s}));
-    EXPECT_EQ(texts(&clsHW::getSuppliers), (Rows{u"0|of "_s, u"0|of lab"_s, u"0|of office"_s}));
-    EXPECT_EQ(texts(&clsHW::getStatus), (Rows{u"0| ok"_s, u"0|lab ok"_s, u"0|office ok"_s}));
-}
-
-TEST_F(HWTest, GetAssignedRoom_GivesTheRoomOrNothing)
-{
+    clsHW hardware;
     QString number = u"before"_s;
     int room = 77;
     hardware.getAssignedRoom(connection, 62, number, room);
@@ -165,90 +121,4 @@ TEST_F(HWTest, GetAssignedRoom_GivesTheRoomOrNothing)
     hardware.getAssignedRoom(connection, 61, number, room);
     EXPECT_EQ(number, QString());
     EXPECT_EQ(room, 0);
-}
-
-TEST_F(HWTest, Find_TakesANullForAnyText)
-{
-    const struct
-    {
-        const char *name;
-        QStringList texts; // serial number, workstation, address, asset, company property
-        QStringList ids;
-        QStringList idsOfType;
-    } cases[] = {
-        // clang-format off
-        {"nothing asked",             {{}, {}, {}, {}, {}}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"62"_s, u"61"_s}, {u"61"_s, u"62"_s}},
-        {"part of a serial number",   {u"s9"_s, {}, {}, {}, {}}, {u"66"_s, u"61"_s}, {u"61"_s}},
-        {"part of a workstation",     {{}, u"s1"_s, {}, {}, {}}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"61"_s}, {u"61"_s}},
-        {"part of an address",        {{}, {}, u"0.1"_s, {}, {}}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"61"_s}, {u"61"_s}},
-        {"an asset",                  {{}, {}, {}, u"a1"_s, {}}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"61"_s}, {u"61"_s}},
-        {"a company property",        {{}, {}, {}, {}, u"p1"_s}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"61"_s}, {u"61"_s}},
-        {"all five",                  {u"s"_s, u"ws2"_s, u"10.2"_s, u"a2"_s, u"p2"_s}, {u"66"_s, u"65"_s, u"64"_s, u"63"_s, u"62"_s}, {u"62"_s}},
-        // clang-format on
-    };
-    const auto found = [&](int type, const QStringList &texts) {
-        QStringList ids = rowsFrom([&](auto &result) {
-            hardware.Find(connection, result, type, texts[0], texts[1], texts[2], texts[3], texts[4]);
-            EXPECT_EQ(result.fields().count(), 6);
-        });
-        for (QString &row : ids)
-            row = row.section(u'|', 0, 0);
-        return ids;
-    };
-    for (const auto &c : cases) {
-        EXPECT_EQ(found(0, c.texts), c.ids) << c.name;
-        QStringList ofType = found(51, c.texts);
-        ofType.sort();
-        EXPECT_EQ(ofType, c.idsOfType) << c.name;
-    }
-    EXPECT_EQ(found(99, cases[0].texts), QStringList());
-}
-
-TEST_F(HWTest, AnItemStandsInARoomOrWithAUser)
-{
-    const Rows software = content("Tbl_SWHW");
-    hardware.addRooms(connection, 61, QList<int>{83, 82}, false);
-    EXPECT_EQ(content("Tbl_RoomHW"), (Rows{u"81|62"_s, u"81|64"_s, u"82|61"_s, u"82|64"_s, u"83|61"_s}));
-    EXPECT_EQ(content("Tbl_UserHW"), (Rows{u"11|63"_s, u"12|63"_s}));
-    EXPECT_EQ(content("Tbl_SWHW"), software);
-
-    hardware.addUsers(connection, 61, QList<int>{13, 12});
-    EXPECT_EQ(content("Tbl_RoomHW"), (Rows{u"81|62"_s, u"81|64"_s, u"82|64"_s}));
-    EXPECT_EQ(content("Tbl_UserHW"), (Rows{u"11|63"_s, u"12|61"_s, u"12|63"_s, u"13|61"_s}));
-
-    hardware.addUsers(connection, 61, QList<int>{11});
-    EXPECT_EQ(content("Tbl_UserHW"), (Rows{u"11|61"_s, u"11|63"_s, u"12|63"_s}));
-}
-
-TEST_F(HWTest, AnEmptyListClearsItsOwnSideAlone)
-{
-    const Rows users = content("Tbl_UserHW");
-    hardware.addRooms(connection, 61, QList<int>(), false);
-    EXPECT_EQ(content("Tbl_UserHW"), users);
-    EXPECT_EQ(content("Tbl_SWHW").size(), 4);
-    hardware.addUsers(connection, 62, QList<int>());
-    EXPECT_EQ(content("Tbl_RoomHW").size(), 3);
-    hardware.addRooms(connection, 62, QList<int>(), true);
-    EXPECT_EQ(content("Tbl_RoomHW"), (Rows{u"81|64"_s, u"82|64"_s}));
-    EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"71|61"_s, u"72|61"_s, u"72|63"_s}));
-    hardware.addUsers(connection, 63, QList<int>());
-    EXPECT_EQ(content("Tbl_UserHW"), Rows{u"11|61"_s});
-}
-
-TEST_F(HWTest, AddSW_GivesTheItemItsOnlySoftware)
-{
-    hardware.addSW(connection, 61, QList<int>{75, 71});
-    EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"71|61"_s, u"72|63"_s, u"73|62"_s, u"75|61"_s}));
-    hardware.addSW(connection, 61, QList<int>());
-    EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"72|63"_s, u"73|62"_s}));
-}
-
-TEST_F(HWTest, Delete_LeavesTheRelationshipsBehind)
-{
-    const Rows behind = content("Tbl_RoomHW") + content("Tbl_SWHW");
-    hardware.Delete(connection, 62);
-    EXPECT_EQ(content("Tbl_HW").size(), 5);
-    EXPECT_EQ(content("Tbl_RoomHW") + content("Tbl_SWHW"), behind);
-    clsRooms rooms;
-    expectRows(rooms, {{"getHW", &clsRooms::getHW, 81, {hw64}}});
 }

@@ -1,10 +1,11 @@
 #include "platform/jet/errors.h"
 #include "store/clsUsers.h"
-#include "support/recordtest.h"
+#include "support/companytest.h"
 
 #include <limits>
 
 using namespace Qt::StringLiterals;
+using namespace company;
 
 namespace {
 
@@ -20,58 +21,17 @@ UserRecord account(const QString &name, const QString &server, int id = 0)
 }
 
 /// Every member different, so that a value in the wrong column shows.
+// clang-format off
 UserRecord fullRecord()
 {
-    UserRecord user;
-    user.UserID = 77;
-    user.UserName = u"jdoe"_s;
-    user.Password = u"secret"_s;
-    user.PasswordAge = u"30"_s;
-    user.Privilege = 2;
-    user.HomeDir = u"\\\\SRV01\\Home"_s;
-    user.Comment = u"a comment"_s;
-    user.FLAGS = 513;
-    user.NoChangePwd = 1;
-    user.NoExpirePwd = 0;
-    user.AccDisabled = 1;
-    user.AccLocked = 0;
-    user.ScriptPath = u"logon.bat"_s;
-    user.AuthFlags = 3;
-    user.FullName = u"Jörg Dœ"_s;
-    user.UserComment = u"user comment"_s;
-    user.Parms = u"parms"_s;
-    user.Workstations = u"WS1,WS2"_s;
-    user.LastLogon = u"1/15/2005 2:30:00 PM"_s;
-    user.LastLogoff = u"1/16/2005"_s;
-    user.AcctExpires = u"12/31/2010"_s;
-    user.MaxStorage = -1;
-    user.UnitsPerWeek = 168;
-    user.LogonHours = u"255"_s;
-    user.BadPwCount = 4;
-    user.NumLogons = 5;
-    user.LogonServer = u"\\\\*"_s;
-    user.CountryCode = 49;
-    user.CodePage = 850;
-    user.PrimaryGroupID = 513;
-    user.Profile = u"profile"_s;
-    user.HomeDirDrive = u"H:"_s;
-    user.PasswordExpired = 1;
-    user.ServerName = u"SRV01"_s;
-    user.SID = u"S-1-5"_s;
-    user.Salutation = u"Mr."_s;
-    user.Title = u"Dr."_s;
-    user.LastName = u"Doe"_s;
-    user.FirstName = u"Jörg"_s;
-    user.JobTitle = u"Admin"_s;
-    user.EmailAddress = u"j@example.com"_s;
-    user.Department = u"IT"_s;
-    user.CostCenter = u"5100"_s;
-    user.PhoneNumber = u"1"_s;
-    user.DirectDial = u"2"_s;
-    user.MobileNumber = u"3"_s;
-    user.Division = u"North"_s;
-    return user;
+    return {
+        77, u"jdoe"_s, u"secret"_s, u"30"_s, 2, u"\\\\SRV01\\Home"_s, u"a comment"_s, 513, 1, 0, 1, 0,
+        u"logon.bat"_s, 3, u"Jörg Dœ"_s, u"user comment"_s, u"parms"_s, u"WS1,WS2"_s,
+        u"1/15/2005 2:30:00 PM"_s, u"1/16/2005"_s, u"12/31/2010"_s, -1, 168, u"255"_s, 4, 5, u"\\\\*"_s, 49,
+        850, 513, u"profile"_s, u"H:"_s, 1, u"SRV01"_s, u"S-1-5"_s, u"Mr."_s, u"Dr."_s, u"Doe"_s, u"Jörg"_s,
+        u"Admin"_s, u"j@example.com"_s, u"IT"_s, u"5100"_s, u"1"_s, u"2"_s, u"3"_s, u"North"_s};
 }
+// clang-format on
 
 const QString fullRow =
     u"77|jdoe|secret|30|2|\\\\SRV01\\Home|a comment|513|True|False|True|False|logon.bat|3|"
@@ -80,6 +40,12 @@ const QString fullRow =
     "IT|5100|1|2|3|North"_s;
 
 class UsersTest : public RecordTest
+{
+protected:
+    clsUsers users;
+};
+
+class UserRelationsTest : public CompanyTest
 {
 protected:
     clsUsers users;
@@ -174,18 +140,6 @@ TEST_F(UsersTest, ApostropheIsRefusedByTheEngineInAddAndUpdate)
     EXPECT_EQ(rows(u"SELECT Comment FROM Tbl_Users"_s), Rows{u""_s});
 }
 
-TEST_F(UsersTest, Delete_TakesTheNamedUsersOnly)
-{
-    for (int id = 1; id <= 4; ++id) {
-        UserRecord user = account(u"user%1"_s.arg(id), u"SRV01"_s, id);
-        users.Add(connection, user);
-    }
-    users.Delete(connection, QList<int>{2, 4, 99});
-    EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users ORDER BY UserID"_s), (Rows{u"1"_s, u"3"_s}));
-    users.Delete(connection, QList<int>());
-    EXPECT_EQ(rows(u"SELECT COUNT(*) FROM Tbl_Users"_s), Rows{u"2"_s});
-}
-
 TEST_F(UsersTest, Import_ReplacesTheTableByTheNamedRemoteUsers)
 {
     UserRecord old = account(u"old"_s, u"SRV01"_s);
@@ -199,4 +153,48 @@ TEST_F(UsersTest, Import_ReplacesTheTableByTheNamedRemoteUsers)
     run(u"DROP TABLE Tbl_Users"_s);
     users.Import(connection);
     EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users"_s), Rows{u"7"_s});
+}
+
+TEST_F(UserRelationsTest, AddFoldersBatch_AddsMissingFoldersAndNamesTheImpossible)
+{
+    jet::Recordset records;
+    makeRecords(records, {u"Name"_s, u"Permission"_s},
+                {{u"D:\\Admin\\"_s, u"R"_s}, {u"D:\\It's\\"_s, u"R"_s}, {u"D:\\New\\"_s, u"CH"_s}});
+    QString failed = u"before,"_s;
+    users.addFoldersBatch(connection, u"anna"_s, records, failed);
+    EXPECT_EQ(failed, u"before,D:\\It's\\,"_s);
+    EXPECT_EQ(rows(u"SELECT FolderID, Permission FROM Tbl_UserFolderPermission WHERE UserID = 13 "
+                   "ORDER BY FolderID"_s),
+              (Rows{u"42|R"_s, u"43|R"_s, u"45|CH"_s}));
+    EXPECT_EQ(rows(u"SELECT ID, FolderName FROM Tbl_Folders WHERE ID > 44"_s), Rows{u"45|D:\\New\\"_s});
+
+    const CurrentError error =
+        errorOf([&] { users.addFoldersBatch(connection, u"nobody"_s, records, failed); });
+    EXPECT_EQ(error.number, RuleViolation);
+    EXPECT_EQ(error.description, u"The specified User does not exist in your Database"_s);
+}
+
+TEST_F(UserRelationsTest, AddFoldersBatch_EndsWhereTheFoldersAreGone)
+{
+    jet::Recordset records;
+    makeRecords(records, {u"Name"_s, u"Permission"_s}, {{u"D:\\New\\"_s, u"R"_s}});
+    run(u"DROP TABLE Tbl_Folders"_s);
+    const Rows before = content("Tbl_UserFolderPermission");
+    QString failed;
+    const CurrentError error =
+        errorOf([&] { users.addFoldersBatch(connection, u"anna"_s, records, failed); });
+    EXPECT_EQ(error.number, jet::MissingTable);
+    EXPECT_TRUE(error.description.contains(u"Tbl_Folders")) << error.description.toStdString();
+    EXPECT_EQ(failed, QString());
+    EXPECT_EQ(content("Tbl_UserFolderPermission"), before);
+}
+
+TEST_F(UserRelationsTest, TheIdOfTheNewestUserIsGivenAgainWithWhatStayedBehind)
+{
+    users.Delete(connection, QList<int>{13});
+    UserRecord next = account(u"dora"_s, u"SRV01"_s);
+    users.Add(connection, next);
+    EXPECT_EQ(next.UserID, 13);
+    EXPECT_EQ(rowsFrom([&](auto &result) { users.getGlobalGroups(connection, result, 13); }),
+              Rows{globalAdmins});
 }

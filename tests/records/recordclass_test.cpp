@@ -1,5 +1,4 @@
 #include "assets/clsHW.h"
-#include "assets/clsRooms.h"
 #include "folders/clsFolders.h"
 #include "platform/jet/errors.h"
 #include "store/clsGlobalGroups.h"
@@ -8,23 +7,11 @@
 #include "store/statement.h"
 #include "support/companytest.h"
 
-#include <functional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class RecordClassTest : public CompanyTest
-{
-protected:
-    clsUsers users;
-    clsGlobalGroups globalGroups;
-    clsLocalGroups localGroups;
-    clsFolders folders;
-    clsHW hardware;
-    clsRooms rooms;
-};
 
 /// The error that a method of a new object raises, which the object must keep.
 template <typename Records, typename Step>
@@ -39,7 +26,7 @@ CurrentError errorKeptOf(Step step)
 
 } // namespace
 
-TEST_F(RecordClassTest, AMissingStoreIsToldAndKept)
+TEST_F(CompanyTest, AMissingStoreIsToldAndKept)
 {
     const QString nowhere = jet::connectionString(folder.filePath(u"nowhere.kvs"_s));
     jet::Recordset records;
@@ -70,73 +57,7 @@ TEST_F(RecordClassTest, AMissingStoreIsToldAndKept)
     }
     EXPECT_EQ(text, QString());
     EXPECT_FALSE(QFile::exists(folder.filePath(u"nowhere.kvs"_s)));
-    EXPECT_NO_THROW(users.TestConnection(connection));
-}
-
-TEST_F(RecordClassTest, WhatWasDoneBeforeAFailureStays)
-{
-    const struct
-    {
-        const char *name;
-        const char *dropped;
-        std::function<void()> step;
-        const char *changed;
-        Rows left;
-    } cases[] = {
-        {"Items of a room",
-         "Tbl_SWHW",
-         [&] {
-             rooms.addHW(connection, 82, QList<int>{62, 61}, true);
-         },
-         "Tbl_RoomHW",
-         {u"81|64"_s, u"82|62"_s}},
-        {"An item of a room",
-         "Tbl_UserHW",
-         [&] { rooms.addHW(connection, 82, QList<int>{62}, false); },
-         "Tbl_RoomHW",
-         {u"81|64"_s}},
-        {"Rooms of an item",
-         "Tbl_UserHW",
-         [&] { hardware.addRooms(connection, 64, QList<int>{83}, false); },
-         "Tbl_RoomHW",
-         {u"81|62"_s}},
-        {"Delete of a room",
-         "Tbl_Rooms",
-         [&] { rooms.Delete(connection, 81); },
-         "Tbl_RoomUsers",
-         {u"82|12"_s, u"83|13"_s}},
-        {"Delete of global groups",
-         "Tbl_GlobalGroups",
-         [&] {
-             globalGroups.Delete(connection, QList<int>{21, 22});
-         },
-         "Tbl_LocalGroupsGlobalGroups",
-         {u"32|22"_s, u"33|23"_s}},
-        {"Delete of local groups",
-         "Tbl_LocalGroupFolderPermission",
-         [&] {
-             localGroups.Delete(connection, QList<int>{32, 33});
-         },
-         "Tbl_LocalGroupsGlobalGroups",
-         {u"31|21"_s, u"33|23"_s}},
-        {"Delete of folders",
-         "Tbl_LocalGroupFolderPermission",
-         [&] {
-             folders.Delete(connection, QList<int>{42, 41});
-         },
-         "Tbl_UserFolderPermission",
-         {u"11|44|R"_s, u"12|41|L"_s}},
-    };
-    for (const auto &c : cases) {
-        run("DROP TABLE "_L1 + QLatin1StringView(c.dropped));
-        EXPECT_EQ(errorOf(c.step).number, jet::MissingTable) << c.name;
-        EXPECT_EQ(content(c.changed), c.left) << c.name;
-        ASSERT_TRUE(QFile::remove(path));
-        CompanyTest::SetUp();
-    }
-    run(u"DROP TABLE Tbl_RoomHW"_s);
-    EXPECT_EQ(errorOf([&] { hardware.addUsers(connection, 61, QList<int>{13}); }).number, jet::MissingTable);
-    EXPECT_EQ(content("Tbl_UserHW"), (Rows{u"11|63"_s, u"12|63"_s})) << "cleared, nothing inserted";
+    EXPECT_NO_THROW(clsUsers().TestConnection(connection));
 }
 
 TEST(StatementTest, AValueIsNotLookedIntoForMarkers)

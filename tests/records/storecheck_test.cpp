@@ -1,16 +1,13 @@
 #include "store/storecheck.h"
 
-#include "base/error.h"
-#include "platform/jet/connection.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/inspection.h"
 #include "platform/jet/sqlitesetup.h"
 #include "sample/sampledata.h"
-#include "support/freshstore.h"
+#include "support/recordtest.h"
 
 #include <QDir>
 
-#include <gtest/gtest.h>
 #include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -117,7 +114,10 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-class StoreCheckTest : public testing::TestWithParam<Change>
+/// A new store by itself in its folder.
+using StoreCheck = RecordTest;
+
+class StoreCheckTest : public StoreCheck, public testing::WithParamInterface<Change>
 {
 };
 
@@ -125,9 +125,6 @@ class StoreCheckTest : public testing::TestWithParam<Change>
 
 TEST_P(StoreCheckTest, TellsEachDifferenceAndChangesNothing)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
-    makeFreshStore(path);
     runPastTheDialect(path, GetParam().sql);
     const QByteArray before = contentOf(path);
 
@@ -135,29 +132,26 @@ TEST_P(StoreCheckTest, TellsEachDifferenceAndChangesNothing)
 
     EXPECT_EQ(findings.join(u'\n').toStdString(), GetParam().findings.join(u'\n').toStdString());
     EXPECT_EQ(contentOf(path), before);
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"plan.mdb"_s});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"company.kvs"_s});
 }
 
 INSTANTIATE_TEST_SUITE_P(Changes, StoreCheckTest, testing::ValuesIn(changes),
                          [](const auto &info) { return std::string(info.param.name); });
 
-TEST(StoreCheck, KnowsEveryRelationshipOfTheSchema)
+TEST_F(StoreCheck, KnowsEveryRelationshipOfTheSchema)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
-    makeFreshStore(path);
     QStringList expected;
     {
-        jet::Connection connection;
-        connection.open(jet::connectionString(path));
-        for (const jet::StoredTable &table : jet::storedTables(connection)) {
+        jet::Connection opened;
+        opened.open(connection);
+        for (const jet::StoredTable &table : jet::storedTables(opened)) {
             const auto isId = [](const jet::StoredPart &column) {
                 return column.name.endsWith("ID"_L1) && column.definition == "LONG NOT NULL"_L1;
             };
             if (table.columns.size() < 2 || !isId(table.columns[0]) || !isId(table.columns[1]))
                 continue;
-            connection.execute("INSERT INTO "_L1 + table.name + " ("_L1 + table.columns[0].name + u',' +
-                               table.columns[1].name + ") VALUES (7, 8)"_L1);
+            opened.execute("INSERT INTO "_L1 + table.name + " ("_L1 + table.columns[0].name + u',' +
+                           table.columns[1].name + ") VALUES (7, 8)"_L1);
             expected.append(table.name + u' ' + table.columns[0].name);
             expected.append(table.name + u' ' + table.columns[1].name);
         }
@@ -171,11 +165,8 @@ TEST(StoreCheck, KnowsEveryRelationshipOfTheSchema)
     EXPECT_EQ(told.join(u'\n').toStdString(), expected.join(u'\n').toStdString());
 }
 
-TEST(StoreCheck, GoesOnWhereThereIsNoPlaceForAStoreToCompareWith)
+TEST_F(StoreCheck, GoesOnWhereThereIsNoPlaceForAStoreToCompareWith)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
-    makeFreshStore(path);
     runPastTheDialect(path, "INSERT INTO Tbl_RoomUsers VALUES (1, 5)");
     const QByteArray place = qgetenv("TMPDIR");
     qputenv("TMPDIR", QFile::encodeName(path)); // no folder
@@ -186,10 +177,9 @@ TEST(StoreCheck, GoesOnWhereThereIsNoPlaceForAStoreToCompareWith)
         << findings[0].toStdString();
 }
 
-TEST(StoreCheck, NamesBrokenPagesAndGoesOn)
+TEST_F(StoreCheck, NamesBrokenPagesAndGoesOn)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
+    ASSERT_TRUE(QFile::remove(path));
     createSampleStore(path, 200);
     QByteArray content = contentOf(path);
     constexpr qsizetype page = 4096;
@@ -205,15 +195,10 @@ TEST(StoreCheck, NamesBrokenPagesAndGoesOn)
     EXPECT_TRUE(findings.filter(u"is missing"_s).isEmpty()) << findings.join(u'\n').toStdString();
 }
 
-TEST(StoreCheck, RefusesWhatIsNoStore)
+TEST_F(StoreCheck, RefusesWhatIsNoStore)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("plan.mdb"_L1);
-    try {
-        (void)checkStore(path);
-        FAIL() << "a missing store was found in order";
-    } catch (const Error &error) {
-        EXPECT_EQ(error.number(), jet::Failure);
-        EXPECT_TRUE(error.description().contains("plan.mdb"_L1)) << error.what();
-    }
+    ASSERT_TRUE(QFile::remove(path));
+    const CurrentError error = errorOf([&] { (void)checkStore(path); });
+    EXPECT_EQ(error.number, jet::Failure);
+    EXPECT_TRUE(error.description.contains("company.kvs"_L1)) << error.description.toStdString();
 }

@@ -10,10 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <ostream>
-#include <type_traits>
-#include <variant>
 
 /// A row as text: its values with a bar between, Null as "-".
 using Rows = QStringList;
@@ -71,19 +68,14 @@ inline void makeRecords(jet::Recordset &records, const QStringList &names, const
     }
 }
 
-/// A reading method, the id it is asked for and the rows it must give.
-template <typename Records>
-struct Reading
+/// The fields of lines with bars between them.
+inline QList<QStringList> fieldsOf(const QStringList &lines)
 {
-    const char *name;
-    std::variant<void (Records::*)(const QString &, jet::Recordset &),
-                 void (Records::*)(const QString &, jet::Recordset &, int),
-                 void (Records::*)(const QString &, int, jet::Recordset &)>
-        reader;
-    int id;
-    Rows rows;
-    bool ordered = true;
-};
+    QList<QStringList> fields;
+    for (const QString &line : lines)
+        fields += line.split(u'|');
+    return fields;
+}
 
 /// A new, empty store for each test of the record classes.
 class RecordTest : public testing::Test
@@ -113,29 +105,6 @@ protected:
         Rows all = rows(QStringLiteral("SELECT * FROM ") + QLatin1StringView(table));
         all.sort();
         return all;
-    }
-
-    template <typename Records>
-    void expectRows(Records &records,
-                    std::type_identity_t<std::initializer_list<Reading<Records>>> readings) const
-    {
-        using OfAll = void (Records::*)(const QString &, jet::Recordset &);
-        using OfId = void (Records::*)(const QString &, jet::Recordset &, int);
-        for (Reading<Records> reading : readings) {
-            Rows given = rowsFrom([&](jet::Recordset &result) {
-                if (const auto *ofAll = std::get_if<OfAll>(&reading.reader))
-                    (records.**ofAll)(connection, result);
-                else if (const auto *ofId = std::get_if<OfId>(&reading.reader))
-                    (records.**ofId)(connection, result, reading.id);
-                else
-                    (records.*std::get<2>(reading.reader))(connection, reading.id, result);
-            });
-            if (!reading.ordered) {
-                given.sort();
-                reading.rows.sort();
-            }
-            EXPECT_EQ(given, reading.rows) << reading.name << ' ' << reading.id;
-        }
     }
 
     QTemporaryDir folder;

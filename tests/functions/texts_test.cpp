@@ -1,6 +1,7 @@
 #include "platform/jet/collation.h"
+#include "platform/jet/like.h"
 
-#include "sqltest.h"
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
@@ -20,30 +21,16 @@ struct Equality
     bool equal;
 };
 
+// clang-format off
 const Equality equalities[] = {
-    {"a", "A", true},
-    {"É", "é", true},
-    {"é", "e", false},
-    {"ЖУК", "жук", true},
-    {"ΣΟΦΌΣ", "σοφός", true},
-    {"Straße", "STRASSE", true},
-    {"STRAẞE", "strasse", true},
-    {"Æsir", "aesir", true},
-    {"þing", "THING", true},
-    {"œuvre", "Oeuvre", true},
-    {"øl", "ol", false},
-    {"e\u0301", "é", true}, // in two characters and in one
-    {"\u212B", "å", true},  // the sign of the angstrom
-    {"co-op", "coop", false},
-    {"O'Brien", "OBrien", false},
-    {"O'Brien", "o'brien", true},
-    {"a   ", "a", true},
-    {"   ", "", true},
-    {" a", "a", false},
-    {"a\t", "a", false},
-    {"", "a", false},
-    {"a\xff", "a\xfe", false},
+    {"a", "A", true}, {"É", "é", true}, {"é", "e", false}, {"ЖУК", "жук", true}, {"ΣΟΦΌΣ", "σοφός", true},
+    {"Straße", "STRASSE", true}, {"STRAẞE", "strasse", true}, {"Æsir", "aesir", true},
+    {"þing", "THING", true}, {"œuvre", "Oeuvre", true}, {"øl", "ol", false}, {"e\u0301", "é", true},
+    {"\u212B", "å", true}, {"co-op", "coop", false}, {"O'Brien", "OBrien", false},
+    {"O'Brien", "o'brien", true}, {"a   ", "a", true}, {"   ", "", true}, {" a", "a", false},
+    {"a\t", "a", false}, {"", "a", false}, {"a\xff", "a\xfe", false},
 };
+// clang-format on
 
 /// Each list stands in its order.
 const std::vector<std::vector<std::string>> orders = {
@@ -63,38 +50,13 @@ const std::vector<std::vector<std::string>> orders = {
 
 std::string randomText(std::mt19937 &random)
 {
+    // clang-format off
     static const std::vector<std::string> pieces = {
-        "a",
-        "A",
-        "b",
-        "ss",
-        "ß",
-        "é",
-        "e",
-        "e\u0301",
-        "\u0301",
-        "'",
-        "-",
-        " ",
-        "  ",
-        "1",
-        "!",
-        "_",
-        "æ",
-        "ae",
-        "Ω",
-        "ω",
-        "я",
-        "漢",
-        "\xff",
-        "\xc3",
-        "\xf0\x9f\x98\x80",
-        "\xed\xa0\x80",
-        std::string(1, '\0'),
-        "\t",
-        "’",
-        "Ǽ",
+        "a", "A", "b", "ss", "ß", "é", "e", "e\u0301", "\u0301", "'", "-", " ", "  ", "1", "!", "_", "æ",
+        "ae", "Ω", "ω", "я", "漢", "\xff", "\xc3", "\xf0\x9f\x98\x80", "\xed\xa0\x80", std::string(1, '\0'),
+        "\t", "’", "Ǽ",
     };
+    // clang-format on
     std::string text;
     for (auto count = random() % 6; count > 0; --count)
         text += pieces[random() % pieces.size()];
@@ -105,8 +67,6 @@ std::string bytes(const std::string &text)
 {
     return testing::PrintToString(text);
 }
-
-using CollationTest = SqlTest;
 
 } // namespace
 
@@ -151,13 +111,24 @@ TEST(FoldCase, FoldsAllLettersAndKeepsBrokenBytes)
     EXPECT_EQ(jet::foldCase("A\xff\xc3Z"), "a\xff\xc3z");
 }
 
-TEST_F(CollationTest, GroupsAndFindsThroughAnIndex)
+TEST(LikePattern, ReadsTextsBeyondTheShortOnes)
 {
-    execute("CREATE TABLE t (name TEXT COLLATE JET);"
-            "CREATE INDEX i ON t (name);"
-            "INSERT INTO t VALUES ('Müller'), ('MÜLLER'), ('müller  '), ('Muller'), ('Ärger'), ('adams'), "
-            "('Bauer')");
-    EXPECT_EQ(values("SELECT count(*) FROM t GROUP BY name ORDER BY name"), "1 1 1 1 3");
-    EXPECT_EQ(values("SELECT count(*) FROM t WHERE name = 'mÜller'"), "3");
-    EXPECT_EQ(values("SELECT name FROM t WHERE name BETWEEN 'a' AND 'b'"), "adams Ärger");
+    const std::string filler(5000, 'x');
+    EXPECT_TRUE(jet::LikePattern("%needle%").matches(filler + "NEEDLE" + filler));
+    EXPECT_TRUE(jet::LikePattern("x%NEEDL_").matches(filler + "needle"));
+    EXPECT_FALSE(jet::LikePattern("%needle%").matches(filler + "needl" + filler));
+    EXPECT_TRUE(jet::LikePattern("a_c").matches("a\xff"
+                                                "c"))
+        << "a byte that is no character";
+}
+
+TEST(LikePattern, NeverTriesEveryWay)
+{
+    // Each % could end anywhere; trying all of them would outlast the test.
+    std::string pattern = "%";
+    for (int i = 0; i < 40; ++i)
+        pattern += "a%_%";
+    pattern += "b";
+    EXPECT_FALSE(jet::LikePattern(pattern).matches(std::string(20000, 'a')));
+    EXPECT_TRUE(jet::LikePattern(pattern).matches(std::string(20000, 'a') + 'b'));
 }
