@@ -5,6 +5,7 @@
 #include "assets/modRooms.h"
 #include "assets/modSW.h"
 #include "base/error.h"
+#include "exchange/modExport.h"
 #include "folders/modFolders.h"
 #include "messages/status.h"
 #include "platform/desktop/desktop.h"
@@ -53,6 +54,7 @@ void registerFamilies()
     registerHandlers(modRooms::handlers());
     registerHandlers(modSW::handlers());
     registerHandlers(modCustomQuery::handlers());
+    registerHandlers(modExport::handlers());
     modGlobalGroups::registerImports();
     modLocalGroups::registerImports();
     modUsers::registerImports();
