@@ -51,8 +51,7 @@ void fill(jet::Recordset &records, int rows)
 void addBatch(const QString &store, jet::Recordset &records, int expectedNew, int expectedUpdated)
 {
     NoSteps steps;
-    const UserBatchReport report =
-        clsUsers().AddBatchFromFile(jet::connectionString(store), records, false, steps);
+    const Report report = clsUsers().AddBatchFromFile(jet::connectionString(store), records, false, steps);
     if (report.added != expectedNew || report.updated != expectedUpdated || report.failed != 0)
         throwError(1, "The batch failed: "_L1 + report.text.left(200));
 }

@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "base/errornumbers.h"
+#include "exchange/modImport.h"
 #include "platform/jet/connection.h"
 #include "platform/jet/recordset.h"
 #include "session/modRegistry.h"
@@ -72,12 +73,13 @@ void ImportFile(benchmark::State &state)
     setMessageBoxHandler([](QWidget *, const QString &, int flags) {
         return (flags & box::YesNoCancel) == box::YesNoCancel ? box::ResultNo : box::ResultOk;
     });
+    modUsers::registerImports();
     for (auto _ : state) {
         const QString store = workbench::emptyStore();
         modRegistry::saveDataBase(store);
         forgetPeak();
         const double before = ownMemory("VmRSS:");
-        workbench::measure(state, [&] { modUsers::importUsersFromFile(nullptr, file); });
+        workbench::measure(state, [&] { modImport::importFile(nullptr, u"Users (Root Data)"_s, file); });
         state.counters["bytes"] = ownMemory("VmHWM:") - before;
         expectUsers(store, lines);
         workbench::removeStore(store);

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <vector>
+
 /// What long work tells of itself, and where it is told to stop. The work knows no windows: it takes Steps
 /// and returns what it has done (see Report).
 ///
@@ -50,7 +52,18 @@ struct Report
     enum class End { Finished, Cancelled, Lost };
 
     int done = 0;
+    int added = 0;   ///< new in the store; counted by batches that write objects
+    int updated = 0; ///< known before and changed, counted by the same
     int failed = 0;
     End end = End::Finished;
-    QString text; ///< a line or more for each item that failed, and why the store was lost
+    QString text = {}; ///< a line or more for each item that failed, without a heading
+    QString note = {}; ///< why it ended before the last item, and what is not in the store
+    /// The places of the items that a batch did not write, from 0, ascending.
+    std::vector<int> refused = {};
+};
+
+/// What a batch does about an item that the store refuses.
+enum class AtFailure {
+    Raise, ///< ends and raises it; what was written before stays
+    GoOn,  ///< has a line of the report about it and takes the next
 };

@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStandardItemModel>
 
 using namespace Qt::StringLiterals;
 
@@ -74,17 +73,6 @@ frmImport::frmImport(QWidget *owner)
 void frmImport::OK()
 {
     modImport::startImport(this, cboImportType->currentText(), txtFileName->text());
-}
-
-void frmImport::addType(const QString &name, const QString &whyNot)
-{
-    cboImportType->addItem(name);
-    if (whyNot.isEmpty())
-        return;
-    auto *model = qobject_cast<QStandardItemModel *>(cboImportType->model());
-    QStandardItem *item = model->item(model->rowCount() - 1);
-    item->setEnabled(false);
-    item->setToolTip(whyNot);
 }
 
 void frmImport::arrange()

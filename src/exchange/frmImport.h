@@ -28,9 +28,6 @@ public:
     QPushButton *cmdOK;
     QPushButton *cmdCancel;
 
-    /// A reason makes it a type that is shown and cannot be chosen.
-    void addType(const QString &name, const QString &whyNot);
-
     /// Runs the chosen import.
     void OK();
 

@@ -1,42 +1,38 @@
 #pragma once
 
+#include "base/steps.h"
+
 #include <QLatin1StringView>
 #include <QString>
-#include <QStringView>
-
-#include <span>
 
 class QWidget;
+
+namespace jet {
+class Recordset;
+}
 
 /// The import of text files into the store.
 namespace modImport {
 
-struct ImportType
-{
-    QLatin1StringView name;   ///< as the user picks it
-    QLatin1StringView format; ///< what the information button shows
-};
+/// Writes the good lines of a file, records with the fields of their format, by one batch.
+using Writer = Report (*)(const QString &connectionString, jet::Recordset &lines, bool leaveExisting,
+                          Steps &steps);
 
-/// Reads the file into the store and reports to the owner. Raises nothing.
-using Reader = void (*)(QWidget *owner, const QString &path);
-
-/// Called by the families at start, with the name of a type. A type without a reader cannot be chosen.
-void registerReader(QLatin1StringView typeName, Reader reader);
-
-/// In the order in which they are offered.
-[[nodiscard]] std::span<const ImportType> importTypes();
-/// Nothing for a text that names no type.
-[[nodiscard]] const ImportType *importType(QStringView name);
+/// Called by the families at start, with the name of a type.
+void registerWriter(QLatin1StringView type, Writer writer);
 
 /// Opens the dialog, modal to the owner.
 void showImport(QWidget *owner);
 
-/// The Import button: refuses what is incomplete, asks, and runs the reader of the type,
-/// which reports by itself.
-void startImport(QWidget *owner, const QString &typeName, const QString &path);
+/// The Import button: refuses what is incomplete, asks, and imports the file.
+void startImport(QWidget *owner, const QString &type, const QString &path);
+/// Asks whether known objects are to be updated where the type can, reads the file, writes its good lines to
+/// the store and reports. Nothing is read when the question is cancelled, nothing is written when the reading
+/// is. Raises nothing.
+void importFile(QWidget *owner, const QString &type, const QString &path);
 /// Hands the file to the program that the user opens such files with.
 void previewFile(QWidget *owner, const QString &path);
 /// Shows the format of the type in the result window.
-void showFormat(QWidget *owner, const QString &typeName);
+void showFormat(QWidget *owner, const QString &type);
 
 } // namespace modImport

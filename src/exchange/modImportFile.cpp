@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 chunkSize = 64 * 1024;
+// The good lines are in memory until all are read.
+constexpr qint64 largestFile = 512 * 1024 * 1024;
 constexpr qsizetype longestLine = 1024 * 1024;
 
 [[noreturn]] void refuse(const QString &path, const QString &reason)
@@ -42,6 +44,8 @@ LineStream::Encoding encodingByBeginning(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         refuse(path, file.errorString());
+    if (file.size() > largestFile)
+        refuse(path, u"It is larger than %1 MB. Import it in parts."_s.arg(largestFile / (1024 * 1024)));
     const QByteArray beginning = file.read(chunkSize);
     const LineStream::Encoding marked = QStringConverter::encodingForData(beginning);
     return marked ? marked : alternatingEncoding(beginning);

@@ -1,5 +1,6 @@
 #include "exchange/modImportSteps.h"
 
+#include "base/text.h"
 #include "exchange/modImportFile.h"
 #include "messages/showresult.h"
 #include "toolkit/messagebox.h"
@@ -11,33 +12,28 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int stepsOfAPhase = 100;
+constexpr auto paragraph = "\r\n\r\n"_L1;
 constexpr auto cancelled = "The Import was cancelled. What was written stays in the Database."_L1;
 constexpr auto lost = "The Import was broken off because the Database can no longer be written."_L1;
-constexpr auto resultTitle = "Import/Export Result"_L1;
 
 constexpr qsizetype longestField = 255;
+// The result window lays out every line of its text.
+constexpr int mostFaults = 10'000;
 
-QString faultOf(const modImportSteps::Fields &fields, const modImportSteps::LineFormat &format)
+QString countOf(const QString &what, int count)
 {
-    for (std::size_t i = 0; i < format.whenEmpty.size(); ++i) {
-        if (qsizetype(i) >= fields.size() || fields[qsizetype(i)].isEmpty())
-            return format.whenEmpty[i];
-    }
-    if (fields.size() < format.leastFields)
-        return u"Fields missing on Line "_s;
-    for (const QStringView field : fields.first(format.leastFields)) {
-        if (field.size() > longestField)
-            return u"Field longer than %1 Characters on Line "_s.arg(longestField);
-        if (field.contains(QChar::Null))
-            return u"Field with a Null Character on Line "_s;
-    }
-    return {};
+    constexpr qsizetype labelWidth = 24;
+    const QString label = what + u':';
+    return label.leftJustified(labelWidth) + QString::number(count) + "\r\n"_L1;
 }
 
-QString errorReport(const QString &path, const QString &fileErrors, const QString &batchErrors)
+/// What was done until the import ended early.
+QString countsOf(const ImportFormat &format, const Report &report)
 {
-    return "Following Errors were encountered in File\r\n"_L1 + path + "\r\n\r\n"_L1 + fileErrors +
-           "\r\n\r\n"_L1 + batchErrors;
+    const QString done = format.updates ? countOf("New "_L1 + format.objects, report.added) +
+                                              countOf("Updated "_L1 + format.objects, report.updated)
+                                        : countOf("Written "_L1 + format.objects, report.done);
+    return done + countOf(u"Errors encountered"_s, report.failed);
 }
 
 } // namespace
@@ -63,47 +59,144 @@ int strideOf(int total)
     return std::max(1, total / stepsOfAPhase);
 }
 
-FileReport readLines(const QString &path, const LineFormat &format, Steps &steps,
-                     const std::function<void(const Fields &)> &take)
+ImportLines::ImportLines(const ImportFormat &format) : m_format(format)
 {
-    FileReport report;
+    for (const ImportField &field : format.fields)
+        m_records.fields().append(field.name, jet::FieldType::VarChar, longestField);
+    if (!format.idField.isEmpty())
+        m_records.fields().append(format.idField, jet::FieldType::VarChar, longestField);
+    m_records.open();
+}
+
+void ImportLines::add(int number, const QString &line, bool isCut)
+{
+    if (line.isEmpty())
+        return;
+    if (isCut)
+        return addFault(number, u"Line too long on Line "_s);
+    const Fields fields = QStringView(line).split(u';');
+    const QString fault = faultOf(fields);
+    if (fault.isEmpty())
+        return addRecord(number, line, fields);
+    addFault(number, fault);
+    m_refused.emplace(number, line.toUtf8());
+}
+
+QString ImportLines::faultOf(const Fields &fields) const
+{
+    const auto count = std::min(qsizetype(m_format.fields.size()), fields.size());
+    for (std::size_t i = 0; i < m_format.fields.size(); ++i) {
+        const ImportField &field = m_format.fields[i];
+        const QStringView value = fields.value(qsizetype(i));
+        if (value.isEmpty() && !field.whenEmpty.isEmpty())
+            return field.whenEmpty;
+        if (!field.words.empty() &&
+            std::ranges::none_of(field.words, [&](QLatin1StringView word) { return value == word; }))
+            return field.whenNoWord;
+    }
+    for (const QStringView value : fields.first(count)) {
+        if (value.size() > longestField)
+            return u"Field longer than %1 Characters on Line "_s.arg(longestField);
+        if (value.contains(QChar::Null))
+            return u"Field with a Null Character on Line "_s;
+    }
+    return {};
+}
+
+void ImportLines::addFault(int number, const QString &fault)
+{
+    if (++m_faults <= mostFaults)
+        m_errors += "\r\n"_L1 + fault + QString::number(number);
+}
+
+void ImportLines::addRecord(int number, const QString &line, const Fields &fields)
+{
+    const int count = int(m_format.fields.size());
+    bool isOdd = fields.size() != count;
+    m_records.addNew();
+    for (int i = 0; i < count; ++i) {
+        QString value = fields.value(i).toString();
+        if (m_format.fields[std::size_t(i)].isEscaped && value.contains(u'\'')) {
+            value = escapeQuotes(value);
+            isOdd = true;
+        }
+        m_records.fields().item(i).setValue(value);
+    }
+    if (!m_format.idField.isEmpty())
+        m_records.fields().item(count).setValue(u"0"_s);
+    if (isOdd)
+        m_oddLines.set(m_numbers.size(), QStringView(line));
+    m_numbers.push_back(number);
+}
+
+void ImportLines::refuse(int record)
+{
+    m_refused.emplace(m_numbers[std::size_t(record)], lineOf(record));
+}
+
+QByteArray ImportLines::lineOf(int record) const
+{
+    const auto row = std::size_t(record);
+    const auto bytes = [](QUtf8StringView text) { return QByteArrayView(text.data(), text.size()); };
+    if (!m_oddLines.isNull(row))
+        return bytes(m_oddLines.view(row)).toByteArray();
+    QByteArray line;
+    for (int i = 0; i < int(m_format.fields.size()); ++i) {
+        if (i > 0)
+            line += ';';
+        line += bytes(m_records.texts(i)->view(row));
+    }
+    return line;
+}
+
+QString ImportLines::errors() const
+{
+    const int more = m_faults - mostFaults;
+    return more > 0 ? m_errors + u"\r\nand %1 more Line(s)"_s.arg(more) : m_errors;
+}
+
+QByteArray ImportLines::refused() const
+{
+    QByteArray text;
+    for (const auto &[number, line] : m_refused)
+        text += line + "\r\n";
+    return text;
+}
+
+bool readLines(const QString &path, ImportLines &lines, Steps &steps)
+{
     ImportFile file(path);
     steps.phase(u"Reading Data from File. Please Wait."_s, file.lineCount(), strideOf(file.lineCount()));
     QString line;
     for (int number = 1; file.readLine(line); ++number) {
-        const Fields fields = QStringView(line).split(u';');
-        if (!steps.step(fields.front().toString())) {
-            report.isCancelled = true;
-            break;
-        }
-        const QString fault = file.isLineCut() ? u"Line too long on Line "_s : faultOf(fields, format);
-        if (fault.isEmpty())
-            take(fields);
-        else
-            report.errors += "\r\n"_L1 + fault + QString::number(number);
+        if (!steps.step(line.left(line.indexOf(u';'))))
+            return false;
+        lines.add(number, line, file.isLineCut());
     }
-    return report;
+    return true;
 }
 
-void reportImport(QWidget *owner, const QString &path, const ImportReport &report, const QString &success)
+void reportImport(QWidget *owner, const QString &path, const ImportFormat &format, const Report &report,
+                  const ImportLines &lines)
 {
-    const bool hasErrors = !report.fileErrors.isEmpty() || !report.batchErrors.isEmpty();
+    const QString fileErrors = lines.errors();
+    const bool hasErrors = !fileErrors.isEmpty() || !report.text.isEmpty();
     const bool isFinished = report.end == Report::End::Finished;
     if (isFinished && !hasErrors) {
-        messageBox(owner, success, box::Ok | box::InformationIcon);
+        messageBox(owner, format.success, box::Ok | box::InformationIcon);
         return;
     }
     QString text;
     if (!isFinished) {
-        text = (report.end == Report::End::Lost ? lost : cancelled) +
-               u"\r\n\r\nNew Users:     \t\t%1\r\nUpdated Users: \t\t%2\r\nErrors encountered: \t%3\r\n\r\n"_s
-                   .arg(report.added)
-                   .arg(report.updated)
-                   .arg(report.failed);
+        text = (report.end == Report::End::Lost ? lost : cancelled) + paragraph;
+        if (!report.note.isEmpty())
+            text += report.note + paragraph;
+        text += countsOf(format, report) + "\r\n"_L1;
     }
     if (hasErrors)
-        text += errorReport(path, report.fileErrors, report.batchErrors);
-    showResult(owner, text, resultTitle);
+        text += "Following Errors were encountered in File\r\n"_L1 + path + paragraph + fileErrors +
+                paragraph + (report.text.isEmpty() ? QString() : format.failureHeading + report.text);
+    showResult(owner, text, u"Import/Export Result"_s, {u"Save &refused lines..."_s, lines.refused()});
 }
 
 } // namespace modImportSteps

@@ -1,19 +1,21 @@
 #pragma once
 
 #include "base/steps.h"
+#include "base/textcolumn.h"
+#include "exchange/modImportFormats.h"
+#include "platform/jet/recordset.h"
 
 #include <QList>
 #include <QString>
 #include <QStringView>
 
-#include <functional>
+#include <map>
 #include <optional>
-#include <span>
+#include <vector>
 
 class QWidget;
 
-/// The steps that the imports from a file share. A reader asks its question, reads and
-/// checks the lines, hands what is good to one batch and reports.
+/// The steps of every import from a file: the question, the lines with their checks, the report.
 namespace modImportSteps {
 
 /// Whether known objects are left as they are; nothing when the user cancels.
@@ -22,40 +24,49 @@ namespace modImportSteps {
 /// The stride that shows about a hundred items of a phase, so that showing them costs less than the work.
 [[nodiscard]] int strideOf(int total);
 
-/// What a good line is.
-struct LineFormat
+/// The lines of a file: the good ones as the records of a batch, of the others what is wrong with them.
+/// Any line can be had as it stood, except one too long to be kept.
+class ImportLines final
 {
-    std::span<const QLatin1StringView> whenEmpty; ///< a message for each of the first fields
-    qsizetype leastFields;
+public:
+    explicit ImportLines(const ImportFormat &format);
+
+    /// The next line of the file, without its end.
+    void add(int number, const QString &line, bool isCut);
+    /// The batch has refused a record, by its place from 0.
+    void refuse(int record);
+
+    /// All fields text.
+    [[nodiscard]] jet::Recordset &records() { return m_records; }
+    /// A line for each bad one, with its number, in front a line end; of very many the first.
+    [[nodiscard]] QString errors() const;
+    /// The refused lines in the order of the file, UTF-8.
+    [[nodiscard]] QByteArray refused() const;
+
+private:
+    using Fields = QList<QStringView>;
+
+    [[nodiscard]] QString faultOf(const Fields &fields) const;
+    void addRecord(int number, const QString &line, const Fields &fields);
+    void addFault(int number, const QString &fault);
+    [[nodiscard]] QByteArray lineOf(int record) const;
+
+    const ImportFormat &m_format;
+    jet::Recordset m_records;
+    std::vector<int> m_numbers; ///< of the lines of the records
+    TextColumn m_oddLines;      ///< by record, where the fields do not give the line
+    QString m_errors;
+    int m_faults = 0;
+    std::map<int, QByteArray> m_refused; ///< by number
 };
 
-using Fields = QList<QStringView>;
-
-/// What came of the lines of a file.
-struct FileReport
-{
-    bool isCancelled = false;
-    QString errors; ///< a line for each bad one, with its number
-};
-
-/// Splits each line at its semicolons and hands the good ones over, in the order of the file. Raises
-/// FileAccessError.
-[[nodiscard]] FileReport readLines(const QString &path, const LineFormat &format, Steps &steps,
-                                   const std::function<void(const Fields &)> &take);
-
-/// The end of an import, of its lines and of the batch that wrote them.
-struct ImportReport
-{
-    Report::End end = Report::End::Finished;
-    int added = 0;
-    int updated = 0;
-    int failed = 0;
-    QString fileErrors;
-    QString batchErrors;
-};
+/// Reads all lines of the file. False when the user has cancelled. Raises FileAccessError.
+[[nodiscard]] bool readLines(const QString &path, ImportLines &lines, Steps &steps);
 
 /// The success text in a box when the import ran to its end and neither the lines nor the batch had errors,
-/// otherwise the result window: why it ended early and what it did until then, and both kinds of errors.
-void reportImport(QWidget *owner, const QString &path, const ImportReport &report, const QString &success);
+/// otherwise the result window: why it ended early and what it did until then, and both kinds of errors. It
+/// offers to save the refused lines.
+void reportImport(QWidget *owner, const QString &path, const ImportFormat &format, const Report &report,
+                  const ImportLines &lines);
 
 } // namespace modImportSteps

@@ -130,18 +130,23 @@ QString writePermission(HeldBack &store, const FolderPermission &item)
     return line(item.account(), unknownAccount);
 }
 
-/// Whether the folder is in the store now.
-bool writeFolder(HeldBack &store, const QString &path, const QString &description, bool keepExisting)
+/// Whether the folder is in the store now; counts what was written.
+bool writeFolder(HeldBack &store, const QString &path, const QString &description, bool keepExisting,
+                 Report &report)
 {
     const std::optional<Value> known =
         store.scalar(joined("SELECT * FROM Tbl_Folders WHERE FolderName ='{path}'"_L1, {{"path"_L1, path}}));
     if (!known)
         return false; // an insert could be the second of its path
-    if (known->isNull())
-        return store.execute(insertFolder(path, description));
-    return keepExisting ||
-           store.execute(joined("UPDATE Tbl_Folders SET Description ='{description}' WHERE ID ={id}"_L1,
-                                {{"description"_L1, description}, {"id"_L1, known->toText()}}));
+    if (!known->isNull() && keepExisting)
+        return true;
+    const bool written =
+        known->isNull()
+            ? store.execute(insertFolder(path, description))
+            : store.execute(joined("UPDATE Tbl_Folders SET Description ='{description}' WHERE ID ={id}"_L1,
+                                   {{"description"_L1, description}, {"id"_L1, known->toText()}}));
+    (known->isNull() ? report.added : report.updated) += written ? 1 : 0;
+    return written;
 }
 
 /// Takes the complaint about an item into the report.
@@ -158,19 +163,21 @@ Report clsFolders::AddBatch(const QString &connectionString, const QStringList &
 {
     Q_ASSERT(paths.size() == descriptions.size());
     Report report;
-    runBatch(connectionString, steps, report, {&report.done}, [&](BatchRun &run) {
-        run.expect(int(paths.size()), paths.isEmpty() ? QString() : folderPath(paths.last()));
-        for (qsizetype i = 0; i < paths.size(); ++i) {
-            const QString path = folderPath(paths[i]);
-            const bool goesOn = run.item(path, [&](StoreSession &session) {
-                HeldBack store(session);
-                const bool written = writeFolder(store, path, descriptions.value(i), keepExisting);
-                take(report, written ? QString() : line(path, notAdded));
-            });
-            if (!goesOn)
-                break;
-        }
-    });
+    runBatch(connectionString, steps, report, {&report.done, &report.added, &report.updated},
+             [&](BatchRun &run) {
+                 run.expect(int(paths.size()), paths.isEmpty() ? QString() : folderPath(paths.last()));
+                 for (qsizetype i = 0; i < paths.size(); ++i) {
+                     const QString path = folderPath(paths[i]);
+                     const bool goesOn = run.item(path, [&](StoreSession &session) {
+                         HeldBack store(session);
+                         const bool written =
+                             writeFolder(store, path, descriptions.value(i), keepExisting, report);
+                         take(report, written ? QString() : line(path, notAdded));
+                     });
+                     if (!goesOn)
+                         break;
+                 }
+             });
     return report;
 }
 

@@ -8,4 +8,7 @@ namespace modFolders {
 
 [[nodiscard]] std::span<const OpRow> handlers();
 
+/// The imports of folders and their permissions from files. Called once at start.
+void registerImports();
+
 } // namespace modFolders

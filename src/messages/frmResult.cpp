@@ -1,20 +1,15 @@
 #include "messages/frmResult.h"
 
-#include "base/error.h"
-#include "base/errornumbers.h"
-#include "base/text.h"
 #include "messages/guard.h"
+#include "messages/savefile.h"
 #include "session/identity.h"
 #include "toolkit/banner.h"
 #include "toolkit/imagelist.h"
-#include "toolkit/messagebox.h"
 
-#include <QFile>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QSaveFile>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +31,7 @@ frmResult::frmResult(QWidget *owner)
     , txtResult(new QPlainTextEdit)
     , mnuFile(menuBar()->addMenu(u"&File"_s))
     , mnuFileSave(mnuFile->addAction(u"&Save"_s))
+    , mnuFileSaveAttachment(mnuFile->addAction(QString()))
     , mnuExit(mnuFile->addAction(u"&Exit"_s))
 {
     setObjectName("frmResult"_L1);
@@ -50,6 +46,8 @@ frmResult::frmResult(QWidget *owner)
     txtResult->setTabStopDistance(tabCharacters * txtResult->fontMetrics().horizontalAdvance(u' '));
     mnuFile->setObjectName("mnuFile"_L1);
     mnuFileSave->setObjectName("mnuFileSave"_L1);
+    mnuFileSaveAttachment->setObjectName("mnuFileSaveAttachment"_L1);
+    mnuFileSaveAttachment->setVisible(false);
     mnuExit->setObjectName("mnuExit"_L1);
     mnuFileSave->setShortcut(QKeySequence::Save);
     mnuExit->setShortcut(Qt::Key_Escape);
@@ -65,38 +63,41 @@ frmResult::frmResult(QWidget *owner)
     txtResult->setFocus();
 
     connect(mnuFileSave, &QAction::triggered, this, [this] { guarded(this, [this] { Save(); }); });
+    connect(mnuFileSaveAttachment, &QAction::triggered, this,
+            [this] { guarded(this, [this] { SaveAttachment(); }); });
     connect(mnuExit, &QAction::triggered, this, &QWidget::close);
 }
 
-void frmResult::setResult(const QString &text, const QString &title)
+void frmResult::setResult(const QString &text, const QString &title, const ResultAttachment &attachment)
 {
     setWindowTitle(mainCaption());
     LblInfo->setText(title);
     m_text = text;
     txtResult->setPlainText(text);
+    m_attachment = attachment.text;
+    mnuFileSaveAttachment->setText(attachment.menuText);
+    mnuFileSaveAttachment->setVisible(!m_attachment.isEmpty());
 }
 
 void frmResult::Save()
 {
+    save(resultText().toUtf8());
+}
+
+void frmResult::SaveAttachment()
+{
+    save(m_attachment);
+}
+
+void frmResult::save(const QByteArray &bytes)
+{
     Dialog.filter = u"*.txt | *.txt"_s;
-    if (!attempt([this] { Dialog.showSave(this); })) {
-        if (currentError().number != CancelError)
-            throwError(currentError().number, currentError().description);
+    const std::optional<QString> name = askSaveFile(this, Dialog);
+    if (!name)
         return;
-    }
-    const QString name = Dialog.fileName;
-    if (QFile::exists(name)) {
-        const QString question = fillMarker(u"The File $ already exists. Overwrite?"_s, name);
-        if (messageBox(this, question, box::YesNo | box::WarningIcon) != box::ResultYes)
-            return;
-    }
-    // Written beside and renamed, so that a full disk leaves the old file.
-    QSaveFile file(name);
-    file.setDirectWriteFallback(true); // in a folder where nothing can be added
-    const QByteArray bytes = resultText().toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throwError(FileAccessError,
-                   "The File '"_L1 % name % "' could not be written: "_L1 % file.errorString());
+    SaveFile file(*name);
+    file.write(bytes);
+    file.commit();
 }
 
 // The edit keeps lines, not line breaks: a text that nobody changed is saved as it came.

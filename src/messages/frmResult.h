@@ -1,5 +1,6 @@
 #pragma once
 
+#include "messages/showresult.h"
 #include "toolkit/commondialog.h"
 
 #include <QMainWindow>
@@ -25,16 +26,22 @@ public:
     CommonDialog Dialog;
     QMenu *mnuFile;
     QAction *mnuFileSave;
+    QAction *mnuFileSaveAttachment;
     QAction *mnuExit;
 
-    void setResult(const QString &text, const QString &title);
+    /// The menu offers to save the attachment where there is one.
+    void setResult(const QString &text, const QString &title, const ResultAttachment &attachment = {});
 
     /// Asks for a file and writes the text into it as UTF-8. Raises FileAccessError for a file that
     /// cannot be written, which keeps its old contents.
     void Save();
+    /// The same for the attachment.
+    void SaveAttachment();
 
 private:
     [[nodiscard]] QString resultText() const;
+    void save(const QByteArray &bytes);
 
     QString m_text;
+    QByteArray m_attachment;
 };

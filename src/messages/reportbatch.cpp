@@ -16,11 +16,13 @@ constexpr auto lostText = "The Operation was broken off because the Database can
 void reportBatch(QWidget *owner, const Report &report, const QString &failureHeading)
 {
     const bool isLost = report.end == Report::End::Lost;
-    if (report.text.isEmpty() && !isLost) {
+    if (report.text.isEmpty() && report.note.isEmpty() && !isLost) {
         messageBox(owner, u"The Operation was completed successfully"_s, box::InformationIcon);
         return;
     }
     QString text = isLost ? lostText % paragraph : QString();
+    if (!report.note.isEmpty())
+        text += report.note % paragraph;
     if (!report.text.isEmpty())
         text += failureHeading % paragraph % report.text;
     showResult(owner, text, u"Import/Export Result"_s);

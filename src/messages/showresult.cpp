@@ -48,7 +48,7 @@ void place(QWidget &window, const QWidget *owner)
 
 } // namespace
 
-void showResult(QWidget *owner, const QString &text, const QString &title)
+void showResult(QWidget *owner, const QString &text, const QString &title, const ResultAttachment &attachment)
 {
     static QPointer<frmResult> window;
     const bool isNew = !window;
@@ -57,7 +57,7 @@ void showResult(QWidget *owner, const QString &text, const QString &title)
     giveTo(window, owner ? owner->window() : nullptr);
     if (isNew)
         place(*window, window->parentWidget());
-    window->setResult(text, title);
+    window->setResult(text, title, attachment);
     window->show();
     window->raise();
     window->activateWindow();

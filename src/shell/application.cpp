@@ -5,7 +5,7 @@
 #include "assets/modRooms.h"
 #include "assets/modSW.h"
 #include "base/error.h"
-#include "exchange/modImport.h"
+#include "exchange/modExport.h"
 #include "folders/modFolders.h"
 #include "messages/status.h"
 #include "platform/desktop/desktop.h"
@@ -54,7 +54,11 @@ void registerFamilies()
     registerHandlers(modRooms::handlers());
     registerHandlers(modSW::handlers());
     registerHandlers(modCustomQuery::handlers());
-    modUsers::registerImport();
+    registerHandlers(modExport::handlers());
+    modGlobalGroups::registerImports();
+    modLocalGroups::registerImports();
+    modUsers::registerImports();
+    modFolders::registerImports();
 }
 
 void installDesktop()

@@ -42,7 +42,7 @@ bool BatchRun::waiting(Step &&step)
             if (m_steps.wait(locked.description()))
                 continue;
             m_report.end = Report::End::Cancelled;
-            m_note = locked.description();
+            m_report.note = locked.description();
             return false;
         }
     }
@@ -81,7 +81,11 @@ bool BatchRun::item(const QString &name, const std::function<void(StoreSession &
             return false;
         if (!m_store->hasPendingChanges())
             keep(name);
+        const int failed = m_report.failed;
+        const int done = m_report.done;
         work(*m_store);
+        if (m_report.failed > failed && m_report.done == done)
+            m_report.refused.push_back(m_position - 1);
         return true;
     } catch (const jet::StoreFailure &failure) {
         lose(failure);
@@ -99,7 +103,7 @@ void BatchRun::keep(const QString &name)
 void BatchRun::lose(const Error &failure)
 {
     m_report.end = Report::End::Lost;
-    m_note = failure.description() + remains();
+    m_report.note = failure.description() + remains();
     for (std::size_t i = 0; i < m_counters.size(); ++i)
         *m_counters[i] = m_kept[i];
     if (m_store && m_store->isOpen())
@@ -121,23 +125,21 @@ void BatchRun::close()
     try {
         if (m_store) {
             const Report::End end = m_report.end;
-            const QString note = m_note;
+            const QString note = m_report.note;
             // Closing tries once more for a user who does not want to wait any longer.
             (void)waiting([this] { m_store->commit(); });
             m_store->close();
             m_report.end = end; // all is written
-            m_note = note;
+            m_report.note = note;
         }
     } catch (const jet::StoreFailure &failure) {
         lose(failure);
     }
-    if (!m_note.isEmpty())
-        m_report.text = m_report.text.isEmpty() ? m_note : m_note + "\r\n\r\n"_L1 + m_report.text;
 }
 
 void BatchRun::closeAfter(const Error &failure)
 {
     close();
     if (m_report.end == Report::End::Lost)
-        throw jet::ChangesLost(failure.number(), failure.description() + u' ' + m_note);
+        throw jet::ChangesLost(failure.number(), failure.description() + u' ' + m_report.note);
 }

@@ -19,7 +19,8 @@ class Error;
 ///
 /// Each item begins with the write lock. Where another program holds the file, the batch waits through its
 /// Steps and goes on where it was. A store that can no longer be written ends it: what was not brought to the
-/// disk is undone, the counters are those of what was, and the report says which items are not in the store.
+/// disk is undone, the counters are those of what was, and the note of the report says which items are not in
+/// the store. An item whose work counts it as failed and not as done is one of the report's refused ones.
 class BatchRun final
 {
 public:
@@ -50,7 +51,6 @@ private:
     Report &m_report;
     std::vector<int *> m_counters;
     std::optional<StoreSession> m_store;
-    QString m_note; ///< why it ended before the last item
 
     int m_count = 0;
     QString m_last;

@@ -61,17 +61,18 @@ void clsGlobalGroups::Add(const QString &connectionString, const QString &server
 }
 
 void clsGlobalGroups::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
-                               Steps &steps, Report &report)
+                               Steps &steps, Report &report, AtFailure atFailure)
 {
-    runBatch(connectionString, steps, report, {&report.done},
-             [&](BatchRun &run) { addGroups(run, GroupKind::Global, records, leaveExisting, report); });
+    runBatch(
+        connectionString, steps, report, {&report.done, &report.added, &report.updated},
+        [&](BatchRun &run) { addGroups(run, GroupKind::Global, records, leaveExisting, report, atFailure); });
 }
 
 void clsGlobalGroups::AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps,
-                                    Report &report)
+                                    Report &report, AtFailure atFailure)
 {
     runBatch(connectionString, steps, report, {&report.done},
-             [&](BatchRun &run) { addGroupUsers(run, GroupKind::Global, records, report); });
+             [&](BatchRun &run) { addGroupUsers(run, GroupKind::Global, records, report, atFailure); });
 }
 
 void clsGlobalGroups::update(const QString &connectionString, int id, const QString &server,

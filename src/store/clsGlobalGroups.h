@@ -30,14 +30,14 @@ public:
     void Add(const QString &connectionString, const QString &server, const QString &name,
              const QString &description, int &id);
     /// Writes the records, fields Name, Server and Description: a new group is inserted, a
-    /// known one gets the description or, with leaveExisting, is passed over. Ends at the first record that
-    /// fails and raises its error; the report has what was done before.
+    /// known one gets the description or, with leaveExisting, is passed over. Where the batch raises the
+    /// error of a record that fails, the report has what was done before.
     void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting, Steps &steps,
-                  Report &report);
+                  Report &report, AtFailure atFailure = AtFailure::Raise);
     /// Adds memberships, fields UserName, UserServer, GroupName and GroupServer. A user or a
-    /// group that is not in the store gets an entry of the report. Ends like AddBatch.
-    void AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps,
-                       Report &report);
+    /// group that is not in the store gets an entry of the report. Raises like AddBatch.
+    void AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps, Report &report,
+                       AtFailure atFailure = AtFailure::Raise);
     /// Raises RuleViolation when another group has the name and server.
     void update(const QString &connectionString, int id, const QString &server, const QString &name,
                 const QString &description);

@@ -14,10 +14,10 @@ constexpr auto unknownGroup = "The specified Local Group does not exist in your 
 } // namespace
 
 void clsLocalGroups::AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps,
-                                   Report &report)
+                                   Report &report, AtFailure atFailure)
 {
     runBatch(connectionString, steps, report, {&report.done},
-             [&](BatchRun &run) { addGroupUsers(run, GroupKind::Local, records, report); });
+             [&](BatchRun &run) { addGroupUsers(run, GroupKind::Local, records, report, atFailure); });
 }
 
 void clsLocalGroups::addUsers(const QString &connectionString, int id, std::span<const int> users)
@@ -26,10 +26,11 @@ void clsLocalGroups::addUsers(const QString &connectionString, int id, std::span
 }
 
 void clsLocalGroups::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
-                              Steps &steps, Report &report)
+                              Steps &steps, Report &report, AtFailure atFailure)
 {
-    runBatch(connectionString, steps, report, {&report.done},
-             [&](BatchRun &run) { addGroups(run, GroupKind::Local, records, leaveExisting, report); });
+    runBatch(
+        connectionString, steps, report, {&report.done, &report.added, &report.updated},
+        [&](BatchRun &run) { addGroups(run, GroupKind::Local, records, leaveExisting, report, atFailure); });
 }
 
 void clsLocalGroups::Find(const QString &connectionString, jet::Recordset &result, const QString &name)
@@ -124,10 +125,10 @@ void clsLocalGroups::addGlobalGroups(const QString &connectionString, int id,
 }
 
 void clsLocalGroups::AddGlobalGroupsBatch(const QString &connectionString, jet::Recordset &records,
-                                          Steps &steps, Report &report)
+                                          Steps &steps, Report &report, AtFailure atFailure)
 {
     runBatch(connectionString, steps, report, {&report.done},
-             [&](BatchRun &run) { addLocalGroupGlobalGroups(run, records, report); });
+             [&](BatchRun &run) { addLocalGroupGlobalGroups(run, records, report, atFailure); });
 }
 
 void clsLocalGroups::RemoveGlobalGroups(const QString &connectionString, std::span<const int> ids)

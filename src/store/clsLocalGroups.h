@@ -17,16 +17,16 @@ class clsLocalGroups final : public RecordClass
 {
 public:
     /// Adds memberships, fields UserName, UserServer, GroupName and GroupServer. A user or a
-    /// group that is not in the store gets an entry of the report. Ends like AddBatch.
-    void AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps,
-                       Report &report);
+    /// group that is not in the store gets an entry of the report. Raises like AddBatch.
+    void AddUsersBatch(const QString &connectionString, jet::Recordset &records, Steps &steps, Report &report,
+                       AtFailure atFailure = AtFailure::Raise);
     /// The given users become the group's only ones.
     void addUsers(const QString &connectionString, int id, std::span<const int> users);
     /// Writes the records, fields Name, Server and Description: a new group is inserted, a
-    /// known one gets the description or, with leaveExisting, is passed over. Ends at the first record that
-    /// fails and raises its error; the report has what was done before.
+    /// known one gets the description or, with leaveExisting, is passed over. Where the batch raises the
+    /// error of a record that fails, the report has what was done before.
     void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting, Steps &steps,
-                  Report &report);
+                  Report &report, AtFailure atFailure = AtFailure::Raise);
     void Find(const QString &connectionString, jet::Recordset &result, const QString &name);
     /// Takes the groups' global groups and permissions away, too. Their users stay behind.
     void Delete(const QString &connectionString, std::span<const int> ids);
@@ -49,7 +49,7 @@ public:
     /// As AddUsersBatch, fields LocalGroupName, LocalGroupServer, GlobalGroupName and
     /// GlobalGroupServer.
     void AddGlobalGroupsBatch(const QString &connectionString, jet::Recordset &records, Steps &steps,
-                              Report &report);
+                              Report &report, AtFailure atFailure = AtFailure::Raise);
     void RemoveGlobalGroups(const QString &connectionString, std::span<const int> ids);
     /// One permission a folder, in the same order. A permission the group has on a folder is
     /// overwritten; clearFirst takes all others away.

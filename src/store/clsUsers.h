@@ -9,14 +9,6 @@
 
 #include <span>
 
-/// The end of a batch of users. A user who gets a new UserID because the old one is taken counts as added and
-/// as failed.
-struct UserBatchReport : Report
-{
-    int added = 0;
-    int updated = 0;
-};
-
 /// All that reads and writes Tbl_Users and the user's side of the relationship tables.
 /// A user is known by UserID in the store and by name and server everywhere else; only
 /// the latter survives a new import.
@@ -30,14 +22,15 @@ public:
     /// account is inserted, a known one is updated (its contact columns stay as they are, and it
     /// takes the UserID of the record even when another user has it) or, with leaveExisting,
     /// left as it is and is not counted. A UserID of 0 or nothing asks for the next free one.
-    /// A record that fails is counted, gets a line of the report below a heading, and the batch goes on. A
-    /// store that does not open or can no longer be written ends it (Report::End::Lost).
-    /// Raises jet::ItemNotFound, before anything is written, for records that lack a field.
-    [[nodiscard]] UserBatchReport AddBatch(const QString &connectionString, jet::Recordset &records,
-                                           bool leaveExisting, Steps &steps);
+    /// A record that fails is counted, gets a line of the report, and the batch goes on. A user who gets a
+    /// new UserID because the old one is taken counts as added and as failed. A store that does not open or
+    /// can no longer be written ends the batch (Report::End::Lost). Raises jet::ItemNotFound, before anything
+    /// is written, for records that lack a field.
+    [[nodiscard]] Report AddBatch(const QString &connectionString, jet::Recordset &records,
+                                  bool leaveExisting, Steps &steps);
     /// The same for records that hold the fields of a line of an import file. Nothing is escaped.
-    [[nodiscard]] UserBatchReport AddBatchFromFile(const QString &connectionString, jet::Recordset &records,
-                                                   bool leaveExisting, Steps &steps);
+    [[nodiscard]] Report AddBatchFromFile(const QString &connectionString, jet::Recordset &records,
+                                          bool leaveExisting, Steps &steps);
     /// Gives the user the permissions of the records, fields Name (path of a folder) and
     /// Permission. The path is used as it stands. A folder not known yet is added; one that cannot
     /// be is named, with a comma, in the failed text. Of users of one name on several servers any

@@ -45,7 +45,7 @@ std::vector<QLatin1StringView> namesOf(std::span<const UserColumn> columns)
 class UserBatch final
 {
 public:
-    UserBatch(jet::Recordset &records, const BatchKind &kind, bool leaveExisting, UserBatchReport &report)
+    UserBatch(jet::Recordset &records, const BatchKind &kind, bool leaveExisting, Report &report)
         : m_records(records, namesOf(kind.updated))
         , m_kind(kind)
         , m_insert(kind.inserted, kind.escaping)
@@ -99,8 +99,6 @@ private:
     void fail(const QString &message)
     {
         ++m_report.failed;
-        if (m_report.text.isEmpty())
-            m_report.text = "Following User(s) generated Errors and could not be Imported:\r\n\r\n"_L1;
         m_report.text += account() + message + "\r\n"_L1;
     }
 
@@ -156,7 +154,7 @@ private:
     BatchKind m_kind;
     UserInsert m_insert;
     bool m_leaveExisting;
-    UserBatchReport &m_report;
+    Report &m_report;
     std::vector<QString> m_values;
     jet::Recordset m_found; // the memory of its fields is used again
     std::size_t m_name;
@@ -165,10 +163,10 @@ private:
 
 } // namespace
 
-UserBatchReport clsUsers::AddBatch(const QString &connectionString, jet::Recordset &records,
-                                   bool leaveExisting, Steps &steps)
+Report clsUsers::AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting,
+                          Steps &steps)
 {
-    UserBatchReport report;
+    Report report;
     runBatch(
         connectionString, steps, report, {&report.done, &report.added, &report.updated}, [&](BatchRun &run) {
             UserBatch(records, {liveColumns(), liveUpdateColumns(), Escaping::Batch}, leaveExisting, report)
@@ -177,10 +175,10 @@ UserBatchReport clsUsers::AddBatch(const QString &connectionString, jet::Records
     return report;
 }
 
-UserBatchReport clsUsers::AddBatchFromFile(const QString &connectionString, jet::Recordset &records,
-                                           bool leaveExisting, Steps &steps)
+Report clsUsers::AddBatchFromFile(const QString &connectionString, jet::Recordset &records,
+                                  bool leaveExisting, Steps &steps)
 {
-    UserBatchReport report;
+    Report report;
     runBatch(connectionString, steps, report, {&report.done, &report.added, &report.updated},
              [&](BatchRun &run) {
                  UserBatch(records, {fileColumns(), fileColumns(), Escaping::None}, leaveExisting, report)

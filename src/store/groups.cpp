@@ -1,6 +1,7 @@
 #include "store/groups.h"
 
 #include "base/error.h"
+#include "platform/jet/errors.h"
 #include "store/batchrecords.h"
 #include "store/batchrun.h"
 #include "store/statement.h"
@@ -189,7 +190,24 @@ struct Membership
     [[nodiscard]] QString name() const { return group.path() + u' ' + member.path(); }
 };
 
-void addMemberships(BatchRun &run, const MembershipBatch &kind, jet::Recordset &records, Report &report)
+/// Does the work on an item; what it raises about the item is a line of the report where the batch goes on.
+template <typename Work>
+void onItem(const QString &name, Report &report, AtFailure atFailure, Work &&work)
+{
+    if (atFailure == AtFailure::Raise)
+        return work();
+    try {
+        work();
+    } catch (const jet::StoreFailure &) {
+        throw;
+    } catch (const Error &error) {
+        ++report.failed;
+        report.text += "\r\n"_L1 + name + u' ' + error.description();
+    }
+}
+
+void addMemberships(BatchRun &run, const MembershipBatch &kind, jet::Recordset &records, Report &report,
+                    AtFailure atFailure)
 {
     BatchRecords batch(records, {kind.memberName, kind.memberServer, kind.groupName, kind.groupServer});
     if (batch.last())
@@ -197,9 +215,11 @@ void addMemberships(BatchRun &run, const MembershipBatch &kind, jet::Recordset &
     while (batch.next()) {
         const Membership item(batch);
         const bool goesOn = run.item(item.name(), [&](StoreSession &store) {
-            const QString missing = addMembership(store, kind, item.member, item.group);
-            ++(missing.isEmpty() ? report.done : report.failed);
-            report.text += missing;
+            onItem(item.name(), report, atFailure, [&] {
+                const QString missing = addMembership(store, kind, item.member, item.group);
+                ++(missing.isEmpty() ? report.done : report.failed);
+                report.text += missing;
+            });
         });
         if (!goesOn)
             break;
@@ -230,7 +250,8 @@ void updateGroup(StoreSession &store, GroupKind kind, int id, const QString &ser
         {{"name"_L1, name}, {"server"_L1, server}, {"description"_L1, description}, {"id"_L1, idText}}));
 }
 
-void addGroups(BatchRun &run, GroupKind kind, jet::Recordset &records, bool leaveExisting, Report &report)
+void addGroups(BatchRun &run, GroupKind kind, jet::Recordset &records, bool leaveExisting, Report &report,
+               AtFailure atFailure)
 {
     BatchRecords batch(records, {"Name"_L1, "Server"_L1, "Description"_L1});
     const auto group = [&batch] { return Account{batch.text(0), batch.text(1)}; };
@@ -238,18 +259,24 @@ void addGroups(BatchRun &run, GroupKind kind, jet::Recordset &records, bool leav
         const auto &[name, server] = group();
         const QString description = batch.text(2);
         const Value known = accountId(store, batchLookup[kind], {name, server});
-        if (known.isNull())
+        if (known.isNull()) {
             store.execute(
                 joined(batchInsert[kind],
                        {{"name"_L1, name}, {"server"_L1, server}, {"description"_L1, description}}));
-        else if (!leaveExisting)
+            ++report.added;
+        } else if (!leaveExisting) {
             store.execute(
                 joined(batchUpdate[kind], {{"description"_L1, description}, {"id"_L1, known.toText()}}));
+            ++report.updated;
+        }
         ++report.done;
+    };
+    const auto writeItem = [&](StoreSession &store) {
+        onItem(group().path(), report, atFailure, [&] { write(store); });
     };
     if (batch.last())
         run.expect(batch.count(), group().path());
-    while (batch.next() && run.item(group().path(), write)) {
+    while (batch.next() && run.item(group().path(), writeItem)) {
     }
 }
 
@@ -268,12 +295,13 @@ const RelationStatements &globalGroupsOfGroup()
     return groupGlobalGroups;
 }
 
-void addGroupUsers(BatchRun &run, GroupKind kind, jet::Recordset &records, Report &report)
+void addGroupUsers(BatchRun &run, GroupKind kind, jet::Recordset &records, Report &report,
+                   AtFailure atFailure)
 {
-    addMemberships(run, usersOfGroups[kind], records, report);
+    addMemberships(run, usersOfGroups[kind], records, report, atFailure);
 }
 
-void addLocalGroupGlobalGroups(BatchRun &run, jet::Recordset &records, Report &report)
+void addLocalGroupGlobalGroups(BatchRun &run, jet::Recordset &records, Report &report, AtFailure atFailure)
 {
-    addMemberships(run, globalGroupsOfLocalGroups, records, report);
+    addMemberships(run, globalGroupsOfLocalGroups, records, report, atFailure);
 }

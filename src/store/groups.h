@@ -20,8 +20,9 @@ void addGroup(StoreSession &store, GroupKind kind, const QString &server, const 
 void updateGroup(StoreSession &store, GroupKind kind, int id, const QString &server, const QString &name,
                  const QString &description);
 /// Writes the records, fields Name, Server and Description: a new group is inserted, a known
-/// one gets the description unless existing ones are left. Ends at the first failure.
-void addGroups(BatchRun &run, GroupKind kind, jet::Recordset &records, bool leaveExisting, Report &report);
+/// one gets the description unless existing ones are left.
+void addGroups(BatchRun &run, GroupKind kind, jet::Recordset &records, bool leaveExisting, Report &report,
+               AtFailure atFailure);
 
 /// Users and permissions from the side of a group. A repeated user counts once; a permission that is there is
 /// overwritten.
@@ -31,9 +32,9 @@ void addGroups(BatchRun &run, GroupKind kind, jet::Recordset &records, bool leav
 [[nodiscard]] const RelationStatements &globalGroupsOfGroup();
 
 /// Adds users to groups, both by name and server: fields UserName, UserServer, GroupName and
-/// GroupServer. What is not in the store gets an entry of the report; ends at the first
-/// failure.
-void addGroupUsers(BatchRun &run, GroupKind kind, jet::Recordset &records, Report &report);
+/// GroupServer. What is not in the store gets an entry of the report.
+void addGroupUsers(BatchRun &run, GroupKind kind, jet::Recordset &records, Report &report,
+                   AtFailure atFailure);
 /// The same for global groups that become members of local ones: fields LocalGroupName,
 /// LocalGroupServer, GlobalGroupName and GlobalGroupServer.
-void addLocalGroupGlobalGroups(BatchRun &run, jet::Recordset &records, Report &report);
+void addLocalGroupGlobalGroups(BatchRun &run, jet::Recordset &records, Report &report, AtFailure atFailure);

@@ -7,4 +7,7 @@ namespace modLocalGroups {
 
 [[nodiscard]] std::span<const OpRow> handlers();
 
+/// The imports of groups and their members from files. Called once at start.
+void registerImports();
+
 } // namespace modLocalGroups

@@ -2,6 +2,7 @@
 #include "exchange/frmImport.h"
 #include "exchange/modImport.h"
 #include "exchange/modImportSteps.h"
+#include "folders/modFolders.h"
 #include "messages/frmProgress.h"
 #include "messages/frmResult.h"
 #include "platform/desktop/desktop.h"
@@ -9,6 +10,8 @@
 #include "session/modRegistry.h"
 #include "store/clsUsers.h"
 #include "support/windowtest.h"
+#include "sync/modGlobalGroups.h"
+#include "sync/modLocalGroups.h"
 #include "sync/modUsers.h"
 
 #include <QComboBox>
@@ -18,6 +21,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTimer>
 #include <QUrl>
 
@@ -49,7 +53,10 @@ protected:
     void SetUp() override
     {
         WindowTest::SetUp();
-        modUsers::registerImport();
+        modGlobalGroups::registerImports();
+        modLocalGroups::registerImports();
+        modUsers::registerImports();
+        modFolders::registerImports();
     }
 
     void TearDown() override
@@ -135,12 +142,6 @@ TEST_F(ImportTest, OffersTheSevenTypesAndNoneIsChosen)
                                       u"Folders (Root Data)"_s, u"Folder Permissions (Relationships)"_s}));
         EXPECT_EQ(dialog.cboImportType->currentText(), QString());
         EXPECT_EQ(dialog.cboImportType->accessibleName(), u"Import Type"_s);
-        for (int i = 0; i < types.size(); ++i) {
-            const bool canBeRead = types[i] == usersType;
-            EXPECT_EQ(bool(dialog.cboImportType->model()->index(i, 0).flags() & Qt::ItemIsEnabled),
-                      canBeRead);
-            EXPECT_EQ(dialog.cboImportType->itemData(i, Qt::ToolTipRole).toString().isEmpty(), canBeRead);
-        }
         EXPECT_EQ(dialog.windowTitle(), u"Import from File"_s);
         EXPECT_EQ(dialog.LblInfo->text(), u"Import Data From File"_s);
         QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -182,16 +183,106 @@ TEST_F(ImportTest, FiveLinesWithTheThirdBad)
               4);
 }
 
-TEST_F(ImportTest, EveryFaultOfALineIsReportedWithItsNumber)
+// One file a type with every fault a line can have: what the report says, what is in the store, and what can
+// be saved to be mended.
+TEST_F(ImportTest, EveryTypeWritesItsGoodLinesAndReportsTheOthers)
 {
-    importUsers("\n" + line("anna", "Anna") + "bert;;x\nbert\ncleo;SRV01\ndora;SRV01;a;b;c;d;e;f;g;0;0\n" +
-                    line("emil", "Emil") + ";\n",
-                box::ResultYes);
-    EXPECT_TRUE(resultText().contains(u"\n\n\nNo Username on Line 1\nNo Server Information on Line 3\n"
-                                      "No Server Information on Line 4\nFields missing on Line 5\n"
-                                      "Fields missing on Line 6\nNo Username on Line 8\n\n"_s))
-        << resultText().toStdString();
-    EXPECT_EQ(column(allUsers), (QStringList{u"SRV01\\anna Anna"_s, u"SRV01\\emil Emil"_s}));
+    const QByteArray groups = "Staff;SRV01;All; really\r\n;SRV01;a\nGuests;;b\nGuests\n\nBare;SRV01\n"
+                              " Staff ;SRV02;it's \xc3\xa4\nO'Neil;SRV01;c\nTwice;S;1\nTwice;S;2";
+    const QString groupErrors = u"No Group Name on Line 2\nNo Server Information on Line 3\n"
+                                "No Server Information on Line 4\n\n\nSRV01\\O'Neil Syntax error"_s;
+    const QByteArray refusedGroups = ";SRV01;a\r\nGuests;;b\r\nGuests\r\nO'Neil;SRV01;c\r\n";
+    const QStringList writtenGroups = {u"Staff|SRV01|All"_s, u"Bare|SRV01|"_s, u" Staff |SRV02|it's ä"_s,
+                                       u"Twice|S|2"_s};
+    const struct
+    {
+        QString type;
+        QByteArray file;
+        QString errors;
+        QByteArray refused;
+        QString written; ///< a query
+        QStringList rows;
+    } cases[] = {
+        {u"Global Groups (Root Data)"_s, groups, groupErrors, refusedGroups,
+         u"SELECT Name & '|' & Server & '|' & Description FROM Tbl_GlobalGroups ORDER BY ID"_s,
+         writtenGroups},
+        {u"Local Groups (Root Data)"_s, groups, groupErrors, refusedGroups,
+         u"SELECT Name & '|' & Server & '|' & Description FROM Tbl_LocalGroups ORDER BY ID"_s, writtenGroups},
+        {usersType,
+         "\n" + line("anna", "Anna") + "bert;;x\nbert\ncleo;SRV01\ndora;SRV01;a;b;c;d;e;f;g;0;0\n" +
+             line("emil", "Emil") + ";\n" + line("fred", "it's"),
+         u"No Server Information on Line 3\nNo Server Information on Line 4\n"
+         "No Value for Account Disabled on Line 5\nNo Value for Password Never Expires on Line 6\n"
+         "No Username on Line 8\n\nFollowing User(s) generated Errors and could not be Imported:\n\n"
+         "SRV01\\fred Syntax error\n"_s,
+         "bert;;x\r\nbert\r\ncleo;SRV01\r\ndora;SRV01;a;b;c;d;e;f;g;0;0\r\n;\r\n" + line("fred", "it's"),
+         allUsers,
+         {u"SRV01\\anna Anna"_s, u"SRV01\\emil Emil"_s}},
+        {u"Global Groups Users (Relationships)"_s,
+         "staff;srv01;ANNA;SRV01\n;SRV01;anna;SRV01\nStaff;;anna;SRV01\nStaff;SRV01;;SRV01\n"
+         "Staff;SRV01;anna\nStaff;SRV01;nobody;SRV01\nNone;SRV01;anna;SRV01\nStaff;SRV01;o'x;SRV01\n"
+         "Staff;SRV01;emil;SRV01\nStaff;SRV01;anna;SRV01",
+         u"No GroupName on Line 2\nNo GroupServer on Line 3\nNo UserName on Line 4\nNo UserServer on Line 5\n"
+         "\n\n\nSRV01\\Staff\tSRV01\\nobody User not found\n\n\tSRV01\\None Global Group not found\n"
+         "SRV01\\Staff SRV01\\o'x Syntax error"_s,
+         ";SRV01;anna;SRV01\r\nStaff;;anna;SRV01\r\nStaff;SRV01;;SRV01\r\nStaff;SRV01;anna\r\n"
+         "Staff;SRV01;nobody;SRV01\r\nNone;SRV01;anna;SRV01\r\nStaff;SRV01;o'x;SRV01\r\n",
+         u"SELECT GlobalGroupID & '|' & UserID FROM Tbl_GlobalGroupsUsers"_s,
+         {u"1|1"_s, u"1|2"_s}},
+        {u"Local Group - Global Groups (Relationships)"_s,
+         "Bare;SRV01;Staff;SRV01\n;SRV01;Staff;SRV01\nBare;;Staff;SRV01\nBare;SRV01;;SRV01\n"
+         "Bare;SRV01;Staff,SRV01\nBare;SRV01;None;SRV01\nNone;SRV01;Staff;SRV01",
+         u"No Local Group Name on Line 2\nNo Local Group Server on Line 3\nNo Global Group Name on Line 4\n"
+         "No Global Group Server on Line 5\n\n\n\nSRV01\\Bare\tSRV01\\None Global Group not found\n\n\t"
+         "SRV01\\None Local Group not found"_s,
+         ";SRV01;Staff;SRV01\r\nBare;;Staff;SRV01\r\nBare;SRV01;;SRV01\r\nBare;SRV01;Staff,SRV01\r\n"
+         "Bare;SRV01;None;SRV01\r\nNone;SRV01;Staff;SRV01\r\n",
+         u"SELECT LocalGroupID & '|' & GlobalGroupID FROM Tbl_LocalGroupsGlobalGroups"_s,
+         {u"2|1"_s}},
+        {u"Folders (Root Data)"_s,
+         "C:\\Data;first\nD:\\\n;x\nE:\\It;don't\nF:\\;last;more",
+         u"No Folder on Line 3\n\n\nE:\\It\\ could not be added to DB"_s,
+         ";x\r\nE:\\It;don't\r\n",
+         u"SELECT FolderName & '|' & Description FROM Tbl_Folders ORDER BY ID"_s,
+         {u"C:\\Data\\|first"_s, u"D:\\|"_s, u"F:\\|last"_s}},
+        {u"Folder Permissions (Relationships)"_s,
+         "C:\\Data;Bare;SRV01;CH\nC:\\Data;anna;SRV01;Full Control\n;anna;SRV01;R\nD:\\;;SRV01;R\n"
+         "D:\\;anna;;R\nD:\\;anna;SRV01\nD:\\;anna;SRV01;ch\nG:\\;anna;SRV01;L\nD:\\;nobody;SRV01;R\n"
+         "D:\\;anna;SRV01;L;more",
+         u"No Folder on Line 3\nNo User on Line 4\nNo Server on Line 5\nNo Permission on Line 6\n"
+         "Permission not recognized on Line 7\n\n\nG:\\ not in DB\n"
+         "SRV01\\nobody is not a Local Group and not a User in DB"_s,
+         ";anna;SRV01;R\r\nD:\\;;SRV01;R\r\nD:\\;anna;;R\r\nD:\\;anna;SRV01\r\nD:\\;anna;SRV01;ch\r\n"
+         "G:\\;anna;SRV01;L\r\nD:\\;nobody;SRV01;R\r\n",
+         u"SELECT LocalGroupID & '|' & Permission FROM Tbl_LocalGroupFolderPermission UNION ALL "
+         "SELECT FolderID & '|' & Permission FROM Tbl_UserFolderPermission"_s,
+         {u"2|CH"_s, u"1|Full Control"_s, u"2|L"_s}},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(qPrintable(c.type));
+        const ImportFormat *format = importFormat(c.type);
+        ASSERT_TRUE(format);
+        if (format->updates)
+            expectBox(updateQuestion, warningYesNoCancel, box::ResultYes);
+        modImport::importFile(nullptr, c.type, write(c.file));
+        EXPECT_EQ(column(c.written), c.rows);
+        QString shown = resultText();
+        shown.replace(QRegularExpression(u"Syntax error[^\n]*"_s), u"Syntax error"_s);
+        EXPECT_EQ(shown, "Following Errors were encountered in File\n"_L1 + path(u"users.txt"_s) +
+                             "\n\n\n"_L1 + c.errors);
+        QFile saved(path(u"refused.txt"_s));
+        saved.remove();
+        expectFile(CommonDialog::Kind::Save, u"*.txt | *.txt"_s, saved.fileName());
+        trigger(u"mnuFileSaveAttachment"_s);
+        ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+        EXPECT_EQ(saved.readAll(), c.refused);
+    }
+}
+
+TEST_F(ImportTest, AFileOfFaultsIsReportedInPart)
+{
+    importUsers(QByteArray(";\n").repeated(30'000), box::ResultYes);
+    EXPECT_TRUE(resultText().endsWith(u"\nNo Username on Line 10000\nand 20000 more Line(s)\n\n"_s));
 }
 
 TEST_F(ImportTest, FieldsThatAreTooLongOrNoTextAreRefusedWithTheirLine)
@@ -239,15 +330,19 @@ TEST_F(ImportTest, TheDialogHasTheResultAndEnterPressesTheFocusedButton)
 
 TEST_F(ImportTest, ALostStoreIsSaidInFrontOfTheCounts)
 {
-    modImportSteps::ImportReport report;
+    const ImportFormat &format = *importFormat(usersType);
+    modImportSteps::ImportLines lines(format);
+    Report report;
     report.end = Report::End::Lost;
     report.added = 12;
-    report.batchErrors = u"There isn't enough disk space."_s;
-    modImportSteps::reportImport(nullptr, u"users.txt"_s, report, success);
-    EXPECT_TRUE(resultText().startsWith(
-        u"The Import was broken off because the Database can no longer be written.\n\nNew Users:     \t\t12\n"_s))
-        << resultText().toStdString();
-    EXPECT_TRUE(resultText().contains(report.batchErrors));
+    report.text = u"SRV01\\bert Syntax error"_s;
+    report.note = u"There isn't enough disk space."_s;
+    modImportSteps::reportImport(nullptr, u"users.txt"_s, format, report, lines);
+    EXPECT_EQ(resultText(),
+              u"The Import was broken off because the Database can no longer be written.\n\nThere isn't "
+              "enough disk space.\n\nNew Users:              12\nUpdated Users:          0\n"
+              "Errors encountered:     0\n\nFollowing Errors were encountered in File\nusers.txt\n\n\n\n"
+              "Following User(s) generated Errors and could not be Imported:\n\nSRV01\\bert Syntax error"_s);
 }
 
 TEST_F(ImportTest, WhatTheStoreRefusesIsNamedBelowTheBadLines)
@@ -328,7 +423,7 @@ TEST_F(ImportTest, CancelWhileWritingKeepsAndTellsWhatIsWritten)
     EXPECT_GT(written, 0);
     EXPECT_LT(written, 2000);
     EXPECT_TRUE(resultText().startsWith(u"The Import was cancelled."_s)) << resultText().toStdString();
-    EXPECT_TRUE(resultText().contains(u"New Users:     \t\t%1\n"_s.arg(written)))
+    EXPECT_TRUE(resultText().contains(u"New Users:              %1\n"_s.arg(written)))
         << resultText().toStdString();
 }
 
@@ -395,8 +490,8 @@ TEST_F(ImportTest, TheOtherButtons)
                   u"Please use following Data Format to Import Folders:\n\nFolder 1;Description 1\n"
                   "Folder 2;Description 2\n...\nFolder N;Description N"_s);
         QStringList formats;
-        for (const modImport::ImportType &type : modImport::importTypes())
-            formats.append(information(type.name));
+        for (const ImportFormat &format : importFormats())
+            formats.append(information(format.type));
         EXPECT_EQ(formats.removeDuplicates(), 0) << "Two types show the same format.";
         QTest::mouseClick(dialog.cmdCancel, Qt::LeftButton);
     });

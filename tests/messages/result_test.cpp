@@ -137,6 +137,22 @@ TEST_F(ResultTest, AnExistingFileIsAskedAbout)
     EXPECT_EQ(read(u"old.txt"_s), "new");
 }
 
+TEST_F(ResultTest, AnAttachmentIsSavedByItsOwnEntryAndGoesWithTheNextResult)
+{
+    showResult(nullptr, u"report"_s, u"Title"_s, {u"Save &lines..."_s, "a;\xc3\xa4\r\n"});
+    auto *window = find<frmResult>(u"frmResult"_s);
+    ASSERT_TRUE(window);
+    EXPECT_TRUE(window->mnuFileSaveAttachment->isVisible());
+    EXPECT_EQ(window->mnuFileSaveAttachment->text(), u"Save &lines..."_s);
+    write(u"lines.txt"_s, "old");
+    expectBox(overwrite(u"lines.txt"_s), question, box::ResultYes);
+    expectFile(CommonDialog::Kind::Save, saveFilter, path(u"lines.txt"_s));
+    trigger(u"mnuFileSaveAttachment"_s);
+    EXPECT_EQ(read(u"lines.txt"_s), "a;\xc3\xa4\r\n");
+    show(u"another"_s);
+    EXPECT_FALSE(window->mnuFileSaveAttachment->isVisible());
+}
+
 TEST_F(ResultTest, CancelSavesNothingAndAFolderThatIsNotThereIsReported)
 {
     show(u"new"_s);

@@ -41,7 +41,12 @@ void folderRecords(jet::Recordset &records)
                 {{u"D:\\New\\"_s, u"R"_s}, {u"D:\\Data\\"_s, u"CH"_s}, {u"D:\\Newer\\"_s, u"L"_s}});
 }
 
-using UserBatch = UserBatchReport (clsUsers::*)(const QString &, jet::Recordset &, bool, Steps &);
+QString toldBy(const Report &report)
+{
+    return report.text + report.note;
+}
+
+using UserBatch = Report (clsUsers::*)(const QString &, jet::Recordset &, bool, Steps &);
 
 /// A new user, a known one who gets another id, and one more new.
 void addUserBatch(UserBatch batch, std::span<const UserColumn> columns, const QString &store, QString &told)
@@ -60,7 +65,7 @@ void addUserBatch(UserBatch batch, std::span<const UserColumn> columns, const QS
     jet::Recordset records;
     makeRecords(records, names, lines);
     NoSteps steps;
-    told += (clsUsers().*batch)(store, records, false, steps).text;
+    told += toldBy((clsUsers().*batch)(store, records, false, steps));
 }
 
 constexpr Writer writers[] = {
@@ -87,7 +92,7 @@ constexpr Writer writers[] = {
          NoSteps steps;
          Report report;
          clsGlobalGroups().AddBatch(store, records, false, steps, report);
-         told += report.text;
+         told += toldBy(report);
      }},
     {"MembershipBatch",
      [](const QString &store, QString &told) {
@@ -98,7 +103,7 @@ constexpr Writer writers[] = {
          NoSteps steps;
          Report report;
          clsGlobalGroups().AddUsersBatch(store, records, steps, report);
-         told += report.text;
+         told += toldBy(report);
      }},
     {"FoldersByPath",
      [](const QString &store, QString &told) {
@@ -116,18 +121,15 @@ constexpr Writer writers[] = {
     {"FolderBatch",
      [](const QString &store, QString &told) {
          NoSteps steps;
-         told += clsFolders()
-                     .AddBatch(store, {u"D:\\New"_s, u"D:\\Data"_s, u"D:\\Newer"_s}, {u"n"_s, u"d"_s, u"r"_s},
-                               false, steps)
-                     .text;
+         told += toldBy(clsFolders().AddBatch(store, {u"D:\\New"_s, u"D:\\Data"_s, u"D:\\Newer"_s},
+                                              {u"n"_s, u"d"_s, u"r"_s}, false, steps));
      }},
     {"PermissionBatch",
      [](const QString &store, QString &told) {
          NoSteps steps;
-         told += clsFolders()
-                     .AddPermissionsBatch(store, {u"D:\\Data"_s, u"D:\\Admin"_s}, {u"anna"_s, u"Guests"_s},
-                                          {u"SRV01"_s, u"SRV02"_s}, {u"CH"_s, u"L"_s}, steps)
-                     .text;
+         told += toldBy(clsFolders().AddPermissionsBatch(store, {u"D:\\Data"_s, u"D:\\Admin"_s},
+                                                         {u"anna"_s, u"Guests"_s}, {u"SRV01"_s, u"SRV02"_s},
+                                                         {u"CH"_s, u"L"_s}, steps));
      }},
     {"UserBatch", [](const QString &store,
                      QString &told) { addUserBatch(&clsUsers::AddBatch, liveUpdateColumns(), store, told); }},

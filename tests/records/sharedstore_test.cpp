@@ -31,7 +31,7 @@ protected:
         ASSERT_EQ(::link(path.toUtf8().constData(), theirName.toUtf8().constData()), 0);
     }
 
-    UserBatchReport importUsers(int count)
+    Report importUsers(int count)
     {
         static const QStringList fields =
             u"UserID UserName ServerName FullName Comment UserComment HomeDirDrive "
@@ -67,7 +67,7 @@ TEST_F(SharedStoreTest, ABatchWaitsSaysForWhomAndGoesOnWithTheNextFreeId)
             other.finish();
         return true;
     };
-    const UserBatchReport report = importUsers(3);
+    const Report report = importUsers(3);
     ASSERT_GE(steps.waits.size(), 3);
     EXPECT_EQ(report.end, Report::End::Finished);
     EXPECT_EQ(report.text, QString());
@@ -79,12 +79,12 @@ TEST_F(SharedStoreTest, ABatchThatWaitsCanBeCancelledAndNamesWhoHoldsTheStore)
 {
     OtherProgram other(theirName, theirUser);
     const auto begin = std::chrono::steady_clock::now();
-    const UserBatchReport report = importUsers(3);
+    const Report report = importUsers(3);
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(3)) << "Cancel came late.";
     EXPECT_EQ(report.end, Report::End::Cancelled);
     EXPECT_EQ(report.added + report.failed, 0);
-    EXPECT_TRUE(report.text.contains(QString::number(other.process()))) << report.text.toStdString();
-    EXPECT_EQ(steps.waits, QStringList{report.text});
+    EXPECT_TRUE(report.note.contains(QString::number(other.process()))) << report.note.toStdString();
+    EXPECT_EQ(steps.waits, QStringList{report.note});
     other.finish();
     EXPECT_EQ(users(), Rows{u"1|theirs"_s});
 }
@@ -150,7 +150,7 @@ TEST_F(SharedStoreTest, AFullDiskEndsABatchWhichSaysWhatIsNotInTheStore)
     for (int call = 1; failed && call < 200; ++call) {
         failingvfs::Installed disk;
         disk.plan({failingvfs::Kind::Write, call, SQLITE_FULL, true});
-        const UserBatchReport report = importUsers(count);
+        const Report report = importUsers(count);
         failed = disk.hasFailed();
         disk.plan({});
         const int inStore = int(users().size());
@@ -158,12 +158,12 @@ TEST_F(SharedStoreTest, AFullDiskEndsABatchWhichSaysWhatIsNotInTheStore)
         EXPECT_EQ(report.added, inStore) << "call " << call;
         EXPECT_EQ(report.failed, 0);
         EXPECT_EQ(report.end == Report::End::Lost, failed);
-        EXPECT_EQ(report.text.count(u"disk space"), failed ? 1 : 0) << report.text.toStdString();
+        EXPECT_EQ(report.note.count(u"disk space"), failed ? 1 : 0) << report.note.toStdString();
         if (failed) {
             const QString last =
                 inStore == count - 1 ? u"SRV\\user5"_s : u"from SRV\\user%1 to SRV\\user5"_s.arg(inStore + 1);
-            EXPECT_TRUE(report.text.endsWith(u"Not in the Database: %1 of 5, "_s.arg(count - inStore) + last))
-                << report.text.toStdString();
+            EXPECT_TRUE(report.note.endsWith(u"Not in the Database: %1 of 5, "_s.arg(count - inStore) + last))
+                << report.note.toStdString();
         }
         run(u"DELETE FROM Tbl_Users"_s);
     }
@@ -179,13 +179,13 @@ TEST_F(SharedStoreTest, AStoreThatIsMovedAwayEndsABatch)
         if (item == u"SRV\\user3")
             moved = QFile::rename(path, folder.filePath(u"moved.kvs"_s));
     };
-    const UserBatchReport report = importUsers(1000);
+    const Report report = importUsers(1000);
     ASSERT_TRUE(moved);
     EXPECT_EQ(report.end, Report::End::Lost);
     EXPECT_EQ(report.added, 2);
     EXPECT_EQ(steps.items.size(), 3) << "It ran on.";
-    EXPECT_TRUE(report.text.contains(u"moved or deleted")) << report.text.toStdString();
-    EXPECT_TRUE(report.text.endsWith(u"Not in the Database: 998 of 1000, from SRV\\user3 to SRV\\user1000"));
+    EXPECT_TRUE(report.note.contains(u"moved or deleted")) << report.note.toStdString();
+    EXPECT_TRUE(report.note.endsWith(u"Not in the Database: 998 of 1000, from SRV\\user3 to SRV\\user1000"));
 }
 
 // A disk that is full for a moment undoes one statement alone: no relationship may stay behind for that.
@@ -208,7 +208,7 @@ TEST_F(SharedStoreTest, AUserWhoGetsANewIdKeepsAllThatIsRelatedOrNothingChanges)
         QFile::remove(path);
         ASSERT_TRUE(QFile::copy(model, path));
         disk.plan({failingvfs::Kind::Write, call, SQLITE_FULL, false});
-        const UserBatchReport report = importUsers(1);
+        const Report report = importUsers(1);
         failed = disk.hasFailed();
         disk.plan({});
         const QString id = report.updated == 1 ? u"8"_s : u"7"_s;
