@@ -24,7 +24,7 @@ int main(int argc, char **argv)
     TableReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     std::string table = reporter.table();
-    for (const std::string &further : {reporter.stepsTable(), reporter.readersTable()})
+    for (const std::string &further : {reporter.viewsTable(), reporter.stepsTable(), reporter.readersTable()})
         if (!further.empty())
             table += "\n" + further;
     std::printf("\n%s", table.c_str());

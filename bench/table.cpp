@@ -28,6 +28,8 @@ constexpr Comparison comparisons[] = {
     {"sorting last names, against NOCASE", "Sort", "SortNoCase", 3, false},
     {"LIKE '%er%', against SQLite's", "Like", "LikeOfSqlite", 2},
     {"`addUsers` of a global group", "AddUsers", "AddUsersByHand", 2, false},
+    {"opening the form of a user, against reading it and making bare widgets", "OpenUser", "OpenUserByHand",
+     2, false},
     {"sorting a list by texts, against sorting the bare keys", "SortTexts", "SortTextKeys", 2, false},
     {"sorting a list by numbers, against sorting the bare keys", "SortNumbers", "SortNumberKeys", 2, false},
     {"sorting a list by dates, against sorting the bare keys", "SortDates", "SortDateKeys", 2, false},
@@ -127,6 +129,27 @@ std::string TableReporter::table() const
                  withUnit(bytes / many, "bytes"), withUnit(texts / many, "bytes"), bytes / texts, memoryGoal);
     }
     return table;
+}
+
+std::string TableReporter::viewsTable() const
+{
+    constexpr const char *names[] = {
+        "global groups",  "local groups", "users", "folders",  "default permissions",
+        "hardware types", "hardware",     "rooms", "software", "queries"};
+    std::string table = "| the view of all | rows | opened in | read in | ratio |\n|---|---|---|---|---|\n";
+    bool any = false;
+    for (int i = 0; i < int(std::size(names)); ++i) {
+        const Measured *opened = find("OpenView", i);
+        const Measured *read = find("ReadView", i);
+        if (!opened || !read)
+            continue;
+        any = true;
+        char numbers[96];
+        std::snprintf(numbers, sizeof numbers, "%.0f | %.2f ms | %.2f ms | %.2f", read->counters.at("rows"),
+                      opened->milliseconds, read->milliseconds, opened->milliseconds / read->milliseconds);
+        table += std::string("| ") + names[i] + " | " + numbers + " |\n";
+    }
+    return any ? table : std::string();
 }
 
 std::string TableReporter::stepsTable() const

@@ -16,6 +16,8 @@ public:
     /// Each comparison with its goal as a markdown table; rows that were not run are left out.
     [[nodiscard]] std::string table() const;
 
+    /// What it takes to open the view of all objects of each kind, beside reading them.
+    [[nodiscard]] std::string viewsTable() const;
     /// What single steps on a large list take.
     [[nodiscard]] std::string stepsTable() const;
 

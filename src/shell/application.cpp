@@ -42,25 +42,6 @@ std::function<void()> &processEnd()
     return installed;
 }
 
-// One line a family.
-void registerFamilies()
-{
-    registerHandlers(modGlobalGroups::handlers());
-    registerHandlers(modLocalGroups::handlers());
-    registerHandlers(modUsers::handlers());
-    registerHandlers(modFolders::handlers());
-    registerHandlers(modHWType::handlers());
-    registerHandlers(modHW::handlers());
-    registerHandlers(modRooms::handlers());
-    registerHandlers(modSW::handlers());
-    registerHandlers(modCustomQuery::handlers());
-    registerHandlers(modExport::handlers());
-    modGlobalGroups::registerImports();
-    modLocalGroups::registerImports();
-    modUsers::registerImports();
-    modFolders::registerImports();
-}
-
 void installDesktop()
 {
     desktop::installOpener([](const QUrl &url) { return QDesktopServices::openUrl(url); });
@@ -100,6 +81,25 @@ void testStore()
 }
 
 } // namespace
+
+// One line a family.
+void registerFamilies()
+{
+    registerHandlers(modGlobalGroups::handlers());
+    registerHandlers(modLocalGroups::handlers());
+    registerHandlers(modUsers::handlers());
+    registerHandlers(modFolders::handlers());
+    registerHandlers(modHWType::handlers());
+    registerHandlers(modHW::handlers());
+    registerHandlers(modRooms::handlers());
+    registerHandlers(modSW::handlers());
+    registerHandlers(modCustomQuery::handlers());
+    registerHandlers(modExport::handlers());
+    modGlobalGroups::registerImports();
+    modLocalGroups::registerImports();
+    modUsers::registerImports();
+    modFolders::registerImports();
+}
 
 void Main()
 {

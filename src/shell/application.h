@@ -10,6 +10,9 @@ class frmMain;
 /// Needs a QApplication, and belongs to it: another program may call it as well.
 void Main();
 
+/// Registers what each family can do. Main() calls it; calling it again changes nothing.
+void registerFamilies();
+
 /// The one main window, made on first use.
 [[nodiscard]] frmMain &mainForm();
 

@@ -3,9 +3,11 @@
 #include "assets/modHW.h"
 #include "exchange/modImport.h"
 #include "messages/guard.h"
+#include "session/help.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmOptions.h"
+#include "shell/modCompact.h"
 #include "toolkit/imagelist.h"
 #include "views/families.h"
 #include "views/menutree.h"
@@ -30,6 +32,16 @@ void importFromFile(frmMain &window)
 void listUnassigned(frmMain &window)
 {
     modHW::listUnassigned(&window);
+}
+
+void introduction(frmMain &)
+{
+    openHelp(u"intro.html"_s);
+}
+
+void manual(frmMain &)
+{
+    openHelp(u"manual.html"_s);
 }
 
 void options(frmMain &window)
@@ -157,10 +169,10 @@ constexpr MenuEntry menuTable[] = {
     {{}, "mnuTools"_L1, "Tools"_L1, {}},
     {"mnuTools"_L1, "mnuImport"_L1, "Import from File..."_L1, call(importFromFile)},
     {"mnuTools"_L1, "mnuOptions"_L1, "Options..."_L1, call(options)},
-    {"mnuTools"_L1, "mnuToolCompactDatabase"_L1, "Compact Database"_L1, toCome},
+    {"mnuTools"_L1, "mnuToolCompactDatabase"_L1, "Compact Database"_L1, call(compactDatabase)},
     {{}, "mnuHelp"_L1, "&Help"_L1, {}},
-    {"mnuHelp"_L1, "mnuHelpOverView"_L1, "Introduction"_L1, toCome},
-    {"mnuHelp"_L1, "mnuHelpUserManual"_L1, "User Manual"_L1, toCome, Qt::Key_F1},
+    {"mnuHelp"_L1, "mnuHelpOverView"_L1, "Introduction"_L1, call(introduction)},
+    {"mnuHelp"_L1, "mnuHelpUserManual"_L1, "User Manual"_L1, call(manual), Qt::Key_F1},
     {"mnuHelp"_L1, "mnuAbout"_L1, "About"_L1, call(about)},
 };
 
