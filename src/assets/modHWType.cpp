@@ -56,11 +56,6 @@ void editRow(const CommandContext &context)
     dialog.exec();
 }
 
-void deleteRow(const QString &connectionString, int id)
-{
-    clsHWType().Delete(connectionString, id);
-}
-
 } // namespace
 
 void modHWType::newHWType(QWidget *owner)
@@ -75,8 +70,8 @@ std::span<const OpRow> modHWType::handlers()
         {Mode::HWType, Op::AddNew, newRow},
         {Mode::HWType, Op::Edit, editRow},
         {Mode::HWType, Op::Delete,
-         deleteSelected(u"Deleting Hardware Types"_s, u"The following Hardware Types could not be deleted:"_s,
-                        deleteRow)},
+         deleteSelected<&clsHWType::Delete>(u"Deleting Hardware Types"_s,
+                                            u"The following Hardware Types could not be deleted:"_s)},
         {Mode::HWType, Op::Properties,
          properties({{PropertyTab::Users, readOf<&clsUsers::getByHardwareType>},
                      {PropertyTab::Hardware, readOf<&clsHW::getOfType>},

@@ -4,6 +4,9 @@
 #include "store/recordclass.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <span>
 
 /// All that reads and writes Tbl_CustomQuery, the saved statements, and the way to run one. A
 /// query is known by its name.
@@ -22,7 +25,9 @@ public:
     /// if it gives rows, as SELECT INTO does not; any other leaves it closed, also a SELECT behind a
     /// blank.
     void Execute(const QString &connectionString, jet::Recordset &result, const QString &statement);
-    void Delete(const QString &connectionString, int id);
+    /// Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     /// Raises RuleViolation when another query has the name.
     void update(const QString &connectionString, int id, const QString &name, const QString &description,
                 const QString &statement);

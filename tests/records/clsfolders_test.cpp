@@ -86,16 +86,6 @@ TEST_F(FoldersTest, RemoveAllPermissionsClearsAllThreeTablesAndLeavesTheFolders)
     EXPECT_EQ(content("Tbl_Folders").size(), 4);
 }
 
-TEST_F(FoldersTest, DeleteLeavesThePermissionsOfGlobalGroups)
-{
-    const Rows kept = globalGroups();
-    folders.Delete(connection, QList<int>{42, 43, 99});
-    EXPECT_EQ(content("Tbl_Folders"), (Rows{data, tools}));
-    EXPECT_EQ(users(), (Rows{u"11|44|R"_s, u"12|41|L"_s}));
-    EXPECT_EQ(localGroups(), Rows{u"31|41|R"_s});
-    EXPECT_EQ(globalGroups(), kept);
-}
-
 TEST_F(FoldersTest, AccountsAreAddedUntestedOrInPlaceOfTheOldOnes)
 {
     folders.addUsers(connection, 42, QList<int>{12, 11}, {u"L"_s, u"R"_s}, false);

@@ -112,27 +112,6 @@ TEST_F(GroupRelationsTest, ReadersGiveTheirRows)
     // clang-format on
 }
 
-TEST_F(GroupRelationsTest, DeleteOfAGlobalGroup_LeavesItsUsersAndPermissions)
-{
-    const Rows users = memberships();
-    const Rows permissions = content("Tbl_GlobalGroupFolderPermission");
-    globalGroups.Delete(connection, QList<int>{21, 99});
-    EXPECT_EQ(rows(u"SELECT ID FROM Tbl_GlobalGroups ORDER BY ID"_s), (Rows{u"22"_s, u"23"_s}));
-    EXPECT_EQ(nesting(), (Rows{u"32|22"_s, u"33|23"_s}));
-    EXPECT_EQ(memberships(), users);
-    EXPECT_EQ(content("Tbl_GlobalGroupFolderPermission"), permissions);
-}
-
-TEST_F(GroupRelationsTest, DeleteOfALocalGroup_LeavesItsUsers)
-{
-    const Rows users = memberships();
-    localGroups.Delete(connection, QList<int>{31, 99});
-    EXPECT_EQ(rows(u"SELECT ID FROM Tbl_LocalGroups ORDER BY ID"_s), (Rows{u"32"_s, u"33"_s}));
-    EXPECT_EQ(nesting(), (Rows{u"32|21"_s, u"32|22"_s, u"33|23"_s}));
-    EXPECT_EQ(localPermissions(), (Rows{u"32|43|L"_s, u"33|43|R"_s}));
-    EXPECT_EQ(memberships(), users);
-}
-
 TEST_F(GroupRelationsTest, RemovalsFromALocalGroup_TakeOneKindOfRowEach)
 {
     localGroups.RemoveFolderPermissions(connection, QList<int>{31, 33});

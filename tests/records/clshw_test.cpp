@@ -1,5 +1,4 @@
 #include "assets/clsHW.h"
-#include "assets/clsRooms.h"
 #include "platform/jet/errors.h"
 #include "support/companytest.h"
 
@@ -241,14 +240,4 @@ TEST_F(HWTest, AddSW_GivesTheItemItsOnlySoftware)
     EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"71|61"_s, u"72|63"_s, u"73|62"_s, u"75|61"_s}));
     hardware.addSW(connection, 61, QList<int>());
     EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"72|63"_s, u"73|62"_s}));
-}
-
-TEST_F(HWTest, Delete_LeavesTheRelationshipsBehind)
-{
-    const Rows behind = content("Tbl_RoomHW") + content("Tbl_SWHW");
-    hardware.Delete(connection, 62);
-    EXPECT_EQ(content("Tbl_HW").size(), 5);
-    EXPECT_EQ(content("Tbl_RoomHW") + content("Tbl_SWHW"), behind);
-    clsRooms rooms;
-    expectRows(rooms, {{"getHW", &clsRooms::getHW, 81, {hw64}}});
 }

@@ -1,4 +1,3 @@
-#include "assets/clsHW.h"
 #include "assets/clsRooms.h"
 #include "support/companytest.h"
 
@@ -65,15 +64,4 @@ TEST_F(RoomsTest, AddHW_TakesTheItemsFromOtherRoomsAndUsers)
     rooms.addHW(connection, 82, QList<int>(), true);
     EXPECT_EQ(content("Tbl_RoomHW"), Rows{u"81|64"_s});
     EXPECT_EQ(content("Tbl_SWHW").size(), 2);
-}
-
-TEST_F(RoomsTest, Delete_TakesTheUsersAlongAndLeavesTheHardware)
-{
-    const Rows items = content("Tbl_RoomHW");
-    rooms.Delete(connection, 81);
-    EXPECT_EQ(content("Tbl_Rooms").size(), 2);
-    EXPECT_EQ(content("Tbl_RoomUsers"), (Rows{u"82|12"_s, u"83|13"_s}));
-    EXPECT_EQ(content("Tbl_RoomHW"), items);
-    clsHW hardware;
-    expectRows(hardware, {{"getRoom", &clsHW::getRoom, 62, {}}});
 }

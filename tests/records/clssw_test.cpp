@@ -66,16 +66,6 @@ TEST_F(ProductsTest, AddHW_MakesTheItemsTheOnlyOnes)
     EXPECT_EQ(content("Tbl_SWHW"), (Rows{u"71|61"_s, u"73|62"_s}));
 }
 
-TEST_F(ProductsTest, Delete_HidesWhatHangsOnAProduct)
-{
-    software.Delete(connection, 72);
-    EXPECT_EQ(content("Tbl_SWHW").size(), 4);
-    expectRows(hardware, {{"getSW", &clsHW::getSW, 61, {writer2}}});
-    types.Delete(connection, 51);
-    EXPECT_EQ(content("Tbl_HW").size(), 6);
-    expectRows(hardware, {{"getAll", &clsHW::getAll, 0, {hw66, hw65, hw64, hw63}}});
-}
-
 TEST_F(ProductsTest, ReadersOfTypesGiveTheirRows)
 {
     const Rows all = {u"55|Monitor|Zeta|M9|-|-"_s, u"54|PC|-|M9|9|-"_s, u"53|pc|Maker|L9|9|-"_s,

@@ -174,18 +174,6 @@ TEST_F(UsersTest, ApostropheIsRefusedByTheEngineInAddAndUpdate)
     EXPECT_EQ(rows(u"SELECT Comment FROM Tbl_Users"_s), Rows{u""_s});
 }
 
-TEST_F(UsersTest, Delete_TakesTheNamedUsersOnly)
-{
-    for (int id = 1; id <= 4; ++id) {
-        UserRecord user = account(u"user%1"_s.arg(id), u"SRV01"_s, id);
-        users.Add(connection, user);
-    }
-    users.Delete(connection, QList<int>{2, 4, 99});
-    EXPECT_EQ(rows(u"SELECT UserID FROM Tbl_Users ORDER BY UserID"_s), (Rows{u"1"_s, u"3"_s}));
-    users.Delete(connection, QList<int>());
-    EXPECT_EQ(rows(u"SELECT COUNT(*) FROM Tbl_Users"_s), Rows{u"2"_s});
-}
-
 TEST_F(UsersTest, Import_ReplacesTheTableByTheNamedRemoteUsers)
 {
     UserRecord old = account(u"old"_s, u"SRV01"_s);

@@ -118,30 +118,6 @@ TEST_F(UserRelationsTest, AddFoldersBatch_EndsWhereTheFoldersAreGone)
     EXPECT_EQ(content("Tbl_UserFolderPermission"), before);
 }
 
-TEST_F(UserRelationsTest, Delete_LeavesTheRelationshipsBehind)
-{
-    const auto relationships = [this] {
-        Rows all;
-        for (const char *table : {"Tbl_GlobalGroupsUsers", "Tbl_LocalGroupsUsers", "Tbl_RoomUsers",
-                                  "Tbl_UserHW", "Tbl_UserFolderPermission"})
-            all += content(table);
-        return all;
-    };
-    const Rows before = relationships();
-    users.Delete(connection, QList<int>{11, 13});
-    EXPECT_EQ(content("Tbl_Users").size(), 1);
-    EXPECT_EQ(relationships(), before);
-
-    // The highest id is free again, and what stayed is the new user's.
-    UserRecord next;
-    next.UserName = u"dora"_s;
-    next.ServerName = u"SRV01"_s;
-    users.Add(connection, next);
-    EXPECT_EQ(next.UserID, 13);
-    EXPECT_EQ(rowsFrom([&](auto &result) { users.getGlobalGroups(connection, result, 13); }),
-              Rows{globalAdmins});
-}
-
 TEST_F(UserRelationsTest, GroupsRoomsAndHardwareBecomeTheOnlyOnes)
 {
     users.addGlobalGroups(connection, 12, QList<int>{23, 23});

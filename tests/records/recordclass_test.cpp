@@ -3,7 +3,6 @@
 #include "folders/clsFolders.h"
 #include "platform/jet/errors.h"
 #include "store/clsGlobalGroups.h"
-#include "store/clsLocalGroups.h"
 #include "store/clsUsers.h"
 #include "store/statement.h"
 #include "support/companytest.h"
@@ -19,9 +18,6 @@ class RecordClassTest : public CompanyTest
 {
 protected:
     clsUsers users;
-    clsGlobalGroups globalGroups;
-    clsLocalGroups localGroups;
-    clsFolders folders;
     clsHW hardware;
     clsRooms rooms;
 };
@@ -56,13 +52,10 @@ TEST_F(RecordClassTest, AMissingStoreIsToldAndKept)
         {"addRooms", errorKeptOf<clsUsers>([&](auto &all) { all.addRooms(nowhere, 1, QList<int>{1}); })},
         {"Add of a group",
          errorKeptOf<clsGlobalGroups>([&](auto &all) { all.Add(nowhere, u"S"_s, u"N"_s, {}, id); })},
-        {"Delete of a group",
-         errorKeptOf<clsGlobalGroups>([&](auto &all) { all.Delete(nowhere, QList<int>{1}); })},
         {"Add of a folder", errorKeptOf<clsFolders>([&](auto &all) { all.Add(nowhere, u"C:\\Data"_s, {}); })},
         {"addPermittedObjects", errorKeptOf<clsFolders>([&](auto &all) {
              text += all.addPermittedObjects(nowhere, u"D:\\Data\\"_s, objects);
          })},
-        {"Delete of hardware", errorKeptOf<clsHW>([&](auto &all) { all.Delete(nowhere, 1); })},
     };
     for (const auto &[name, error] : cases) {
         EXPECT_EQ(error.number, jet::Failure) << name;
@@ -100,32 +93,6 @@ TEST_F(RecordClassTest, WhatWasDoneBeforeAFailureStays)
          [&] { hardware.addRooms(connection, 64, QList<int>{83}, false); },
          "Tbl_RoomHW",
          {u"81|62"_s}},
-        {"Delete of a room",
-         "Tbl_Rooms",
-         [&] { rooms.Delete(connection, 81); },
-         "Tbl_RoomUsers",
-         {u"82|12"_s, u"83|13"_s}},
-        {"Delete of global groups",
-         "Tbl_GlobalGroups",
-         [&] {
-             globalGroups.Delete(connection, QList<int>{21, 22});
-         },
-         "Tbl_LocalGroupsGlobalGroups",
-         {u"32|22"_s, u"33|23"_s}},
-        {"Delete of local groups",
-         "Tbl_LocalGroupFolderPermission",
-         [&] {
-             localGroups.Delete(connection, QList<int>{32, 33});
-         },
-         "Tbl_LocalGroupsGlobalGroups",
-         {u"31|21"_s, u"33|23"_s}},
-        {"Delete of folders",
-         "Tbl_LocalGroupFolderPermission",
-         [&] {
-             folders.Delete(connection, QList<int>{42, 41});
-         },
-         "Tbl_UserFolderPermission",
-         {u"11|44|R"_s, u"12|41|L"_s}},
     };
     for (const auto &c : cases) {
         run("DROP TABLE "_L1 + QLatin1StringView(c.dropped));
