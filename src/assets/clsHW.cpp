@@ -61,7 +61,8 @@ void clsHW::update(const QString &connectionString, int id, const HWRecord &item
                      joined(change, item, id));
 }
 
-void clsHW::Delete(const QString &connectionString, int id)
+Report clsHW::Delete(const QString &connectionString, std::span<const int> ids, const QStringList &names,
+                     Steps &steps)
 {
-    write(connectionString, withId("DELETE * FROM Tbl_HW WHERE ID ={id}"_L1, id));
+    return deleteEach(connectionString, ids, names, steps, {"DELETE * FROM Tbl_HW WHERE ID ={id}"_L1});
 }

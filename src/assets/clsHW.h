@@ -5,6 +5,7 @@
 #include "store/recordclass.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <span>
 
@@ -13,8 +14,8 @@
 /// and addUsers from its rooms, so one in both comes from elsewhere.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Items whose type
-/// is gone show in none. Nothing is escaped. Every method raises the store's error, and what was
-/// written before it stays.
+/// is gone show in getUnAssigned and GetByID only. Nothing is escaped. Every method raises the store's error,
+/// and what was written before it stays.
 class clsHW final : public RecordClass
 {
 public:
@@ -43,10 +44,11 @@ public:
     void getUsage(const QString &connectionString, jet::Recordset &result);
     /// Raises RuleViolation when another item of the type has the serial number.
     void update(const QString &connectionString, int id, const HWRecord &item);
-    /// The rows of the relationship tables stay.
-    void Delete(const QString &connectionString, int id);
+    /// Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     void getAll(const QString &connectionString, jet::Recordset &result);
-    /// The items without a row in Tbl_RoomHW and in Tbl_UserHW, even one whose other end is gone.
+    /// The items without a row in Tbl_RoomHW and in Tbl_UserHW, and those whose type is gone.
     void getUnAssigned(const QString &connectionString, jet::Recordset &result);
     /// The items that contain the five texts, a Null being as good as any. A type of 0 stands
     /// for all types.

@@ -138,9 +138,9 @@ void clsHW::getUnAssigned(const QString &connectionString, jet::Recordset &resul
     read(connectionString, result,
          u"SELECT Tbl_HW.ID, [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber] AS "
          "[Hardware Type], [SerialNumber], [CompanyPropertyNumber], [Usage], [IPAddress] FROM Tbl_HW "
-         "INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID "
-         "WHERE TBl_HW.ID NOT IN (SELECT HWID as ID FROM Tbl_UserHW) "
-         "AND Tbl_HW.ID NOT IN (SELECT HWID AS ID FROM Tbl_ROOMHW) "
+         "LEFT JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID "
+         "WHERE Tbl_HWType.ID Is Null OR (TBl_HW.ID NOT IN (SELECT HWID as ID FROM Tbl_UserHW) "
+         "AND Tbl_HW.ID NOT IN (SELECT HWID AS ID FROM Tbl_ROOMHW)) "
          "ORDER BY [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber];"_s);
 }
 
@@ -164,7 +164,7 @@ void clsHW::GetByID(const QString &connectionString, jet::Recordset &result, int
         connectionString, result,
         withId(
             "SELECT Tbl_HW.*, [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber] AS [HWType] "
-            "FROM Tbl_HW INNER JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID WHERE Tbl_HW.ID = {id} "
+            "FROM Tbl_HW LEFT JOIN Tbl_HWType ON Tbl_HW.HWTypeID = Tbl_HWType.ID WHERE Tbl_HW.ID = {id} "
             "ORDER BY [Type] & ' ' & [Manufacturer] & ' ' & [Model] & ' ' & [TypeNumber];"_L1,
             id));
 }

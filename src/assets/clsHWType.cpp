@@ -2,6 +2,7 @@
 
 #include "assets/assetstatements.h"
 #include "store/statement.h"
+#include "store/storesession.h"
 
 using namespace Qt::StringLiterals;
 
@@ -72,7 +73,19 @@ void clsHWType::update(const QString &connectionString, int id, const QString &t
                      joined(change, device, id));
 }
 
-void clsHWType::Delete(const QString &connectionString, int id)
+int clsHWType::countItems(const QString &connectionString, std::span<const int> types)
 {
-    write(connectionString, withId("DELETE * FROM Tbl_HWType WHERE ID ={id}"_L1, id));
+    qint64 count = 0;
+    withStore(connectionString, [&](StoreSession &store) {
+        for (const int type : types)
+            count += store.scalar(withId("SELECT Count(*) FROM Tbl_HW WHERE HWTypeID = {id}"_L1, type))
+                         .toInteger();
+    });
+    return int(count);
+}
+
+Report clsHWType::Delete(const QString &connectionString, std::span<const int> ids, const QStringList &names,
+                         Steps &steps)
+{
+    return deleteEach(connectionString, ids, names, steps, {"DELETE * FROM Tbl_HWType WHERE ID ={id}"_L1});
 }

@@ -4,6 +4,9 @@
 #include "store/recordclass.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <span>
 
 /// All that reads and writes Tbl_HWType, the catalogue of devices. A type is known by its type,
 /// manufacturer, model and type number; the description is no part of that.
@@ -25,9 +28,12 @@ public:
     /// The distinct texts in use, behind an id of 0.
     void getTypes(const QString &connectionString, jet::Recordset &result);
     void getManufacturers(const QString &connectionString, jet::Recordset &result);
+    /// How many items are of the types.
+    [[nodiscard]] int countItems(const QString &connectionString, std::span<const int> types);
     /// Raises RuleViolation when another row is such a type.
     void update(const QString &connectionString, int id, const QString &type, const QString &manufacturer,
                 const QString &model, const QString &typeNumber, const QString &description);
-    /// Hardware of the type stays, and shows in no list any more.
-    void Delete(const QString &connectionString, int id);
+    /// Hardware of the type stays, without one. Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
 };

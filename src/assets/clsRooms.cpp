@@ -108,10 +108,11 @@ void clsRooms::update(const QString &connectionString, int id, const QString &nu
                {{"number"_L1, number}, {"description"_L1, description}, {"id"_L1, idText}}));
 }
 
-void clsRooms::Delete(const QString &connectionString, int id)
+Report clsRooms::Delete(const QString &connectionString, std::span<const int> ids, const QStringList &names,
+                        Steps &steps)
 {
-    writeForEach(
-        connectionString, std::span(&id, 1),
+    return deleteEach(
+        connectionString, ids, names, steps,
         {"DELETE * FROM Tbl_RoomUsers WHERE RoomID= {id}"_L1, "DELETE * FROM Tbl_Rooms WHERE ID ={id}"_L1});
 }
 

@@ -4,6 +4,7 @@
 #include "store/recordclass.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <span>
 
@@ -30,8 +31,9 @@ public:
     void addHW(const QString &connectionString, int id, std::span<const int> items, bool deleteSW);
     /// Raises RuleViolation when another room has the number.
     void update(const QString &connectionString, int id, const QString &number, const QString &description);
-    /// Its hardware stays assigned to it: the rows of Tbl_RoomHW are not touched.
-    void Delete(const QString &connectionString, int id);
+    /// Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     void getAll(const QString &connectionString, jet::Recordset &result);
     /// Raises RuleViolation when the number is taken.
     void Add(const QString &connectionString, const QString &number, const QString &description);

@@ -98,9 +98,10 @@ void clsSW::update(const QString &connectionString, int id, const QString &type,
                      joined(change, product, id));
 }
 
-void clsSW::Delete(const QString &connectionString, int id)
+Report clsSW::Delete(const QString &connectionString, std::span<const int> ids, const QStringList &names,
+                     Steps &steps)
 {
-    write(connectionString, withId("DELETE * FROM Tbl_SW WHERE ID ={id}"_L1, id));
+    return deleteEach(connectionString, ids, names, steps, {"DELETE * FROM Tbl_SW WHERE ID ={id}"_L1});
 }
 
 void clsSW::getTypes(const QString &connectionString, jet::Recordset &result)

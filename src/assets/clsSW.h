@@ -4,6 +4,7 @@
 #include "store/recordclass.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <span>
 
@@ -32,7 +33,8 @@ public:
     /// Raises RuleViolation when another row is such a product.
     void update(const QString &connectionString, int id, const QString &type, const QString &manufacturer,
                 const QString &name, const QString &version, const QString &description);
-    /// The rows of Tbl_SWHW stay, and show in no list any more.
-    void Delete(const QString &connectionString, int id);
+    /// Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     void getTypes(const QString &connectionString, jet::Recordset &result);
 };

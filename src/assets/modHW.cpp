@@ -31,11 +31,6 @@ void editHW(const CommandContext &context)
     dialog.exec();
 }
 
-void deleteHW(const QString &connectionString, int id)
-{
-    clsHW().Delete(connectionString, id);
-}
-
 } // namespace
 
 void modHW::listUnassigned(QWidget *owner)
@@ -50,7 +45,8 @@ std::span<const OpRow> modHW::handlers()
         {Mode::HW, Op::AddNew, newHW},
         {Mode::HW, Op::Edit, editHW},
         {Mode::HW, Op::Delete,
-         deleteSelected(u"Deleting Hardware"_s, u"The following Hardware could not be deleted:"_s, deleteHW)},
+         deleteSelected<&clsHW::Delete>(u"Deleting Hardware"_s,
+                                        u"The following Hardware could not be deleted:"_s)},
         {Mode::HW, Op::Properties,
          properties({{PropertyTab::Users, readOf<&clsHW::getUser>},
                      {PropertyTab::Rooms, readOf<&clsHW::getRoom>},

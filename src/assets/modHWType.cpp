@@ -5,6 +5,7 @@
 #include "assets/clsHWType.h"
 #include "assets/clsRooms.h"
 #include "assets/frmSWHWType.h"
+#include "session/connectionstring.h"
 #include "store/clsUsers.h"
 #include "views/lists.h"
 
@@ -54,9 +55,14 @@ void editRow(const CommandContext &context)
     dialog.exec();
 }
 
-void deleteRow(const QString &connectionString, int id)
+/// What the question before a delete adds: hardware is no relationship of its type and stays.
+QString itemsLeftBehind(const CommandContext &context)
 {
-    clsHWType().Delete(connectionString, id);
+    const int items = clsHWType().countItems(getConnectionString(), context.selectedIds());
+    if (items == 0)
+        return {};
+    return u"%1 hardware item(s) of the selected type(s) stay in the Database and will be listed under "
+           "\"All Unassigned Hardware\" only."_s.arg(items);
 }
 
 } // namespace
@@ -73,8 +79,9 @@ std::span<const OpRow> modHWType::handlers()
         {Mode::HWType, Op::AddNew, newRow},
         {Mode::HWType, Op::Edit, editRow},
         {Mode::HWType, Op::Delete,
-         deleteSelected(u"Deleting Hardware Types"_s, u"The following Hardware Types could not be deleted:"_s,
-                        deleteRow)},
+         deleteSelected<&clsHWType::Delete>(u"Deleting Hardware Types"_s,
+                                            u"The following Hardware Types could not be deleted:"_s),
+         Needs::Selection, itemsLeftBehind},
         {Mode::HWType, Op::Properties,
          properties({{PropertyTab::Users, readOf<&clsUsers::getByHardwareType>},
                      {PropertyTab::Hardware, readOf<&clsHW::getOfType>},

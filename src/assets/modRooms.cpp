@@ -29,11 +29,6 @@ void editRoom(const CommandContext &context)
         });
 }
 
-void deleteRoom(const QString &connectionString, int id)
-{
-    clsRooms().Delete(connectionString, id);
-}
-
 } // namespace
 
 std::span<const OpRow> modRooms::handlers()
@@ -43,7 +38,8 @@ std::span<const OpRow> modRooms::handlers()
         {Mode::Rooms, Op::AddNew, newRoom},
         {Mode::Rooms, Op::Edit, editRoom},
         {Mode::Rooms, Op::Delete,
-         deleteSelected(u"Deleting Rooms"_s, u"The following Rooms could not be deleted:"_s, deleteRoom)},
+         deleteSelected<&clsRooms::Delete>(u"Deleting Rooms"_s,
+                                           u"The following Rooms could not be deleted:"_s)},
         {Mode::Rooms, Op::Properties,
          properties({{PropertyTab::Users, readOf<&clsRooms::getUsers>},
                      {PropertyTab::Hardware, readOf<&clsRooms::getHW>}})},

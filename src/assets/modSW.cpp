@@ -50,11 +50,6 @@ void editRow(const CommandContext &context)
     dialog.exec();
 }
 
-void deleteRow(const QString &connectionString, int id)
-{
-    clsSW().Delete(connectionString, id);
-}
-
 } // namespace
 
 std::span<const OpRow> modSW::handlers()
@@ -64,8 +59,8 @@ std::span<const OpRow> modSW::handlers()
         {Mode::SW, Op::AddNew, newRow},
         {Mode::SW, Op::Edit, editRow},
         {Mode::SW, Op::Delete,
-         deleteSelected(u"Deleting Software"_s, u"The following Software could not be deleted:"_s,
-                        deleteRow)},
+         deleteSelected<&clsSW::Delete>(u"Deleting Software"_s,
+                                        u"The following Software could not be deleted:"_s)},
         {Mode::SW, Op::Properties,
          properties({{PropertyTab::Users, readOf<&clsSW::getUsers>},
                      {PropertyTab::Hardware, readOf<&clsSW::getHW>}})},

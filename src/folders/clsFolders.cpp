@@ -34,12 +34,13 @@ void clsFolders::update(const QString &connectionString, int id, const QString &
                {{"path"_L1, name}, {"description"_L1, description}, {"id"_L1, idText}}));
 }
 
-void clsFolders::Delete(const QString &connectionString, std::span<const int> ids)
+Report clsFolders::Delete(const QString &connectionString, std::span<const int> ids, const QStringList &names,
+                          Steps &steps)
 {
-    writeForEach(connectionString, ids,
-                 {"DELETE * FROM Tbl_UserFolderPermission WHERE FolderID ={id}"_L1,
-                  "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE FolderID ={id}"_L1,
-                  "DELETE * FROM Tbl_Folders WHERE ID ={id}"_L1});
+    return deleteEach(connectionString, ids, names, steps,
+                      {"DELETE * FROM Tbl_UserFolderPermission WHERE FolderID ={id}"_L1,
+                       "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE FolderID ={id}"_L1,
+                       "DELETE * FROM Tbl_Folders WHERE ID ={id}"_L1});
 }
 
 void clsFolders::RemoveAllPermissions(const QString &connectionString, std::span<const int> ids)
@@ -73,9 +74,11 @@ void clsFolders::updateDefaultFolderPermission(const QString &connectionString, 
                {{"account"_L1, account}, {"permission"_L1, permission}, {"id"_L1, idText}}));
 }
 
-void clsFolders::DeleteDefaultFolderPermissions(const QString &connectionString, std::span<const int> ids)
+Report clsFolders::DeleteDefaultFolderPermissions(const QString &connectionString, std::span<const int> ids,
+                                                  const QStringList &names, Steps &steps)
 {
-    writeForEach(connectionString, ids, {"DELETE * FROM Tbl_FolderDefaultPermissions WHERE ID ={id}"_L1});
+    return deleteEach(connectionString, ids, names, steps,
+                      {"DELETE * FROM Tbl_FolderDefaultPermissions WHERE ID ={id}"_L1});
 }
 
 void clsFolders::getAll(const QString &connectionString, jet::Recordset &result)

@@ -23,8 +23,9 @@ public:
     void Add(const QString &connectionString, const QString &path, const QString &description);
     /// Raises RuleViolation when another folder has the path.
     void update(const QString &connectionString, int id, const QString &path, const QString &description);
-    /// Takes the users' and local groups' permissions away, too; those of global groups stay behind.
-    void Delete(const QString &connectionString, std::span<const int> ids);
+    /// Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     /// Takes all permissions away and leaves the folders.
     void RemoveAllPermissions(const QString &connectionString, std::span<const int> ids);
     /// A new folder is inserted, a known one gets the description unless existing ones are
@@ -57,7 +58,9 @@ public:
     /// Raises RuleViolation when another row has the account.
     void updateDefaultFolderPermission(const QString &connectionString, int id, const QString &account,
                                        const QString &permission);
-    void DeleteDefaultFolderPermissions(const QString &connectionString, std::span<const int> ids);
+    [[nodiscard]] Report DeleteDefaultFolderPermissions(const QString &connectionString,
+                                                        std::span<const int> ids, const QStringList &names,
+                                                        Steps &steps);
 
     void getAll(const QString &connectionString, jet::Recordset &result);
     void Find(const QString &connectionString, jet::Recordset &result, const QString &text);

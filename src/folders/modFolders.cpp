@@ -29,11 +29,6 @@ void editFolder(const CommandContext &context)
         });
 }
 
-void deleteFolder(const QString &connectionString, int id)
-{
-    clsFolders().Delete(connectionString, std::span(&id, 1));
-}
-
 void newDefaultPermission(const CommandContext &context)
 {
     frmFolderDefaultPermissions dialog(
@@ -56,11 +51,6 @@ void editDefaultPermission(const CommandContext &context)
     dialog.exec();
 }
 
-void deleteDefaultPermission(const QString &connectionString, int id)
-{
-    clsFolders().DeleteDefaultFolderPermissions(connectionString, std::span(&id, 1));
-}
-
 } // namespace
 
 std::span<const OpRow> modFolders::handlers()
@@ -72,8 +62,8 @@ std::span<const OpRow> modFolders::handlers()
         {folders, Op::AddNew, newFolder},
         {folders, Op::Edit, editFolder},
         {folders, Op::Delete,
-         deleteSelected(u"Deleting Folders"_s, u"The following Folders could not be deleted:"_s,
-                        deleteFolder)},
+         deleteSelected<&clsFolders::Delete>(u"Deleting Folders"_s,
+                                             u"The following Folders could not be deleted:"_s)},
         {folders, Op::Properties,
          properties({{PropertyTab::GlobalGroups, readOf<&clsFolders::getGlobalGroups>},
                      {PropertyTab::LocalGroups, readOf<&clsFolders::getLocalGroups>},
@@ -90,9 +80,9 @@ std::span<const OpRow> modFolders::handlers()
         {defaults, Op::AddNew, newDefaultPermission},
         {defaults, Op::Edit, editDefaultPermission},
         {defaults, Op::Delete,
-         deleteSelected(u"Deleting Default Permissions"_s,
-                        u"The following Default Permissions could not be deleted:"_s,
-                        deleteDefaultPermission)},
+         deleteSelected<&clsFolders::DeleteDefaultFolderPermissions>(
+             u"Deleting Default Permissions"_s,
+             u"The following Default Permissions could not be deleted:"_s)},
     };
     return table;
 }

@@ -64,9 +64,11 @@ QStringList clsCustomQuery::fieldNames(const QString &connectionString, const QS
     return names;
 }
 
-void clsCustomQuery::Delete(const QString &connectionString, int id)
+Report clsCustomQuery::Delete(const QString &connectionString, std::span<const int> ids,
+                              const QStringList &names, Steps &steps)
 {
-    write(connectionString, withId("DELETE * FROM Tbl_CustomQuery WHERE ID ={id}"_L1, id));
+    return deleteEach(connectionString, ids, names, steps,
+                      {"DELETE * FROM Tbl_CustomQuery WHERE ID ={id}"_L1});
 }
 
 void clsCustomQuery::update(const QString &connectionString, int id, const QString &name,

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <span>
+
 /// All that reads and writes Tbl_CustomQuery, the saved statements, and the way to run one. A
 /// query is known by its name.
 ///
@@ -27,7 +29,9 @@ public:
     /// The fields of a table in their order.
     [[nodiscard]] QStringList fieldNames(const QString &connectionString, const QString &table);
     void Execute(const QString &connectionString, jet::Recordset &result, const QString &statement);
-    void Delete(const QString &connectionString, int id);
+    /// Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     /// Raises RuleViolation when another query has the name.
     void update(const QString &connectionString, int id, const QString &name, const QString &description,
                 const QString &statement);

@@ -103,11 +103,6 @@ void executeQuery(const CommandContext &context)
     modCustomQuery::run(context.owner, context.subItem(3), context.subItem(2));
 }
 
-void deleteQuery(const QString &connectionString, int id)
-{
-    clsCustomQuery().Delete(connectionString, id);
-}
-
 } // namespace
 
 std::span<const OpRow> modCustomQuery::handlers()
@@ -117,8 +112,8 @@ std::span<const OpRow> modCustomQuery::handlers()
         {Mode::QRY, Op::AddNew, newQuery},
         {Mode::QRY, Op::Edit, editQuery},
         {Mode::QRY, Op::Delete,
-         deleteSelected(u"Deleting Queries"_s, u"The following Queries could not be deleted:"_s,
-                        deleteQuery)},
+         deleteSelected<&clsCustomQuery::Delete>(u"Deleting Queries"_s,
+                                                 u"The following Queries could not be deleted:"_s)},
         {Mode::QRY, Op::ExecuteQuery, executeQuery, Needs::StoredRow},
     };
     return table;

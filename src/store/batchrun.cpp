@@ -25,10 +25,11 @@ BatchRun::BatchRun(QString connectionString, Steps &steps, Report &report,
 {
 }
 
-void BatchRun::expect(int count, const QString &last)
+void BatchRun::expect(int count, const QString &last, QLatin1StringView lost)
 {
     m_count = count;
     m_last = last;
+    m_lost = lost;
 }
 
 template <typename Step>
@@ -114,7 +115,7 @@ void BatchRun::lose(const Error &failure)
 QString BatchRun::remains() const
 {
     const int count = std::max(m_count, m_position);
-    const QString text = u"\r\nNot in the Database: %1 of %2, "_s.arg(count - m_firstPending + 1).arg(count);
+    const QString text = u"\r\n%1: %2 of %3, "_s.arg(m_lost).arg(count - m_firstPending + 1).arg(count);
     if (m_firstPending == count)
         return text + m_firstPendingName;
     return text + "from "_L1 + m_firstPendingName + " to "_L1 + m_last;

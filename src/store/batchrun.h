@@ -3,6 +3,7 @@
 #include "base/steps.h"
 #include "store/storesession.h"
 
+#include <QLatin1StringView>
 #include <QString>
 
 #include <functional>
@@ -26,8 +27,9 @@ class BatchRun final
 public:
     BatchRun(QString connectionString, Steps &steps, Report &report, std::initializer_list<int *> counters);
 
-    /// What will come, for the report.
-    void expect(int count, const QString &last);
+    /// What will come, and what is said of the items that are lost, for the report.
+    void expect(int count, const QString &last,
+                QLatin1StringView lost = QLatin1StringView("Not in the Database"));
 
     /// Shows the item and does the work on it. False when the batch is at its end: the user cancelled, or the
     /// store was lost. Raises what the work raises, except jet::StoreFailure.
@@ -54,6 +56,7 @@ private:
 
     int m_count = 0;
     QString m_last;
+    QLatin1StringView m_lost;
     int m_position = 0;
     int m_firstPending = 1; ///< all items before are in the store
     QString m_firstPendingName;

@@ -16,11 +16,12 @@ constexpr RelationStatements localGroupsOfGroup = {
 
 } // namespace
 
-void clsGlobalGroups::Delete(const QString &connectionString, std::span<const int> ids)
+Report clsGlobalGroups::Delete(const QString &connectionString, std::span<const int> ids,
+                               const QStringList &names, Steps &steps)
 {
-    writeForEach(connectionString, ids,
-                 {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE GlobalGroupID ={id}"_L1,
-                  "DELETE * FROM Tbl_GlobalGroups WHERE ID ={id}"_L1});
+    return deleteEach(connectionString, ids, names, steps,
+                      {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE GlobalGroupID ={id}"_L1,
+                       "DELETE * FROM Tbl_GlobalGroups WHERE ID ={id}"_L1});
 }
 
 void clsGlobalGroups::RemoveUsers(const QString &connectionString, std::span<const int> ids)

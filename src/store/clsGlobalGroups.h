@@ -16,8 +16,9 @@
 class clsGlobalGroups final : public RecordClass
 {
 public:
-    /// Takes the groups out of the local groups, too. Their users and permissions stay behind.
-    void Delete(const QString &connectionString, std::span<const int> ids);
+    /// Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     void RemoveUsers(const QString &connectionString, std::span<const int> ids);
     void getAll(const QString &connectionString, jet::Recordset &result);
     /// One permission a folder, in the same order. A permission the group has on a folder is

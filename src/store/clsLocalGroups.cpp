@@ -40,12 +40,13 @@ void clsLocalGroups::Find(const QString &connectionString, jet::Recordset &resul
                 {{"name"_L1, name}}));
 }
 
-void clsLocalGroups::Delete(const QString &connectionString, std::span<const int> ids)
+Report clsLocalGroups::Delete(const QString &connectionString, std::span<const int> ids,
+                              const QStringList &names, Steps &steps)
 {
-    writeForEach(connectionString, ids,
-                 {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE LocalGroupID ={id}"_L1,
-                  "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID ={id}"_L1,
-                  "DELETE * FROM Tbl_LocalGroups WHERE ID ={id}"_L1});
+    return deleteEach(connectionString, ids, names, steps,
+                      {"DELETE * FROM Tbl_LocalGroupsGlobalGroups WHERE LocalGroupID ={id}"_L1,
+                       "DELETE * FROM Tbl_LocalGroupFolderPermission WHERE LocalGroupID ={id}"_L1,
+                       "DELETE * FROM Tbl_LocalGroups WHERE ID ={id}"_L1});
 }
 
 void clsLocalGroups::getAll(const QString &connectionString, jet::Recordset &result)

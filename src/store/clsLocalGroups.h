@@ -28,8 +28,9 @@ public:
     void AddBatch(const QString &connectionString, jet::Recordset &records, bool leaveExisting, Steps &steps,
                   Report &report, AtFailure atFailure = AtFailure::Raise);
     void Find(const QString &connectionString, jet::Recordset &result, const QString &name);
-    /// Takes the groups' global groups and permissions away, too. Their users stay behind.
-    void Delete(const QString &connectionString, std::span<const int> ids);
+    /// Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     void getAll(const QString &connectionString, jet::Recordset &result);
     void getAllLocalGroupNames(const QString &connectionString, jet::Recordset &result);
     /// The global groups that are members of the group.

@@ -81,9 +81,10 @@ void clsUsers::update(const QString &connectionString, const UserRecord &user)
     });
 }
 
-void clsUsers::Delete(const QString &connectionString, std::span<const int> ids)
+Report clsUsers::Delete(const QString &connectionString, std::span<const int> ids, const QStringList &names,
+                        Steps &steps)
 {
-    writeForEach(connectionString, ids, {"DELETE * FROM Tbl_Users WHERE UserID ={id}"_L1});
+    return deleteEach(connectionString, ids, names, steps, {"DELETE * FROM Tbl_Users WHERE UserID ={id}"_L1});
 }
 
 void clsUsers::RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids)

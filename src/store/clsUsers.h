@@ -14,7 +14,7 @@
 /// the latter survives a new import.
 ///
 /// The readers open the caller's recordset; its rows need no store any more. Every method
-/// raises the store's error, except the two batch writers, which report it.
+/// raises the store's error, except the two batch writers and Delete, which report it.
 class clsUsers final : public RecordClass
 {
 public:
@@ -37,9 +37,10 @@ public:
     /// may be taken. Raises RuleViolation for a user who is not in the store.
     void addFoldersBatch(const QString &connectionString, const QString &userName, jet::Recordset &records,
                          QString &failed);
-    /// The rows of the relationship tables stay. The next new user takes a deleted id if it was
-    /// the highest, and with it what stayed.
-    void Delete(const QString &connectionString, std::span<const int> ids);
+    /// Each takes its memberships, permissions, hardware and rooms along, unless another user has the id,
+    /// too. Reports what fails, see RecordClass::deleteEach.
+    [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
+                                const QStringList &names, Steps &steps);
     void RemoveFolderPermissions(const QString &connectionString, std::span<const int> ids);
     /// The fields of the result are the template of recordsets made in memory; a row means nothing.
     void getStructure(const QString &connectionString, jet::Recordset &result);

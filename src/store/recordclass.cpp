@@ -6,6 +6,8 @@
 #include "store/statement.h"
 #include "store/storesession.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Keeps what was written before a failure; that it could not is told along with it.
@@ -111,6 +113,45 @@ void RecordClass::writeForEach(const QString &connectionString, std::span<const 
                 store.execute(withId(statement, id));
         }
     });
+}
+
+Report RecordClass::deleteEach(const QString &connectionString, std::span<const int> ids,
+                               const QStringList &names, Steps &steps,
+                               std::initializer_list<QLatin1StringView> statements)
+{
+    Q_ASSERT(names.size() == qsizetype(ids.size()));
+    Report report;
+    if (ids.empty())
+        return report;
+    QString failures;
+    std::size_t at = 0;
+    const auto line = [&](const QString &reason) -> QString {
+        return names[qsizetype(at)] + ": "_L1 + reason + "\r\n"_L1;
+    };
+    const auto deleteOne = [&](StoreSession &store) {
+        try {
+            for (const QLatin1StringView statement : statements)
+                store.execute(withId(statement, ids[at]));
+            ++report.done;
+        } catch (const jet::StoreFailure &) {
+            throw;
+        } catch (const Error &error) {
+            ++report.failed;
+            failures += line(error.description());
+        }
+    };
+    runBatch(connectionString, steps, report, {&report.done}, [&](BatchRun &run) {
+        run.expect(int(ids.size()), names.last(), "Not deleted"_L1);
+        while (at < ids.size() && run.item(names[qsizetype(at)], deleteOne))
+            ++at;
+    });
+    // Why it ended early: of the item at hand when another program held the store.
+    if (report.end == Report::End::Cancelled && !report.text.isEmpty() && at < ids.size())
+        report.text = line(report.text);
+    else if (!report.text.isEmpty() && !failures.isEmpty())
+        report.text += "\r\n\r\n"_L1;
+    report.text += failures;
+    return report;
 }
 
 void RecordClass::writeRelations(const QString &connectionString, const RelationStatements &statements,

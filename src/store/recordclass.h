@@ -6,6 +6,7 @@
 
 #include <QLatin1StringView>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <initializer_list>
@@ -54,6 +55,10 @@ protected:
     /// The statements, whose one marker is {id}, in their order for one id after the other.
     void writeForEach(const QString &connectionString, std::span<const int> ids,
                       std::initializer_list<QLatin1StringView> statements);
+    /// The same as a batch, whose report has a line for each id that failed; the names are those of the ids.
+    [[nodiscard]] Report deleteEach(const QString &connectionString, std::span<const int> ids,
+                                    const QStringList &names, Steps &steps,
+                                    std::initializer_list<QLatin1StringView> statements);
     /// One permission an item. The object keeps its other rows unless they are cleared first.
     void writeRelations(const QString &connectionString, const RelationStatements &statements, int id,
                         std::span<const int> items, const QStringList &permissions, bool clearFirst);

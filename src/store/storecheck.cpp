@@ -3,11 +3,16 @@
 #include "base/error.h"
 #include "base/errornumbers.h"
 #include "platform/jet/connection.h"
+#include "platform/jet/errors.h"
 #include "platform/jet/inspection.h"
 #include "platform/jet/recordset.h"
+#include "platform/jet/storefile.h"
+#include "store/relationships.h"
 #include "store/statement.h"
 #include "store/storefile.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -18,38 +23,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A column that holds the ids of another table.
-struct Relationship
-{
-    QLatin1StringView table;
-    QLatin1StringView column;
-    QLatin1StringView target;
-    QLatin1StringView id;
-};
-
-constexpr Relationship relationships[] = {
-    {"Tbl_GlobalGroupsUsers"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1, "ID"_L1},
-    {"Tbl_GlobalGroupsUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
-    {"Tbl_LocalGroupsUsers"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1, "ID"_L1},
-    {"Tbl_LocalGroupsUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
-    {"Tbl_LocalGroupsGlobalGroups"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1, "ID"_L1},
-    {"Tbl_LocalGroupsGlobalGroups"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1, "ID"_L1},
-    {"Tbl_UserFolderPermission"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
-    {"Tbl_UserFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1, "ID"_L1},
-    {"Tbl_LocalGroupFolderPermission"_L1, "LocalGroupID"_L1, "Tbl_LocalGroups"_L1, "ID"_L1},
-    {"Tbl_LocalGroupFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1, "ID"_L1},
-    {"Tbl_GlobalGroupFolderPermission"_L1, "GlobalGroupID"_L1, "Tbl_GlobalGroups"_L1, "ID"_L1},
-    {"Tbl_GlobalGroupFolderPermission"_L1, "FolderID"_L1, "Tbl_Folders"_L1, "ID"_L1},
-    {"Tbl_UserHW"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
-    {"Tbl_UserHW"_L1, "HWID"_L1, "Tbl_HW"_L1, "ID"_L1},
-    {"Tbl_RoomHW"_L1, "RoomID"_L1, "Tbl_Rooms"_L1, "ID"_L1},
-    {"Tbl_RoomHW"_L1, "HWID"_L1, "Tbl_HW"_L1, "ID"_L1},
-    {"Tbl_RoomUsers"_L1, "RoomID"_L1, "Tbl_Rooms"_L1, "ID"_L1},
-    {"Tbl_RoomUsers"_L1, "UserID"_L1, "Tbl_Users"_L1, "UserID"_L1},
-    {"Tbl_SWHW"_L1, "SWID"_L1, "Tbl_SW"_L1, "ID"_L1},
-    {"Tbl_SWHW"_L1, "HWID"_L1, "Tbl_HW"_L1, "ID"_L1},
-    {"Tbl_HW"_L1, "HWTypeID"_L1, "Tbl_HWType"_L1, "ID"_L1},
-};
+/// Hardware stays without its type.
+constexpr jet::DeleteRule typeOfHardware = {"Tbl_HW", "HWTypeID", "Tbl_HWType", "ID"};
 
 /// What tells the rows of a table from each other. No index holds the store to it. The rules are tested
 /// before each write, which two programs may do at the same moment; and an import gives a known user the id
@@ -132,28 +107,78 @@ void compareTables(const std::vector<jet::StoredTable> &found, QStringList &find
     }
 }
 
-bool has(const std::vector<jet::StoredTable> &tables, QLatin1StringView table, QLatin1StringView column)
+bool has(const std::vector<jet::StoredTable> &tables, const QString &table, const QString &column)
 {
-    const jet::StoredTable *const found = named(tables, QString(table));
-    return found != nullptr && named(found->columns, QString(column)) != nullptr;
+    const jet::StoredTable *const found = named(tables, table);
+    return found != nullptr && named(found->columns, column) != nullptr;
 }
 
-void countLooseRows(jet::Connection &connection, const Relationship &relationship, QStringList &findings)
+/// A text that holds {table}, {column}, {target} and {id}.
+QString filled(QLatin1StringView text, const jet::DeleteRule &rule)
+{
+    const auto asText = [](std::string_view name) {
+        return QString::fromLatin1(name.data(), qsizetype(name.size()));
+    };
+    return joined(text, {{"table"_L1, asText(rule.table)},
+                         {"column"_L1, asText(rule.column)},
+                         {"target"_L1, asText(rule.target)},
+                         {"id"_L1, asText(rule.id)}});
+}
+
+bool has(const std::vector<jet::StoredTable> &tables, const jet::DeleteRule &rule)
+{
+    return has(tables, filled("{table}"_L1, rule), filled("{column}"_L1, rule)) &&
+           has(tables, filled("{target}"_L1, rule), filled("{id}"_L1, rule));
+}
+
+qint64 looseRows(jet::Connection &connection, const jet::DeleteRule &rule)
 {
     jet::Recordset result;
-    result.open(joined("SELECT Count(*) FROM {table} LEFT JOIN {target} ON {table}.{column} = {target}.{id} "
+    result.open(filled("SELECT Count(*) FROM {table} LEFT JOIN {target} ON {table}.{column} = {target}.{id} "
                        "WHERE {target}.{id} Is Null AND {table}.{column} Is Not Null"_L1,
-                       {{"table"_L1, QString(relationship.table)},
-                        {"column"_L1, QString(relationship.column)},
-                        {"target"_L1, QString(relationship.target)},
-                        {"id"_L1, QString(relationship.id)}}),
+                       rule),
                 connection);
-    const qint64 count = result.value(0).toInteger();
-    if (count == 0)
-        return;
-    findings.append("Table "_L1 + relationship.table + ": "_L1 + QString::number(count) +
-                    (count == 1 ? " row has a "_L1 : " rows have a "_L1) + relationship.column +
-                    " that is not in "_L1 + relationship.target + u'.');
+    return result.value(0).toInteger();
+}
+
+void countLooseRows(jet::Connection &connection, const jet::DeleteRule &rule, QStringList &findings)
+{
+    const qint64 count = looseRows(connection, rule);
+    if (count > 0)
+        findings.append(filled("Table {table}: "_L1, rule) + QString::number(count) +
+                        (count == 1 ? " row has a "_L1 : " rows have a "_L1) +
+                        filled("{column} that is not in {target}."_L1, rule));
+}
+
+/// The copy of the store that a repair leaves beside it, by a name that nothing has yet.
+QString copyBeside(const QString &path)
+{
+    const QFileInfo store(path);
+    const QString start = store.completeBaseName() + "-before-repair"_L1;
+    const QString suffix = store.suffix().isEmpty() ? QString() : u'.' + store.suffix();
+    QString copy;
+    for (int number = 1; copy.isEmpty() || QFileInfo::exists(copy) || QFileInfo(copy).isSymLink(); ++number)
+        copy =
+            store.dir().filePath(start + (number == 1 ? QString() : u'-' + QString::number(number)) + suffix);
+    jet::copyDatabase(path, copy);
+    return copy;
+}
+
+QStringList removeLooseRows(jet::Connection &connection, const std::vector<const jet::DeleteRule *> &rules)
+{
+    QStringList removed;
+    for (const jet::DeleteRule *rule : rules) {
+        const qint64 count = looseRows(connection, *rule);
+        if (count == 0)
+            continue;
+        connection.execute(filled("DELETE FROM {table} WHERE {column} NOT IN "
+                                  "(SELECT {id} FROM {target} WHERE {id} Is Not Null)"_L1,
+                                  *rule));
+        removed.append(filled("Table {table}: removed "_L1, *rule) + QString::number(count) +
+                       (count == 1 ? " row whose "_L1 : " rows whose "_L1) +
+                       filled("{column} is not in {target}."_L1, *rule));
+    }
+    return removed;
 }
 
 /// Each value that more than one row has for a key that is not Null.
@@ -203,19 +228,50 @@ QStringList checkStore(const QString &path)
     };
     // What lacks a table or a column was told already.
     for (const Key &key : keys) {
-        if (!std::ranges::all_of(key.columns, [&](auto column) { return has(tables, key.table, column); }))
+        if (!std::ranges::all_of(
+                key.columns, [&](auto column) { return has(tables, QString(key.table), QString(column)); }))
             continue;
         find("Whether "_L1 + QStringList(key.columns.begin(), key.columns.end()).join(", "_L1) + " of "_L1 +
                  key.table + " stand there once"_L1,
              [&] { findRepeatedKeys(connection, key, findings); });
     }
-    for (const Relationship &relationship : relationships) {
-        if (!has(tables, relationship.table, relationship.column) ||
-            !has(tables, relationship.target, relationship.id))
-            continue;
-        find("Whether every "_L1 + relationship.column + " of "_L1 + relationship.table + " is in "_L1 +
-                 relationship.target,
-             [&] { countLooseRows(connection, relationship, findings); });
-    }
+    const auto findLooseRows = [&](const jet::DeleteRule &rule) {
+        if (has(tables, rule))
+            find(filled("Whether every {column} of {table} is in {target}"_L1, rule),
+                 [&] { countLooseRows(connection, rule, findings); });
+    };
+    std::ranges::for_each(relationships, findLooseRows);
+    findLooseRows(typeOfHardware);
     return findings;
+}
+
+QStringList repairStore(const QString &path)
+{
+    jet::Connection connection;
+    connection.open(jet::connectionString(path));
+    // What is found loose, copied and removed is the same: nobody else writes from here on.
+    connection.beginWriting();
+    try {
+        if (!jet::brokenPlaces(connection).isEmpty())
+            throwError(jet::Failure, "The store '"_L1 + path + "' is damaged and was not repaired."_L1);
+        const std::vector<jet::StoredTable> tables = jet::storedTables(connection);
+        std::vector<const jet::DeleteRule *> loose;
+        for (const jet::DeleteRule &rule : relationships) {
+            if (has(tables, rule) && looseRows(connection, rule) > 0)
+                loose.push_back(&rule);
+        }
+        QStringList told;
+        if (!loose.empty()) {
+            told.append("The store as it was is kept in "_L1 + copyBeside(path) + u'.');
+            connection.keepDeleteRules(relationships);
+            told += removeLooseRows(connection, loose);
+        }
+        connection.commit();
+        connection.close();
+        return told;
+    } catch (const Error &) {
+        if (connection.state() != jet::StateClosed)
+            connection.rollBack();
+        throw;
+    }
 }

@@ -10,3 +10,9 @@
 /// new store are no findings. Raises jet::Failure when the file cannot be opened as a store or
 /// another program holds it; what cannot be looked at in it is a finding.
 [[nodiscard]] QStringList checkStore(const QString &path);
+
+/// Removes the rows of relationships that have lost an end, after a copy of the store beside it. Tells what
+/// it did, a sentence each; empty when there was nothing to remove, and no copy either. Raises jet::Failure
+/// when the file cannot be opened as a store, is damaged, cannot be copied, or another program holds it: it
+/// is left as it was then.
+[[nodiscard]] QStringList repairStore(const QString &path);

@@ -2,10 +2,12 @@
 
 #include "platform/jet/database.h"
 #include "platform/jet/errors.h"
+#include "store/relationships.h"
 
 StoreSession::StoreSession(const QString &connectionString)
 {
     m_connection.open(connectionString);
+    m_connection.keepDeleteRules(relationships);
 }
 
 StoreSession::~StoreSession()

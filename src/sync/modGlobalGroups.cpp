@@ -33,11 +33,6 @@ void editGroup(const CommandContext &context)
         });
 }
 
-void deleteGroup(const QString &connectionString, int id)
-{
-    clsGlobalGroups().Delete(connectionString, std::span(&id, 1));
-}
-
 } // namespace
 
 std::span<const OpRow> modGlobalGroups::handlers()
@@ -48,8 +43,8 @@ std::span<const OpRow> modGlobalGroups::handlers()
         {Mode::GlobalGroups, Op::AddNew, newGroup},
         {Mode::GlobalGroups, Op::Edit, editGroup},
         {Mode::GlobalGroups, Op::Delete,
-         deleteSelected(u"Deleting Global Groups"_s, u"The following Global Groups could not be deleted:"_s,
-                        deleteGroup)},
+         deleteSelected<&clsGlobalGroups::Delete>(u"Deleting Global Groups"_s,
+                                                  u"The following Global Groups could not be deleted:"_s)},
         {Mode::GlobalGroups, Op::Properties,
          properties({{PropertyTab::LocalGroups, readOf<&clsGlobalGroups::getLocalGroups>},
                      {PropertyTab::Users, readOf<&clsGlobalGroups::getUsers>},

@@ -36,11 +36,6 @@ void editGroup(const CommandContext &context)
         });
 }
 
-void deleteGroup(const QString &connectionString, int id)
-{
-    clsLocalGroups().Delete(connectionString, std::span(&id, 1));
-}
-
 } // namespace
 
 std::span<const OpRow> modLocalGroups::handlers()
@@ -51,8 +46,8 @@ std::span<const OpRow> modLocalGroups::handlers()
         {Mode::LocalGroups, Op::AddNew, newGroup},
         {Mode::LocalGroups, Op::Edit, editGroup},
         {Mode::LocalGroups, Op::Delete,
-         deleteSelected(u"Deleting Local Groups"_s, u"The following Local Groups could not be deleted:"_s,
-                        deleteGroup)},
+         deleteSelected<&clsLocalGroups::Delete>(u"Deleting Local Groups"_s,
+                                                 u"The following Local Groups could not be deleted:"_s)},
         {Mode::LocalGroups, Op::Properties,
          properties({{PropertyTab::GlobalGroups, readOf<&clsLocalGroups::getGlobalGroups>},
                      {PropertyTab::Users, readOf<&clsLocalGroups::getUsers>},

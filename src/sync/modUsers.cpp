@@ -25,11 +25,6 @@ void editUser(const CommandContext &context)
     dialog.exec();
 }
 
-void deleteUser(const QString &connectionString, int id)
-{
-    clsUsers().Delete(connectionString, std::span(&id, 1));
-}
-
 } // namespace
 
 std::span<const OpRow> modUsers::handlers()
@@ -39,7 +34,8 @@ std::span<const OpRow> modUsers::handlers()
         {Mode::Users, Op::AddNew, newUser},
         {Mode::Users, Op::Edit, editUser},
         {Mode::Users, Op::Delete,
-         deleteSelected(u"Deleting Users"_s, u"The following Users could not be deleted:"_s, deleteUser)},
+         deleteSelected<&clsUsers::Delete>(u"Deleting Users"_s,
+                                           u"The following Users could not be deleted:"_s)},
         {Mode::Users, Op::Properties,
          properties({{PropertyTab::GlobalGroups, readOf<&clsUsers::getGlobalGroups>},
                      {PropertyTab::LocalGroups, readOf<&clsUsers::getLocalGroups>},

@@ -62,8 +62,8 @@ ListView::ListView(QWidget *parent) : QTreeView(parent), m_model(new ListModel(t
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollMode(ScrollPerPixel);
 
-    // The header asks of each column whether all of its rows are selected: of the list's selection that takes a
-    // walk over the rows at each click.
+    // The header asks of each column whether all of its rows are selected: of the list's selection that takes
+    // a walk over the rows at each click.
     header()->setSelectionModel(new QItemSelectionModel(m_model, header()));
     header()->setSectionsClickable(true);
     header()->setSectionsMovable(false);

@@ -1,12 +1,8 @@
 #include "views/lists.h"
 
-#include "base/error.h"
-#include "base/steps.h"
-#include "messages/guard.h"
 #include "messages/progresssteps.h"
 #include "messages/reportbatch.h"
 #include "messages/status.h"
-#include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 #include "session/connectionstring.h"
 #include "toolkit/pointer.h"
@@ -18,38 +14,6 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-Report deleteEach(Steps &steps, const QString &connectionString, const QString &title,
-                  const std::vector<int> &ids, const QStringList &names,
-                  const std::function<void(const QString &, int)> &deleteOne)
-{
-    Report report;
-    steps.phase(title, int(ids.size()));
-    for (std::size_t i = 0; i < ids.size(); ++i) {
-        const QString &name = names[qsizetype(i)];
-        if (!steps.step(name)) {
-            report.end = Report::End::Cancelled;
-            break;
-        }
-        try {
-            deleteOne(connectionString, ids[i]);
-            ++report.done;
-        } catch (const jet::ChangesLost &lost) {
-            ++report.failed;
-            report.text += name % ": "_L1 % lost.description() % "\r\n"_L1;
-            report.end = Report::End::Lost;
-            break;
-        } catch (const Error &error) {
-            ++report.failed;
-            report.text += name % ": "_L1 % error.description() % "\r\n"_L1;
-        }
-    }
-    return report;
-}
-
-} // namespace
 
 Handler properties(std::vector<PropertyList> lists)
 {
@@ -69,8 +33,7 @@ Handler properties(std::vector<PropertyList> lists)
     };
 }
 
-Handler deleteSelected(QString progressTitle, QString failureHeading,
-                       std::function<void(const QString &, int)> deleteOne)
+Handler deleteSelected(QString progressTitle, QString failureHeading, DeleteMethod deleteAll)
 {
     return [=](const CommandContext &context) {
         const std::vector<int> ids = context.selectedIds();
@@ -78,7 +41,8 @@ Handler deleteSelected(QString progressTitle, QString failureHeading,
         for (const int row : context.pane->selectedRows())
             names.append(modRender::objectName(context.mode, *context.pane, row));
         const auto run = [&](Steps &steps) {
-            return deleteEach(steps, getConnectionString(), progressTitle, ids, names, deleteOne);
+            steps.phase(progressTitle, int(ids.size()));
+            return deleteAll(getConnectionString(), ids, names, steps);
         };
         Report report;
         if (ids.size() > 1) {
@@ -88,7 +52,7 @@ Handler deleteSelected(QString progressTitle, QString failureHeading,
             NoSteps steps;
             report = run(steps);
         }
-        if (!report.text.isEmpty())
+        if (!report.text.isEmpty() || !report.note.isEmpty())
             reportBatch(context.owner, report, failureHeading);
     };
 }

@@ -1,18 +1,21 @@
 #pragma once
 
+#include "base/steps.h"
 #include "views/families.h"
 #include "views/frmProperties.h"
 #include "views/openview.h"
 
+#include <functional>
+#include <span>
 #include <type_traits>
 
 // What the tables of families are made of: the handlers that all families have in common, made from a
 // method of a record class.
 
 template <typename Method>
-struct ReaderOf;
-template <typename Record, typename... Arguments>
-struct ReaderOf<void (Record::*)(Arguments...)>
+struct RecordOf;
+template <typename Result, typename Record, typename... Arguments>
+struct RecordOf<Result (Record::*)(Arguments...)>
 {
     using Class = Record;
 };
@@ -21,7 +24,7 @@ struct ReaderOf<void (Record::*)(Arguments...)>
 template <auto method>
 void readAll(const QString &connectionString, jet::Recordset &rows)
 {
-    typename ReaderOf<decltype(method)>::Class record;
+    typename RecordOf<decltype(method)>::Class record;
     (record.*method)(connectionString, rows);
 }
 
@@ -29,7 +32,7 @@ void readAll(const QString &connectionString, jet::Recordset &rows)
 template <auto method>
 void readOf(const QString &connectionString, jet::Recordset &rows, int id)
 {
-    typename ReaderOf<decltype(method)>::Class record;
+    typename RecordOf<decltype(method)>::Class record;
     if constexpr (std::is_invocable_v<decltype(method), decltype(record), const QString &, int,
                                       jet::Recordset &>)
         (record.*method)(connectionString, id, rows);
@@ -68,7 +71,21 @@ struct PropertyList
 /// The property window of the current row's object.
 [[nodiscard]] Handler properties(std::vector<PropertyList> lists);
 
-/// Deletes the selected objects one by one, with a progress window when they are many. What fails is
-/// reported by name; the others are deleted all the same.
-[[nodiscard]] Handler deleteSelected(QString progressTitle, QString failureHeading,
-                                     std::function<void(const QString &connectionString, int id)> deleteOne);
+/// Deletes the objects of the ids, each a step by its name.
+using DeleteMethod = std::function<Report(const QString &connectionString, std::span<const int> ids,
+                                          const QStringList &names, Steps &steps)>;
+
+/// Deletes the selected objects, with a progress window when they are many, and reports what failed.
+[[nodiscard]] Handler deleteSelected(QString progressTitle, QString failureHeading, DeleteMethod deleteAll);
+
+/// The same by a method of a record class.
+template <auto method>
+Handler deleteSelected(QString progressTitle, QString failureHeading)
+{
+    return deleteSelected(std::move(progressTitle), std::move(failureHeading),
+                          [](const QString &connectionString, std::span<const int> ids,
+                             const QStringList &names, Steps &steps) {
+                              typename RecordOf<decltype(method)>::Class record;
+                              return (record.*method)(connectionString, ids, names, steps);
+                          });
+}

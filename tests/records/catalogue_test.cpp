@@ -7,6 +7,7 @@
 #include "queries/clsCustomQuery.h"
 #include "store/clsGlobalGroups.h"
 #include "store/clsLocalGroups.h"
+#include "support/deleting.h"
 #include "support/recordtest.h"
 
 #include <functional>
@@ -47,7 +48,7 @@ Catalogue products(const char *name, const QString &table, const QString &refusa
             [](const QString &store, int id, const QStringList &v) {
                 Records().update(store, id, v[0], v[1], v[2], v[3], v[4]);
             },
-            [](const QString &store, int id) { Records().Delete(store, id); }};
+            [](const QString &store, int id) { (void)deleteAll(Records(), store, std::span(&id, 1)); }};
 }
 
 template <typename Groups>
@@ -65,7 +66,7 @@ Catalogue groups(const char *name, const QString &table, const QString &refusal)
             [](const QString &store, int id, const QStringList &v) {
                 Groups().update(store, id, v[1], v[0], v[2]);
             },
-            [](const QString &store, int id) { Groups().Delete(store, std::span(&id, 1)); }};
+            [](const QString &store, int id) { (void)deleteAll(Groups(), store, std::span(&id, 1)); }};
 }
 
 const Catalogue catalogues[] = {
@@ -81,7 +82,7 @@ const Catalogue catalogues[] = {
      1,
      [](const QString &store, const QStringList &v) { clsFolders().Add(store, v[0], v[1]); },
      [](const QString &store, int id, const QStringList &v) { clsFolders().update(store, id, v[0], v[1]); },
-     [](const QString &store, int id) { clsFolders().Delete(store, std::span(&id, 1)); }},
+     [](const QString &store, int id) { (void)deleteAll(clsFolders(), store, std::span(&id, 1)); }},
     {"FolderDefaults",
      u"Tbl_FolderDefaultPermissions"_s,
      u"The specified Default Permission already exists in the Database"_s,
@@ -94,7 +95,7 @@ const Catalogue catalogues[] = {
          clsFolders().updateDefaultFolderPermission(store, id, v[0], v[1]);
      },
      [](const QString &store, int id) {
-         clsFolders().DeleteDefaultFolderPermissions(store, std::span(&id, 1));
+         (void)deleteAll(clsFolders(), &clsFolders::DeleteDefaultFolderPermissions, store, std::span(&id, 1));
      }},
     products<clsHWType>("HWType", u"Tbl_HWType"_s,
                         u"A Hardwaretype with the same charachteristics already exists in the Database."_s,
@@ -109,7 +110,7 @@ const Catalogue catalogues[] = {
      1,
      [](const QString &store, const QStringList &v) { clsRooms().Add(store, v[0], v[1]); },
      [](const QString &store, int id, const QStringList &v) { clsRooms().update(store, id, v[0], v[1]); },
-     [](const QString &store, int id) { clsRooms().Delete(store, id); }},
+     [](const QString &store, int id) { (void)deleteAll(clsRooms(), store, std::span(&id, 1)); }},
     {"CustomQuery",
      u"Tbl_CustomQuery"_s,
      u"A Custom Query with the same Name already exists in the Database."_s,
@@ -119,7 +120,7 @@ const Catalogue catalogues[] = {
      [](const QString &store, int id, const QStringList &v) {
          clsCustomQuery().update(store, id, v[0], v[1], v[2]);
      },
-     [](const QString &store, int id) { clsCustomQuery().Delete(store, id); }},
+     [](const QString &store, int id) { (void)deleteAll(clsCustomQuery(), store, std::span(&id, 1)); }},
 };
 
 class CatalogueTest : public RecordTest, public testing::WithParamInterface<Catalogue>

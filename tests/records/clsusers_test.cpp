@@ -188,13 +188,3 @@ TEST_F(UserRelationsTest, AddFoldersBatch_EndsWhereTheFoldersAreGone)
     EXPECT_EQ(failed, QString());
     EXPECT_EQ(content("Tbl_UserFolderPermission"), before);
 }
-
-TEST_F(UserRelationsTest, TheIdOfTheNewestUserIsGivenAgainWithWhatStayedBehind)
-{
-    users.Delete(connection, QList<int>{13});
-    UserRecord next = account(u"dora"_s, u"SRV01"_s);
-    users.Add(connection, next);
-    EXPECT_EQ(next.UserID, 13);
-    EXPECT_EQ(rowsFrom([&](auto &result) { users.getGlobalGroups(connection, result, 13); }),
-              Rows{globalAdmins});
-}

@@ -3,11 +3,13 @@
 #include "folders/clsFolders.h"
 #include "jet/failingvfs.h"
 #include "platform/jet/inspection.h"
+#include "queries/clsCustomQuery.h"
 #include "store/clsGlobalGroups.h"
 #include "store/clsLocalGroups.h"
 #include "store/clsUsers.h"
 #include "store/userstatements.h"
 #include "support/companytest.h"
+#include "support/deleting.h"
 
 #include <algorithm>
 #include <iterator>
@@ -31,7 +33,6 @@ struct Writer
 
 constexpr int userIds[] = {13, 12, 11};
 constexpr int folderIds[] = {42, 43};
-constexpr int defaultIds[] = {1};
 constexpr int itemIds[] = {61, 62};
 constexpr int roomIds[] = {81, 83};
 
@@ -70,10 +71,15 @@ void addUserBatch(UserBatch batch, std::span<const UserColumn> columns, const QS
 
 constexpr Writer writers[] = {
     {"OneStatement",
-     [](const QString &store, QString &) { clsFolders().DeleteDefaultFolderPermissions(store, defaultIds); }},
+     [](const QString &store, QString &) {
+         jet::Recordset none;
+         clsCustomQuery().Execute(store, none, u"DELETE FROM Tbl_FolderDefaultPermissions"_s);
+     }},
     {"UnderARule",
      [](const QString &store, QString &) { clsFolders().update(store, 42, u"D:\\Moved"_s, {}); }},
-    {"ForEach", [](const QString &store, QString &) { clsFolders().Delete(store, folderIds); }},
+    {"ForEach", [](const QString &store, QString &) { clsFolders().RemoveAllPermissions(store, folderIds); }},
+    {"DeleteEach",
+     [](const QString &store, QString &told) { told += toldBy(deleteAll(clsFolders(), store, folderIds)); }},
     {"RelationsAnew",
      [](const QString &store, QString &) { clsGlobalGroups().addUsers(store, 21, userIds); }},
     {"PermissionsAnew",

@@ -2,7 +2,6 @@
 #include "folders/clsFolders.h"
 #include "platform/jet/errors.h"
 #include "store/clsGlobalGroups.h"
-#include "store/clsLocalGroups.h"
 #include "store/clsUsers.h"
 #include "store/statement.h"
 #include "support/companytest.h"
@@ -43,13 +42,10 @@ TEST_F(CompanyTest, AMissingStoreIsToldAndKept)
         {"addRooms", errorKeptOf<clsUsers>([&](auto &all) { all.addRooms(nowhere, 1, QList<int>{1}); })},
         {"Add of a group",
          errorKeptOf<clsGlobalGroups>([&](auto &all) { all.Add(nowhere, u"S"_s, u"N"_s, {}, id); })},
-        {"Delete of a group",
-         errorKeptOf<clsGlobalGroups>([&](auto &all) { all.Delete(nowhere, QList<int>{1}); })},
         {"Add of a folder", errorKeptOf<clsFolders>([&](auto &all) { all.Add(nowhere, u"C:\\Data"_s, {}); })},
         {"addPermittedObjects", errorKeptOf<clsFolders>([&](auto &all) {
              text += all.addPermittedObjects(nowhere, u"D:\\Data\\"_s, objects);
          })},
-        {"Delete of hardware", errorKeptOf<clsHW>([&](auto &all) { all.Delete(nowhere, 1); })},
     };
     for (const auto &[name, error] : cases) {
         EXPECT_EQ(error.number, jet::Failure) << name;

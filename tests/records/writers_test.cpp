@@ -84,18 +84,10 @@ std::vector<Writing> writings()
         all.push_back({name, std::move(write), changes(rows), error, QString::fromLatin1(dropped)});
     };
     // clang-format off
-    add("global groups: Delete leaves users and permissions", [](auto &store) { clsGlobalGroups().Delete(store, Ids{21, 99}); },
-        {"-GlobalGroups 21|Staff|DC01|All", "-LocalGroupsGlobalGroups 31|21", "-LocalGroupsGlobalGroups 32|21"});
-    add("global groups: Delete up to a failure", [](auto &store) { clsGlobalGroups().Delete(store, Ids{21, 22}); },
-        {"-LocalGroupsGlobalGroups 31|21", "-LocalGroupsGlobalGroups 32|21"}, jet::MissingTable, "Tbl_GlobalGroups");
     add("global groups: addLocalGroups, once each", [](auto &store) { clsGlobalGroups().addLocalGroups(store, 21, Ids{33, 31, 33}); },
         {"-LocalGroupsGlobalGroups 32|21", "+LocalGroupsGlobalGroups 33|21"});
     add("global groups: addLocalGroups of none", [](auto &store) { clsGlobalGroups().addLocalGroups(store, 22, Ids()); },
         {"-LocalGroupsGlobalGroups 32|22"});
-    add("local groups: Delete leaves users", [](auto &store) { clsLocalGroups().Delete(store, Ids{31, 99}); },
-        {"-LocalGroups 31|Staff|SRV01|All", "-LocalGroupsGlobalGroups 31|21", "-LocalGroupFolderPermission 31|41|R", "-LocalGroupFolderPermission 31|42|CH"});
-    add("local groups: Delete up to a failure", [](auto &store) { clsLocalGroups().Delete(store, Ids{32, 33}); },
-        {"-LocalGroupsGlobalGroups 32|21", "-LocalGroupsGlobalGroups 32|22"}, jet::MissingTable, "Tbl_LocalGroupFolderPermission");
     add("local groups: RemoveFolderPermissions", [](auto &store) { clsLocalGroups().RemoveFolderPermissions(store, Ids{31, 33}); },
         {"-LocalGroupFolderPermission 31|41|R", "-LocalGroupFolderPermission 31|42|CH", "-LocalGroupFolderPermission 33|43|R"});
     add("local groups: RemoveGlobalGroups", [](auto &store) { clsLocalGroups().RemoveGlobalGroups(store, Ids{31, 32}); },
@@ -103,8 +95,6 @@ std::vector<Writing> writings()
     add("local groups: addGlobalGroups, without a test", [](auto &store) { clsLocalGroups().addGlobalGroups(store, 33, Ids{22, 22}); },
         {"-LocalGroupsGlobalGroups 33|23", "+LocalGroupsGlobalGroups 33|22", "+LocalGroupsGlobalGroups 33|22"});
 
-    add("users: Delete leaves the relationships", [](auto &store) { clsUsers().Delete(store, Ids{11, 13, 99}); }, {"-Users 11|rolf|-|-", "-Users 13|anna|-|-"});
-    add("users: Delete of none", [](auto &store) { clsUsers().Delete(store, Ids()); }, {});
     add("users: RemoveFolderPermissions", [](auto &store) { clsUsers().RemoveFolderPermissions(store, Ids{11, 12, 99}); },
         {"-UserFolderPermission 11|44|R", "-UserFolderPermission 12|41|L", "-UserFolderPermission 12|42|CH"});
     add("users: addFolders updates what is there", [](auto &store) { clsUsers().addFolders(store, 12, Ids{42, 43}, {u"R"_s, u"L"_s}, false); },
@@ -118,11 +108,6 @@ std::vector<Writing> writings()
     add("users: addHW takes the items from users, not from rooms", [](auto &store) { clsUsers().addHW(store, 12, Ids{61, 62}); },
         {"-UserHW 11|61", "-UserHW 12|63", "+UserHW 12|61", "+UserHW 12|62"});
 
-    add("folders: Delete leaves permissions of global groups", [](auto &store) { clsFolders().Delete(store, Ids{42, 43, 99}); },
-        {"-Folders 42|D:\\Common\\|-", "-Folders 43|D:\\Admin\\|-", "-UserFolderPermission 12|42|CH", "-UserFolderPermission 13|42|R",
-         "-LocalGroupFolderPermission 31|42|CH", "-LocalGroupFolderPermission 32|43|L", "-LocalGroupFolderPermission 33|43|R"});
-    add("folders: Delete up to a failure", [](auto &store) { clsFolders().Delete(store, Ids{42, 41}); },
-        {"-UserFolderPermission 12|42|CH", "-UserFolderPermission 13|42|R"}, jet::MissingTable, "Tbl_LocalGroupFolderPermission");
     add("folders: RemoveAllPermissions", [](auto &store) { clsFolders().RemoveAllPermissions(store, Ids{42, 43}); },
         {"-UserFolderPermission 12|42|CH", "-UserFolderPermission 13|42|R", "-LocalGroupFolderPermission 31|42|CH", "-LocalGroupFolderPermission 32|43|L",
          "-LocalGroupFolderPermission 33|43|R", "-GlobalGroupFolderPermission 21|42|L", "-GlobalGroupFolderPermission 22|43|R", "-GlobalGroupFolderPermission 23|43|CH"});
@@ -139,9 +124,6 @@ std::vector<Writing> writings()
     add("folders: addGlobalGroups in place of the old ones", [](auto &store) { clsFolders().addGlobalGroups(store, 43, Ids(), {}, true); },
         {"-GlobalGroupFolderPermission 22|43|R", "-GlobalGroupFolderPermission 23|43|CH"});
 
-    add("rooms: Delete takes the users along, not the hardware", [](auto &store) { clsRooms().Delete(store, 81); },
-        {"-Rooms 81|B 7|Store", "-RoomUsers 81|11", "-RoomUsers 81|12"});
-    add("rooms: Delete up to a failure", [](auto &store) { clsRooms().Delete(store, 81); }, {"-RoomUsers 81|11", "-RoomUsers 81|12"}, jet::MissingTable, "Tbl_Rooms");
     add("rooms: addUsers, once each", [](auto &store) { clsRooms().addUsers(store, 81, Ids{13, 11, 13}); }, {"-RoomUsers 81|12", "+RoomUsers 81|13"});
     add("rooms: addUsers of none", [](auto &store) { clsRooms().addUsers(store, 81, Ids()); }, {"-RoomUsers 81|11", "-RoomUsers 81|12"});
     add("rooms: addHW takes the items from rooms and users", [](auto &store) { clsRooms().addHW(store, 82, Ids{61, 62, 61}, false); },
@@ -154,11 +136,8 @@ std::vector<Writing> writings()
     add("rooms: addHW up to a failure with the users", [](auto &store) { clsRooms().addHW(store, 82, Ids{62}, false); },
         {"-RoomHW 81|62", "-RoomHW 82|64"}, jet::MissingTable, "Tbl_UserHW");
 
-    add("software: Delete leaves the hardware's", [](auto &store) { clsSW().Delete(store, 72); }, {"-SW 72|Office|MAKER|Writer"});
     add("software: addHW", [](auto &store) { clsSW().addHW(store, 72, Ids{66, 61}); }, {"-SWHW 72|63", "+SWHW 72|66"});
     add("software: addHW of none", [](auto &store) { clsSW().addHW(store, 72, Ids()); }, {"-SWHW 72|61", "-SWHW 72|63"});
-    add("types: Delete leaves the items", [](auto &store) { clsHWType().Delete(store, 51); }, {"-HWType 51|PC|Maker|M1"});
-    add("hardware: Delete leaves the relationships", [](auto &store) { clsHW().Delete(store, 62); }, {"-HW 62|51|S8|A2"});
     add("hardware: addRooms takes the item from its user", [](auto &store) { clsHW().addRooms(store, 61, Ids{83, 82}, false); },
         {"-UserHW 11|61", "+RoomHW 83|61", "+RoomHW 82|61"});
     add("hardware: addRooms of none leaves it to its user", [](auto &store) { clsHW().addRooms(store, 61, Ids(), false); }, {});

@@ -185,6 +185,25 @@ TEST_F(ConsoleTest, Check_TellsFindingsAndTheStatusOfAScript)
         << unreadable.complaints;
 }
 
+TEST_F(ConsoleTest, Check_RepairsWhatHasLostAnEnd)
+{
+    sql("INSERT INTO Tbl_RoomUsers (RoomID,UserID) VALUES (1,1)\n");
+    const Answer repaired = run({u"check"_s, path, u"--repair"_s});
+    EXPECT_EQ(repaired.status, ExitDone);
+    EXPECT_EQ(repaired.out, "The store as it was is kept in " + folder.path().toStdString() +
+                                "/plan-before-repair.mdb.\n"
+                                "Table Tbl_RoomUsers: removed 1 row whose RoomID is not in Tbl_Rooms.\n"
+                                "The store is in order.\n");
+    EXPECT_EQ(run({u"check"_s, path}).out, "The store is in order.\n");
+
+    sql("DROP INDEX IDX_SWHW_HWID ON Tbl_SWHW\nINSERT INTO Tbl_Rooms (ID) VALUES (1)\n"
+        "INSERT INTO Tbl_RoomHW (RoomID,HWID) VALUES (1,1)\n");
+    EXPECT_EQ(run({u"check"_s, path, u"--repair"_s}).status, ExitFindings) << "an index is still missing";
+    sql("INSERT INTO Tbl_RoomHW (RoomID,HWID) VALUES (1,1)\nDELETE * FROM Tbl_Rooms\n");
+    EXPECT_EQ(number(u"SELECT Count(*) FROM Tbl_RoomHW"_s), 0);
+    EXPECT_EQ(run({u"check"_s, folder.path(), u"--repair"_s}).status, ExitUnreadable);
+}
+
 TEST_F(ConsoleTest, Use_ChoosesTheStoreThatTheProgramOpens)
 {
     settings::setFolder(folder.path());
@@ -222,6 +241,7 @@ TEST_F(ConsoleTest, RefusesArgumentsThatMakeNoSense)
         {{u"create"_s, path, u"30"_s}, "create takes one path"},
         {{u"create"_s, path, u"--force"_s}, "force"},
         {{u"check"_s, path, u"--sample"_s, u"30"_s}, "check does not take --sample"},
+        {{u"sql"_s, path, u"--repair"_s}, "sql does not take --repair"},
     };
     for (const auto &[arguments, says] : nonsense) {
         SCOPED_TRACE(arguments.join(u' ').toStdString());

@@ -9,6 +9,7 @@
 #include "sample/sampledata.h"
 #include "session/identity.h"
 #include "session/modRegistry.h"
+#include "store/relationships.h"
 #include "store/storecheck.h"
 #include "store/storefile.h"
 
@@ -38,6 +39,7 @@ struct Request
 {
     QString path; ///< empty when none was given
     std::optional<QString> sample;
+    bool repair = false;
 };
 
 int refuseUsage(Console &console, const QString &reason)
@@ -117,6 +119,7 @@ int sql(const Request &request, Console &console)
     jet::Connection connection;
     try {
         connection.open(jet::connectionString(request.path));
+        connection.keepDeleteRules(relationships);
     } catch (const Error &error) {
         return refuse(console, error);
     }
@@ -137,6 +140,10 @@ int sql(const Request &request, Console &console)
 int check(const Request &request, Console &console)
 {
     try {
+        if (request.repair) {
+            for (const QString &sentence : repairStore(request.path))
+                console.out << sentence.toStdString() << '\n';
+        }
         const QStringList findings = checkStore(request.path);
         for (const QString &finding : findings)
             console.out << finding.toStdString() << '\n';
@@ -171,14 +178,15 @@ struct Command
     QLatin1StringView name;
     int (*run)(const Request &, Console &);
     bool needsPath;
-    bool takesSample;
+    bool takesSample = false;
+    bool takesRepair = false;
 };
 
 constexpr Command commands[] = {
-    {"create"_L1, create, true, true},
-    {"sql"_L1, sql, true, false},
-    {"check"_L1, check, true, false},
-    {"use"_L1, use, false, false},
+    {.name = "create"_L1, .run = create, .needsPath = true, .takesSample = true},
+    {.name = "sql"_L1, .run = sql, .needsPath = true},
+    {.name = "check"_L1, .run = check, .needsPath = true, .takesRepair = true},
+    {.name = "use"_L1, .run = use, .needsPath = false},
 };
 
 } // namespace
@@ -193,6 +201,9 @@ int runCommand(const QStringList &arguments, Console &console)
     const QCommandLineOption sample(u"sample"_s, u"create: fills the store with a company of USERS users."_s,
                                     u"USERS"_s);
     parser.addOption(sample);
+    const QCommandLineOption repair(
+        u"repair"_s, u"check: first removes rows of relationships that have lost an end, after a copy."_s);
+    parser.addOption(repair);
     parser.addPositionalArgument(u"COMMAND"_s, commandsHelp, u"COMMAND"_s);
     parser.addPositionalArgument(u"PATH"_s, u"the store file"_s, u"[PATH]"_s);
 
@@ -217,7 +228,9 @@ int runCommand(const QStringList &arguments, Console &console)
         return refuseUsage(console, command->name + " takes one path"_L1);
     if (parser.isSet(sample) && !command->takesSample)
         return refuseUsage(console, command->name + " does not take --sample"_L1);
-    Request request{words.value(1), {}};
+    if (parser.isSet(repair) && !command->takesRepair)
+        return refuseUsage(console, command->name + " does not take --repair"_L1);
+    Request request{.path = words.value(1), .sample = {}, .repair = parser.isSet(repair)};
     if (parser.isSet(sample))
         request.sample = parser.value(sample);
     return command->run(request, console);

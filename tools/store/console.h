@@ -21,6 +21,6 @@ struct Console
 /// Runs one command of kelvane-store, given by the arguments of the program, its name first, and returns the
 /// exit status: ExitDone for --help and --version, ExitUsage when the arguments make no sense, ExitRefused
 /// when the command or any of its statements was refused. A check ends with ExitFindings when it found
-/// something and with ExitUnreadable when the file cannot be opened as a store; a use without a path ends
-/// with ExitNoStore when no store has been chosen.
+/// something, with --repair when something is left, and with ExitUnreadable when the file cannot be opened as
+/// a store or cannot be repaired; a use without a path ends with ExitNoStore when no store has been chosen.
 [[nodiscard]] int runCommand(const QStringList &arguments, Console &console);

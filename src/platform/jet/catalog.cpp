@@ -126,7 +126,8 @@ std::string Catalog::indexName(const Table &table, std::string_view index)
 
 bool Catalog::isTaken(std::string_view name)
 {
-    const StatementHandle statement = prepareSqlite(m_handle, "SELECT name FROM sqlite_schema");
+    const StatementHandle statement =
+        prepareSqlite(m_handle, "SELECT name FROM sqlite_schema WHERE type <> 'trigger'");
     bool taken = false;
     forEachRow(m_handle, statement.get(),
                [&](sqlite3_stmt *row) { taken = taken || sameName(textAt(row, 0), name); });

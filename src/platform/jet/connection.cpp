@@ -130,6 +130,11 @@ void Connection::execute(const QString &sql)
     database().execute(sql);
 }
 
+void Connection::keepDeleteRules(std::span<const DeleteRule> rules)
+{
+    database().keepDeleteRules(rules);
+}
+
 void Connection::beginWriting()
 {
     Database &open = database();

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/jet/deleterules.h"
 #include "platform/jet/state.h"
 
 #include <QString>
 
 #include <memory>
+#include <span>
 
 namespace jet {
 
@@ -33,6 +35,10 @@ public:
     /// raised as ChangesLost. Raises ObjectClosed (3704) when not open, Failure in the middle of a statement.
     void close();
     [[nodiscard]] int state() const { return m_database ? StateOpen : StateClosed; }
+
+    /// The first write of any connection to the file puts the rules into it, and every change of its tables
+    /// brings them up to date. Another program finds them there. They must outlive the connections.
+    void keepDeleteRules(std::span<const DeleteRule> rules);
 
     /// Takes the write lock of the file: what is read afterwards is still true when it decides what is
     /// written. To be called before the first look of each step that will write; it commits the steps before

@@ -214,6 +214,7 @@ void Database::forget()
     m_prepared.clear();
     m_catalog.forget();
     m_version = unknownVersion;
+    m_rulesAreKept = false;
 }
 
 bool Database::fits(const Prepared &prepared) const
@@ -352,7 +353,8 @@ void Database::write(const QString &sql, Prepared &prepared)
     bool changesSchema = false;
     try {
         // Another program that held the file until now may have changed the tables.
-        const bool isOutdated = isNew && forgetWhatOthersChanged();
+        bool isOutdated = isNew && forgetWhatOthersChanged();
+        isOutdated = bringRulesUpToDate() || isOutdated;
         changesSchema = writeInGroup(isOutdated ? prepare(sql) : prepared);
     } catch (...) {
         if (m_holders == 0)
@@ -371,11 +373,16 @@ bool Database::writeInGroup(Prepared &prepared)
     LastCounter &lastCounter = m_catalog.lastCounter();
     const std::int64_t lastNumber = lastCounter.number();
     // SQLite itself undoes a statement that fails midway; with others before it, it needs a way back.
-    const bool guarded = !prepared.setup.empty();
+    const bool changesSchema = prepared.changesSchema;
+    const bool guarded = !prepared.setup.empty() || (changesSchema && !m_rules.empty());
     try {
         if (guarded)
             runSqlite(m_handle.get(), "SAVEPOINT statement");
         runWrite(prepared);
+        if (changesSchema) {
+            forget();
+            bringRulesUpToDate();
+        }
         if (guarded)
             runSqlite(m_handle.get(), "RELEASE statement");
     } catch (...) {
@@ -386,10 +393,31 @@ bool Database::writeInGroup(Prepared &prepared)
                          nullptr);
         throw;
     }
-    const bool changesSchema = prepared.changesSchema;
-    if (changesSchema)
-        forget();
     return changesSchema;
+}
+
+void Database::keepDeleteRules(std::span<const DeleteRule> rules)
+{
+    m_rulesAreKept = m_rulesAreKept && rules.data() == m_rules.data() && rules.size() == m_rules.size();
+    m_rules = rules;
+}
+
+/// Within a group. Whether the tables were changed with it.
+bool Database::bringRulesUpToDate()
+{
+    if (m_rulesAreKept || m_rules.empty() || sqlite3_db_readonly(m_handle.get(), "main") != 0)
+        return false;
+    bool changed = false;
+    try {
+        changed = jet::keepDeleteRules(m_handle.get(), m_rules);
+    } catch (...) {
+        m_group.raiseIfLost();
+        throw;
+    }
+    if (changed)
+        forget();
+    m_rulesAreKept = true;
+    return changed;
 }
 
 void Database::runWrite(Prepared &prepared)
@@ -429,6 +457,7 @@ void Database::beginWriting()
         return;
     try {
         forgetWhatOthersChanged();
+        bringRulesUpToDate();
     } catch (...) {
         m_group.endUnlessChanged();
         throw;

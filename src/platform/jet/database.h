@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "platform/jet/catalog.h"
+#include "platform/jet/deleterules.h"
 #include "platform/jet/emitter.h"
 #include "platform/jet/lexer.h"
 #include "platform/jet/recordheader.h"
@@ -12,6 +13,7 @@
 #include <chrono>
 #include <exception>
 #include <memory>
+#include <span>
 #include <string>
 #include <unordered_map>
 
@@ -54,6 +56,9 @@ public:
 
     /// Runs a statement and hands over the rows it returns. Returns false for one that returns none.
     bool run(const QString &sql, RowSink &rows);
+
+    /// See Connection.
+    void keepDeleteRules(std::span<const DeleteRule> rules);
 
     /// Takes the write lock until the changes are committed, so that what is read from here on is still true
     /// when it decides what is written. Commits before where that is due. Raises StoreLocked and ChangesLost.
@@ -113,6 +118,7 @@ private:
     void write(const QString &sql, Prepared &prepared);
     bool writeInGroup(Prepared &prepared);
     void runWrite(Prepared &prepared);
+    bool bringRulesUpToDate();
     bool forgetWhatOthersChanged();
     void forget();
     void flushUnlessRead();
@@ -124,6 +130,8 @@ private:
     Handle m_handle;
     Catalog m_catalog;
     WriteGroup m_group;
+    std::span<const DeleteRule> m_rules;
+    bool m_rulesAreKept = false; ///< by the tables that the catalog knows
     StatementHandle m_beginReading;
     StatementHandle m_endReading;
     StatementHandle m_readVersion;
