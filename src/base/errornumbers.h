@@ -5,5 +5,7 @@
 inline constexpr int OutOfMemory = 7;
 /// A file that cannot be read or written; the text names it.
 inline constexpr int FileAccessError = 75;
+/// A printer that is not there, or a print job that was refused.
+inline constexpr int PrinterError = 482;
 /// A row, column or panel that a control does not have.
 inline constexpr int IndexOutOfBounds = 35600;

@@ -11,6 +11,7 @@
 #include "platform/desktop/desktop.h"
 #include "platform/jet/connection.h"
 #include "queries/modCustomQuery.h"
+#include "reports/modPrint.h"
 #include "session/connectionstring.h"
 #include "session/identity.h"
 #include "session/modServers.h"
@@ -94,6 +95,7 @@ void registerFamilies()
     registerHandlers(modRooms::handlers());
     registerHandlers(modSW::handlers());
     registerHandlers(modCustomQuery::handlers());
+    registerHandlers(modPrint::handlers());
     registerHandlers(modExport::handlers());
     modGlobalGroups::registerImports();
     modLocalGroups::registerImports();

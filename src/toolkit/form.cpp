@@ -147,7 +147,11 @@ QPushButton *Form::buttonBeside(QLatin1StringView name, QLatin1StringView captio
     QGridLayout &layout = rows();
     auto *button = new QPushButton(caption);
     button->setObjectName(name);
-    layout.addWidget(button, layout.rowCount() - 1, 2);
+    const int row = layout.rowCount() - 1;
+    int column = 2;
+    while (layout.itemAtPosition(row, column))
+        ++column;
+    layout.addWidget(button, row, column);
     return button;
 }
 

@@ -48,7 +48,7 @@ public:
                 QWidget *field);
     /// A row of its own, without a label.
     QCheckBox *check(QLatin1StringView name, QLatin1StringView caption);
-    /// Beside the last row.
+    /// Beside the last row, and beside the buttons it has there already.
     QPushButton *buttonBeside(QLatin1StringView name, QLatin1StringView caption);
 
     // The buttons at the bottom, from left to right. A button that has the focus takes the Enter key; the

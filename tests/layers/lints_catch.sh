@@ -11,7 +11,7 @@ fresh() {
     mkdir -p "$tree"/src/{base,platform/jet,session,toolkit,messages,live,views,store,sync,exchange,assets,shell,sample} "$tree/docs"
     echo '#include "base/error.h"' >"$tree/src/platform/jet/lexer.cpp"
     echo '#include "platform/network/netapi.h"' >>"$tree/src/platform/jet/lexer.cpp"
-    echo '#include <QStringView>' >"$tree/src/base/text.h"
+    printf '#include <%s>\n' QStringView QPageLayout >"$tree/src/base/text.h"
     echo '#include "sync/modUsers.h"' >"$tree/src/exchange/modImport.cpp"
     echo '#include "exchange/modImport.h"' >"$tree/src/assets/modRooms.cpp"
     local class

@@ -4,6 +4,7 @@
 #include "assets/frmSWHWType.h"
 #include "exchange/modImport.h"
 #include "folders/frmFolderDefaultPermissions.h"
+#include "reports/frmSelectPrinter.h"
 #include "shell/frmOptions.h"
 #include "sync/frmUser.h"
 #include "views/families.h"
@@ -184,9 +185,10 @@ TEST_P(WindowsTest, EveryWindowKeepsTheRulesOfAllWindows)
     frmUser user(&window, frmUser::Action::NewUser);
     frmFolderDefaultPermissions permissions(&window, {}, {});
     frmSelectServer server(&window);
+    frmSelectPrinter printer(&window);
     frmOptions options(window);
     for (QWidget *dialog :
-         QWidgetList{&newEdit, &software, &hardware, &user, &permissions, &server, &options})
+         QWidgetList{&newEdit, &software, &hardware, &user, &permissions, &server, &printer, &options})
         checkShown(*dialog);
     whenShown<frmListFind>([](frmListFind &find) {
         WindowRules(find).check();

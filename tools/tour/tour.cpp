@@ -143,6 +143,7 @@ void walkRooms(Gallery &gallery)
     walkModal(gallery, {u"room-new"_s}, [&] { rooms.run(Op::AddNew); });
     walkModal(gallery, {u"room-edit"_s}, [&] { rooms.run(Op::Edit); });
     walkModal(gallery, {u"find"_s}, [&] { rooms.listDisplay->find(2); });
+    walkModal(gallery, {u"print"_s}, [&] { rooms.run(Op::PrintData); });
     rooms.run(Op::Properties);
     paintNow();
     auto &properties = topLevel<frmProperties>();
