@@ -34,6 +34,16 @@ constexpr Comparison comparisons[] = {
     {"sorting a list by numbers, against sorting the bare keys", "SortNumbers", "SortNumberKeys", 2, false},
     {"sorting a list by dates, against sorting the bare keys", "SortDates", "SortDateKeys", 2, false},
     {"`AddPermissionsBatch`", "AddPermissionsBatch", "AddPermissionsBatchByHand", 2, false},
+    {"importing a file of global groups", "ImportGlobalGroupsFile", "ImportGlobalGroupsFileByHand", 1.3},
+    {"importing a file of local groups", "ImportLocalGroupsFile", "ImportLocalGroupsFileByHand", 1.3},
+    {"importing a file of users", "ImportUsersFile", "ImportUsersFileByHand", 1.3},
+    {"importing a file of members of global groups", "ImportGlobalGroupUsersFile",
+     "ImportGlobalGroupUsersFileByHand", 1.3},
+    {"importing a file of members of local groups", "ImportLocalGroupMembersFile",
+     "ImportLocalGroupMembersFileByHand", 1.3},
+    {"importing a file of folders", "ImportFoldersFile", "ImportFoldersFileByHand", 1.3},
+    {"importing a file of permissions", "ImportPermissionsFile", "ImportPermissionsFileByHand", 1.3},
+    {"exporting a list, against reading and writing its rows", "ExportList", "ExportListByHand", 1.5},
 };
 
 using workbench::few;

@@ -54,8 +54,7 @@ Report readAndWrite(QWidget *owner, const QString &path, const ImportFormat &for
         report.end = Report::End::Cancelled;
         return report;
     }
-    const int count = lines.records().recordCount();
-    steps.phase(format.writing, count, modImportSteps::strideOf(count));
+    modImportSteps::beginPhase(steps, format.writing, lines.records().recordCount());
     report = writers().value(format.type)(store, lines.records(), leaveExisting, steps);
     for (const int record : report.refused)
         lines.refuse(record);

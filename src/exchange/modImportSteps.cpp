@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int stepsOfAPhase = 100;
 constexpr auto paragraph = "\r\n\r\n"_L1;
 constexpr auto cancelled = "The Import was cancelled. What was written stays in the Database."_L1;
 constexpr auto lost = "The Import was broken off because the Database can no longer be written."_L1;
@@ -54,9 +53,9 @@ std::optional<bool> askLeaveExisting(QWidget *owner)
     return std::nullopt;
 }
 
-int strideOf(int total)
+void beginPhase(Steps &steps, const QString &title, int total)
 {
-    return std::max(1, total / stepsOfAPhase);
+    steps.phase(title, total, total);
 }
 
 ImportLines::ImportLines(const ImportFormat &format) : m_format(format)
@@ -166,7 +165,7 @@ QByteArray ImportLines::refused() const
 bool readLines(const QString &path, ImportLines &lines, Steps &steps)
 {
     ImportFile file(path);
-    steps.phase(u"Reading Data from File. Please Wait."_s, file.lineCount(), strideOf(file.lineCount()));
+    beginPhase(steps, u"Reading Data from File. Please Wait."_s, file.lineCount());
     QString line;
     for (int number = 1; file.readLine(line); ++number) {
         if (!steps.step(line.left(line.indexOf(u';'))))

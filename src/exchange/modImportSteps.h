@@ -21,8 +21,9 @@ namespace modImportSteps {
 /// Whether known objects are left as they are; nothing when the user cancels.
 [[nodiscard]] std::optional<bool> askLeaveExisting(QWidget *owner);
 
-/// The stride that shows about a hundred items of a phase, so that showing them costs less than the work.
-[[nodiscard]] int strideOf(int total);
+/// Begins a phase of so many lines that is shown as time passes: each shown line also ends a group of writes,
+/// and lines are read and written by the ten thousand a second.
+void beginPhase(Steps &steps, const QString &title, int total);
 
 /// The lines of a file: the good ones as the records of a batch, of the others what is wrong with them.
 /// Any line can be had as it stood, except one too long to be kept.

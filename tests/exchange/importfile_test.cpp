@@ -93,4 +93,7 @@ TEST_F(ImportFileTest, FilesThatCannotBeReadAreNamedWithTheReason)
     EXPECT_TRUE(refusal(path(QString())).contains(u"folder"));
     EXPECT_GT(refusal(path(u"vanished.txt"_s)).size(), path(u"vanished.txt"_s).size() + 40);
     EXPECT_TRUE(refusal(write("\xef\xbb\xbfM\xfcller")).contains(u"UTF-8"));
+    QFile gigantic(path(u"gigantic.txt"_s));
+    ASSERT_TRUE(gigantic.open(QIODevice::WriteOnly) && gigantic.resize(512 * 1024 * 1024 + 1)); // sparse
+    EXPECT_TRUE(refusal(gigantic.fileName()).endsWith(u"It is larger than 512 MB. Import it in parts."));
 }
