@@ -109,10 +109,8 @@ frmHW::frmHW(QWidget *owner, Action action, RowTarget source, Store store)
             fillChoices<&clsHWType::getDisplayList>(combo(u"HWType"));
         });
     });
-    connect(TabStrip, &QTabWidget::tabBarClicked, this, [this](int tab) {
-        if (tab >= 0)
-            m_form.show(firstFields[tab]);
-    });
+    connect(TabStrip, &QTabWidget::currentChanged, this,
+            [this](int tab) { m_form.field(firstFields[tab])->setFocus(); });
     connect(cmdOK, &QPushButton::clicked, this, &frmHW::Save);
     m_form.show(firstFields[0]);
 }
@@ -134,20 +132,33 @@ void frmHW::load(jet::Recordset &item)
 {
     m_form.load(item);
     m_form.setText(u"SelectedSupplier", m_form.text(u"Supplier"));
-    m_hardwareType = int(item.value(u"HWTypeID").toInteger());
+    m_loadedType = m_form.text(u"HWType");
+    // An item whose type was deleted needs another one.
+    const int type = int(item.value(u"HWTypeID").toInteger());
+    m_loadedTypeId = combo(u"HWType").findData(type) >= 0 ? type : 0;
+}
+
+int frmHW::hardwareType() const
+{
+    const QComboBox &types = combo(u"HWType");
+    const QString typed = types.currentText();
+    // Two types may read the same: an item that nobody moved stays what it is.
+    if (m_loadedTypeId != 0 && typed == m_loadedType)
+        return m_loadedTypeId;
+    int entry = types.currentIndex();
+    if (entry < 0 || types.itemText(entry) != typed)
+        entry = types.findText(typed, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    // What is no entry leaves an item the type that it has.
+    return entry < 0 ? m_loadedTypeId : types.itemData(entry).toInt();
 }
 
 bool frmHW::inputCheck()
 {
-    const QComboBox &types = combo(u"HWType");
-    if (const int entry = types.findText(types.currentText(), Qt::MatchExactly | Qt::MatchCaseSensitive);
-        entry >= 0)
-        m_hardwareType = types.itemData(entry).toInt();
     const auto refuseAt = [this](QStringView column, const QString &text) {
         m_form.show(column);
         return refuse(this, text, m_form.field(column));
     };
-    if (m_hardwareType == 0)
+    if (hardwareType() == 0)
         return refuseAt(u"HWType", u"Please select a Hardware Type from the List"_s);
     if (m_form.text(u"PurchaseDate").isEmpty())
         return refuseAt(u"PurchaseDate", u"Please insert the Purchase Date"_s);
@@ -158,7 +169,7 @@ bool frmHW::inputCheck()
 
 HWRecord frmHW::read() const
 {
-    return {.HWTypeID = m_hardwareType,
+    return {.HWTypeID = hardwareType(),
             .SerialNumber = m_form.text(u"SerialNumber"),
             .AssetNumber = m_form.text(u"AssetNumber"),
             .WarrantyNumber = m_form.text(u"WarrantyNumber"),
@@ -190,6 +201,9 @@ void frmHW::Save()
 
 void frmHW::UpdateSource() const
 {
-    m_source.put({m_form.text(u"HWType"), m_form.text(u"SerialNumber"), m_form.text(u"CompanyPropertyNumber"),
-                  m_form.text(u"Usage"), m_form.text(u"IPAddress")});
+    m_source.put({{"Hardware Type"_L1, m_form.text(u"HWType")},
+                  {"SerialNumber"_L1, m_form.text(u"SerialNumber")},
+                  {"CompanyPropertyNumber"_L1, m_form.text(u"CompanyPropertyNumber")},
+                  {"Usage"_L1, m_form.text(u"Usage")},
+                  {"IPAddress"_L1, m_form.text(u"IPAddress")}});
 }

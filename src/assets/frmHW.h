@@ -42,11 +42,13 @@ public:
 private:
     void fillLists();
     [[nodiscard]] QComboBox &combo(QStringView column) const;
+    [[nodiscard]] int hardwareType() const;
     [[nodiscard]] bool inputCheck();
     [[nodiscard]] HWRecord read() const;
 
     RowTarget m_source;
     Store m_store;
     RecordForm m_form;
-    int m_hardwareType = 0; ///< of the item that is edited; 0 while none is known
+    int m_loadedTypeId = 0; ///< of the item that is edited; 0 while it has none
+    QString m_loadedType;
 };

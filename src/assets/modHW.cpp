@@ -3,6 +3,7 @@
 #include "assets/clsHW.h"
 #include "assets/frmHW.h"
 #include "session/connectionstring.h"
+#include "toolkit/messagebox.h"
 #include "views/lists.h"
 
 using namespace Qt::StringLiterals;
@@ -21,8 +22,10 @@ void editHW(const CommandContext &context)
 {
     jet::Recordset item;
     clsHW().GetByID(getConnectionString(), item, context.id);
-    if (item.recordCount() == 0)
-        throwError(RuleViolation, u"The requested query did not return data"_s);
+    if (item.recordCount() == 0) {
+        messageBox(context.owner, u"The requested query did not return data"_s, box::InformationIcon);
+        return;
+    }
     frmHW dialog(context.owner, frmHW::Action::EditHW, context.target(),
                  [id = context.id](const QString &connectionString, const HWRecord &changed) {
                      clsHW().update(connectionString, id, changed);

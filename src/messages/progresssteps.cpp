@@ -66,7 +66,8 @@ bool ProgressSteps::step(const QString &item)
     if (!isDue())
         return goesOn();
     if (m_window) {
-        m_window->setWindowTitle(u"[%1 of %2]"_s.arg(m_position).arg(m_total));
+        if (m_total > 0)
+            m_window->setWindowTitle(u"[%1 of %2]"_s.arg(m_position).arg(m_total));
         m_window->lblObject->setText(clipped(item));
         m_window->ProgressBar->setValue(m_position);
     }

@@ -24,11 +24,11 @@ public:
     /// Runs a statement of the user's. One whose first six letters are "select" opens the recordset
     /// if it gives rows, as SELECT INTO does not; any other leaves it closed, also a SELECT behind a
     /// blank.
+    void Execute(const QString &connectionString, jet::Recordset &result, const QString &statement);
     /// The tables of the store by name, without those of the engine.
     [[nodiscard]] QStringList tableNames(const QString &connectionString);
     /// The fields of a table in their order.
     [[nodiscard]] QStringList fieldNames(const QString &connectionString, const QString &table);
-    void Execute(const QString &connectionString, jet::Recordset &result, const QString &statement);
     /// Reports what fails, see RecordClass::deleteEach.
     [[nodiscard]] Report Delete(const QString &connectionString, std::span<const int> ids,
                                 const QStringList &names, Steps &steps);

@@ -66,50 +66,51 @@ void frmCustomQuery::load(const Texts &texts)
 {
     txtName->setText(texts.name);
     txtDescription->setText(texts.description);
-    txtQRY->setPlainText(texts.statement);
+    setMemoText(*txtQRY, texts.statement);
 }
 
 frmCustomQuery::Texts frmCustomQuery::texts() const
 {
-    return {txtName->text(), txtDescription->text(), txtQRY->toPlainText()};
+    return {txtName->text(), txtDescription->text(), memoText(*txtQRY)};
 }
 
 void frmCustomQuery::Execute()
 {
     guarded(this, [this] {
+        const QString statement = memoText(*txtQRY);
         try {
-            modCustomQuery::run(this, txtQRY->toPlainText().replace(u'\n', u' '), txtDescription->text());
+            modCustomQuery::run(this, statement, txtDescription->text());
         } catch (const Error &error) {
-            mark(error.description());
+            mark(statement, error.description());
             throw;
         }
     });
 }
 
-// "... Near 'FORM' at 10." The place counts the characters of the statement with single blanks.
-void frmCustomQuery::mark(const QString &errorText)
+// "... Near 'FORM' at 10." The place counts the characters of the statement that was run.
+void frmCustomQuery::mark(const QString &statement, const QString &errorText)
 {
     static const QRegularExpression place(u"Near '(.*)' at (\\d+)"_s);
     const QRegularExpressionMatch found = place.match(errorText);
     if (!found.hasMatch())
         return;
-    const QString word = found.captured(1);
     const qsizetype wanted = found.captured(2).toLongLong() - 1;
-    const QString typed = txtQRY->toPlainText();
-    qsizetype counted = 0;
+    // Each character of the statement as typed: is it one that was run, and one that the edit shows?
+    qsizetype run = 0;
+    int shown = 0;
     bool afterBlank = true;
-    qsizetype at = 0;
-    for (; at < typed.size() && counted < wanted; ++at) {
-        const bool blank = typed[at] == u' ' || typed[at] == u'\n';
-        if (!blank || !afterBlank)
-            ++counted;
-        afterBlank = blank;
+    for (const QChar character : statement) {
+        const bool kept = character != u' ' || !afterBlank;
+        if (kept && run++ == wanted)
+            break;
+        afterBlank = character == u' ';
+        shown += character == u'\r' ? 0 : 1;
     }
-    while (at < typed.size() && typed[at].isSpace())
-        ++at;
     QTextCursor cursor = txtQRY->textCursor();
-    cursor.setPosition(int(at));
-    cursor.setPosition(int(std::min(typed.size(), at + word.size())), QTextCursor::KeepAnchor);
+    cursor.setPosition(shown);
+    cursor.setPosition(
+        std::min(txtQRY->document()->characterCount() - 1, shown + int(found.captured(1).size())),
+        QTextCursor::KeepAnchor);
     txtQRY->setTextCursor(cursor);
     txtQRY->setFocus();
 }

@@ -52,7 +52,7 @@ public:
 
 private:
     [[nodiscard]] Texts texts() const;
-    void mark(const QString &errorText);
+    void mark(const QString &statement, const QString &errorText);
 
     RowTarget m_source;
     Store m_store;

@@ -86,14 +86,14 @@ void frmQueryBuilder::connectControls()
 
 void frmQueryBuilder::setText(const QString &statement)
 {
-    txtQRY->setPlainText(statement);
+    setMemoText(*txtQRY, statement);
     txtQRY->moveCursor(QTextCursor::End);
     m_lastText = statement;
 }
 
 QString frmQueryBuilder::text() const
 {
-    return txtQRY->toPlainText();
+    return memoText(*txtQRY);
 }
 
 void frmQueryBuilder::Initialize()
@@ -126,7 +126,10 @@ void frmQueryBuilder::GetFields(const QString &table)
 void frmQueryBuilder::insert(const QString &value)
 {
     m_lastText = text();
-    txtQRY->insertPlainText(value);
+    QTextCursor cursor = txtQRY->textCursor();
+    cursor.setPosition(cursor.selectionStart());
+    cursor.insertText(value);
+    txtQRY->setTextCursor(cursor);
     FocusDecision();
 }
 

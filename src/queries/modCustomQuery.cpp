@@ -9,6 +9,7 @@
 #include "queries/frmCustomQuery.h"
 #include "queries/frmQueryBuilder.h"
 #include "session/connectionstring.h"
+#include "toolkit/form.h"
 #include "toolkit/messagebox.h"
 #include "toolkit/pointer.h"
 #include "views/frmDisplay.h"
@@ -100,7 +101,10 @@ void editQuery(const CommandContext &context)
 
 void executeQuery(const CommandContext &context)
 {
-    modCustomQuery::run(context.owner, context.subItem(3), context.subItem(2));
+    if (context.row < 0)
+        messageBox(context.owner, u"Please select an Item from list"_s, box::WarningIcon);
+    else
+        modCustomQuery::run(context.owner, context.subItem(3), context.subItem(2));
 }
 
 } // namespace
@@ -114,7 +118,7 @@ std::span<const OpRow> modCustomQuery::handlers()
         {Mode::QRY, Op::Delete,
          deleteSelected<&clsCustomQuery::Delete>(u"Deleting Queries"_s,
                                                  u"The following Queries could not be deleted:"_s)},
-        {Mode::QRY, Op::ExecuteQuery, executeQuery, Needs::StoredRow},
+        {Mode::QRY, Op::ExecuteQuery, executeQuery},
     };
     return table;
 }
@@ -128,7 +132,9 @@ QString modCustomQuery::normalized(QString statement)
 
 Mode modCustomQuery::modeOfStatement(const QString &statement)
 {
-    const QString lower = statement.toLower();
+    QString lower = statement.toLower();
+    for (QChar &character : lower)
+        character = character.isSpace() ? u' ' : character;
     constexpr auto from = "from "_L1;
     const qsizetype found = lower.indexOf(from);
     if (found < 0)
@@ -196,7 +202,7 @@ std::vector<modCustomQuery::SavedQuery> modCustomQuery::savedQueries()
 void modCustomQuery::openBuilder(QWidget *owner, QPlainTextEdit &target)
 {
     frmQueryBuilder builder(owner, getConnectionString());
-    builder.setText(target.toPlainText());
+    builder.setText(memoText(target));
     if (builder.exec() == QDialog::Accepted)
-        target.setPlainText(builder.text());
+        setMemoText(target, builder.text());
 }

@@ -20,8 +20,7 @@ namespace modCustomQuery {
 [[nodiscard]] QString normalized(QString statement);
 
 /// Asks, runs the statement and shows its rows, in the view or in a new one. The user can cancel a statement
-/// that runs long: nothing stays of it. What the engine refuses is shown, and raised again for a caller that
-/// marks the place in its text.
+/// that runs long: nothing stays of it. Raises what the engine refuses.
 void run(QWidget *owner, const QString &statement, const QString &title, frmDisplay *view = nullptr);
 
 struct SavedQuery

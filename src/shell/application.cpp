@@ -119,7 +119,8 @@ void Main()
     resolveNetwork();
     paintNow();
     testStore();
-    mainForm().buildQueryMenu();
+    // A store that does not open was reported just now.
+    attempt([] { mainForm().buildQueryMenu(); });
     mainForm().show();
     attempt(showStatusReady);
 }

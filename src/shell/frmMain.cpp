@@ -1,6 +1,5 @@
 #include "shell/frmMain.h"
 
-#include "base/error.h"
 #include "base/text.h"
 #include "messages/guard.h"
 #include "messages/status.h"
@@ -271,11 +270,9 @@ void frmMain::showMenus()
 
 void frmMain::buildQueryMenu()
 {
+    const std::vector<modCustomQuery::SavedQuery> queries = modCustomQuery::savedQueries();
     auto *menu = findChild<QMenu *>(u"mnuExecuteQuery"_s);
     menu->clear();
-    std::vector<modCustomQuery::SavedQuery> queries;
-    // A store that does not open was reported at the start.
-    attempt([&] { queries = modCustomQuery::savedQueries(); });
     if (queries.empty()) {
         QAction *empty = menu->addAction(u"Empty"_s);
         empty->setObjectName("mnuQueries"_L1);
@@ -292,7 +289,10 @@ void frmMain::buildQueryMenu()
     menu->addSeparator();
     QAction *reload = menu->addAction(u"Reload Execute Menu"_s);
     reload->setObjectName("mnuReloadExecuteMenu"_L1);
-    connect(reload, &QAction::triggered, this, [this] { guarded(this, [this] { buildQueryMenu(); }); });
+    // Queued: the entry itself goes with the old menu.
+    connect(
+        reload, &QAction::triggered, this, [this] { guarded(this, [this] { buildQueryMenu(); }); },
+        Qt::QueuedConnection);
 }
 
 void frmMain::addKeys()

@@ -36,7 +36,8 @@ public:
     /// arrange icons.
     void Arrange(int arrangement);
 
-    /// Fills the menu of the saved queries anew.
+    /// Fills the menu of the saved queries anew; raises what the store reports and keeps the old entries
+    /// then.
     void buildQueryMenu();
 
     // MainWindowLink

@@ -1,5 +1,8 @@
 #include "sync/frmUser.h"
 
+#include "base/error.h"
+#include "platform/jet/errors.h"
+#include "platform/jet/recordset.h"
 #include "session/connectionstring.h"
 #include "store/clsUsers.h"
 #include "store/userstatements.h"
@@ -126,6 +129,8 @@ frmUser::frmUser(QWidget *owner, Action action, RowTarget source)
             for (const FieldRow &row : page.rows)
                 if (row.kind == Number)
                     m_form.setText(QString(row.column), u"0"_s);
+    // It names the row in the store and in every relationship.
+    static_cast<QLineEdit *>(m_form.field(u"UserID"))->setReadOnly(action != Action::NewUser);
     dress();
     m_form.show(u"UserName");
 }
@@ -163,6 +168,7 @@ void frmUser::dress()
 void frmUser::load(jet::Recordset &user)
 {
     m_form.load(user);
+    m_userId = int(user.value(u"UserID").toInteger());
     dress();
 }
 
@@ -198,14 +204,30 @@ void frmUser::Save()
         *this,
         [this] {
             UserRecord user = read();
-            if (m_action == Action::EditUser)
+            if (m_action == Action::EditUser) {
+                user.UserID = m_userId;
                 clsUsers().update(getConnectionString(), user);
-            else
+            } else {
+                requireFreeId(user.UserID);
                 clsUsers().Add(getConnectionString(), user);
+            }
             offerExport();
             UpdateSource();
         },
         m_form.field(u"UserName"));
+}
+
+void frmUser::requireFreeId(int id) const
+{
+    if (id == 0) // asks for the next one
+        return;
+    jet::Recordset others;
+    clsUsers().getUserByID(getConnectionString(), id, others);
+    if (others.recordCount() == 0)
+        return;
+    m_form.show(u"UserID");
+    throwError(jet::DuplicateValue,
+               u"The UserID %1 belongs to another user already. 0 asks for the next free one."_s.arg(id));
 }
 
 void frmUser::offerExport()
@@ -225,6 +247,8 @@ void frmUser::offerExport()
 
 void frmUser::UpdateSource() const
 {
-    m_source.put({m_form.text(u"LastName"), m_form.text(u"FirstName"), m_form.text(u"UserName"),
-                  m_form.text(u"ServerName")});
+    m_source.put({{"LastName"_L1, m_form.text(u"LastName")},
+                  {"FirstName"_L1, m_form.text(u"FirstName")},
+                  {"UserName"_L1, m_form.text(u"UserName")},
+                  {"ServerName"_L1, m_form.text(u"ServerName")}});
 }

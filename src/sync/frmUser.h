@@ -41,9 +41,11 @@ private:
     void dress();
     [[nodiscard]] bool inputCheck();
     [[nodiscard]] UserRecord read() const;
+    void requireFreeId(int id) const;
     void offerExport();
 
     Action m_action;
     RowTarget m_source;
     RecordForm m_form;
+    int m_userId = 0; ///< of the user that is edited
 };

@@ -3,6 +3,7 @@
 #include "session/connectionstring.h"
 #include "store/clsUsers.h"
 #include "sync/frmUser.h"
+#include "toolkit/messagebox.h"
 #include "views/lists.h"
 
 using namespace Qt::StringLiterals;
@@ -18,8 +19,16 @@ void editUser(const CommandContext &context)
 {
     jet::Recordset user;
     clsUsers().getUserByID(getConnectionString(), context.id, user);
-    if (user.recordCount() == 0)
-        throwError(RuleViolation, u"The requested query did not return data"_s);
+    if (user.recordCount() == 0) {
+        messageBox(context.owner, u"The requested query did not return data"_s, box::InformationIcon);
+        return;
+    }
+    // The store writes a user by the id: the others who have it would be overwritten.
+    if (user.recordCount() > 1)
+        throwError(RuleViolation,
+                   u"%1 users have the UserID %2, so none of them can be edited. Import one of them "
+                   "with another UserID first."_s.arg(user.recordCount())
+                       .arg(context.id));
     frmUser dialog(context.owner, frmUser::Action::EditUser, context.target());
     dialog.load(user);
     dialog.exec();

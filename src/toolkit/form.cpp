@@ -11,12 +11,15 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int fieldWidthInCharacters = 44;
+constexpr auto textAsSet = "textAsSet";
+constexpr auto textAsShown = "textAsShown";
 
 class SelectsAllOnFocus final : public QObject
 {
@@ -108,6 +111,23 @@ Form::Line Form::line(QLatin1StringView labelName, QLatin1StringView caption, QL
     field->setMinimumWidth(fieldWidthInCharacters * m_dialog.fontMetrics().averageCharWidth());
     selectAllOnFocus(*field);
     return {row(labelName, caption, name, field), field};
+}
+
+void setMemoText(QPlainTextEdit &memo, const QString &text)
+{
+    memo.setPlainText(text);
+    memo.setProperty(textAsSet, text);
+    memo.setProperty(textAsShown, memo.toPlainText());
+}
+
+QString memoText(const QPlainTextEdit &memo)
+{
+    const QVariant shown = memo.property(textAsShown);
+    if (shown.isValid() && memo.toPlainText() == shown.toString())
+        return memo.property(textAsSet).toString();
+    QString text = memo.document()->toRawText();
+    return text.replace(QChar::ParagraphSeparator, QLatin1StringView("\r\n"))
+        .replace(QChar::LineSeparator, QLatin1StringView("\r\n"));
 }
 
 QComboBox *makeFreeCombo()

@@ -12,6 +12,7 @@ class QGroupBox;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
 class QPushButton;
 class QVBoxLayout;
 class QWidget;
@@ -71,6 +72,10 @@ private:
 
 /// All of its text is selected whenever the field gets the focus.
 void selectAllOnFocus(QLineEdit &field);
+/// A text of several lines as it was set, while nobody has changed it; after that with \r\n between the
+/// lines. The edit itself would turn line ends and some blanks into others.
+void setMemoText(QPlainTextEdit &memo, const QString &text);
+[[nodiscard]] QString memoText(const QPlainTextEdit &memo);
 /// An empty list of choices with free text.
 [[nodiscard]] QComboBox *makeFreeCombo();
 

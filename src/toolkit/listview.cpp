@@ -122,6 +122,15 @@ QString ListView::heading(int column) const
     return m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
+int ListView::columnOf(const QString &heading) const
+{
+    const QString wanted = QString(heading).remove(u' ');
+    for (int column = 1; column < columnCount(); ++column)
+        if (this->heading(column).remove(u' ').compare(wanted, Qt::CaseInsensitive) == 0)
+            return column;
+    return -1;
+}
+
 void ListView::setHeading(int column, const QString &heading)
 {
     requireColumn(column);

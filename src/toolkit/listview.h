@@ -29,6 +29,9 @@ public:
     [[nodiscard]] int columnCount() const;
     [[nodiscard]] QString heading(int column) const;
     void setHeading(int column, const QString &heading);
+    /// The first column of a heading, without regard to case and blanks: one query writes "HardwareType" for
+    /// "Hardware Type". -1 for none.
+    [[nodiscard]] int columnOf(const QString &heading) const;
     /// Picture of ImageListHeaders beside the heading; 0 takes it away.
     void setHeadingPicture(int column, int picture);
     [[nodiscard]] int headingPicture(int column) const;

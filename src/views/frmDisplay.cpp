@@ -213,6 +213,8 @@ bool frmDisplay::hasWhatItNeeds(Op op, const CommandContext &context)
         return false;
     };
     const Needs needs = needsOf(context.mode, op);
+    if (needs != Needs::Nothing && !modRender::hasIds(context.mode, *listDisplay))
+        return refuse(u"Please refresh this view by pressing F5 to edit the selected object"_s);
     if (needs == Needs::EditableRow && context.row >= 0 &&
         (context.id == 0 || !modRender::hasEditedColumns(context.mode, *listDisplay)))
         return refuse(u"Please refresh this view by pressing F5 to edit the selected object"_s);

@@ -79,7 +79,7 @@ void ListPane::Sort()
 
 void ListPane::find(int column)
 {
-    if (column > 0 && column < columnCount())
+    if (column >= 0 && column < columnCount() && !isColumnHidden(column))
         guarded(window(), [&] { frmListFind::Initialize(*this, 0, column); });
 }
 

@@ -70,17 +70,6 @@ bool hasHeadings(const ListView &list, const QStringList &headings)
     return true;
 }
 
-/// The column of a heading, blanks left out: one query writes "HardwareType" for "Hardware Type". -1 for
-/// none.
-int columnOf(const ListView &list, QLatin1StringView heading)
-{
-    const QString wanted = QString(heading).remove(u' ');
-    for (int column = 1; column < list.columnCount(); ++column)
-        if (list.heading(column).remove(u' ').compare(wanted, Qt::CaseInsensitive) == 0)
-            return column;
-    return -1;
-}
-
 void readTexts(jet::Recordset &recordset, int field, ListRows &rows)
 {
     if (const TextColumn *texts = recordset.texts(field)) {
@@ -141,6 +130,9 @@ void modRender::renderList(ListView &list, jet::Recordset &recordset)
         rows = readRows(recordset, headings);
     if (sameColumns) {
         list.replaceRows(std::move(rows));
+        // The result of a query shows its first column; a list of objects does not.
+        if (!list.isColumnHidden(0))
+            list.spreadColumns();
         return;
     }
     list.setRows(std::move(rows));
@@ -184,7 +176,7 @@ QString modRender::objectName(Mode mode, const ListView &list, int row)
     QLatin1StringView rest = lookOf(mode).objectName;
     for (qsizetype open = rest.indexOf(u'{'); open >= 0; open = rest.indexOf(u'{')) {
         const qsizetype close = rest.indexOf(u'}', open);
-        const int column = columnOf(list, rest.sliced(open + 1, close - open - 1));
+        const int column = list.columnOf(rest.sliced(open + 1, close - open - 1));
         // A drill-down has columns of its own, the first of which is the name.
         if (column < 0)
             return list.subItem(row, 1);
@@ -192,6 +184,13 @@ QString modRender::objectName(Mode mode, const ListView &list, int row)
         rest = rest.sliced(close + 1);
     }
     return name.isEmpty() ? list.subItem(row, 1) : name;
+}
+
+bool modRender::hasIds(Mode mode, const ListView &list)
+{
+    if (lookOf(mode).family != ModeFamily::Database || list.columnCount() == 0)
+        return true;
+    return list.heading(0).compare(mode == Mode::Users ? "UserID"_L1 : "ID"_L1, Qt::CaseInsensitive) == 0;
 }
 
 bool modRender::hasEditedColumns(Mode mode, const ListView &list)

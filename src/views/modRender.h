@@ -40,6 +40,8 @@ void showSelectedCount(const ListView &list, StatusBar &bar, int panel = 3);
 
 /// The name of a row's object as titles show it.
 [[nodiscard]] QString objectName(Mode mode, const ListView &list, int row);
+/// Whether the first column holds the ids of the mode's objects: the result of a query may have any other.
+[[nodiscard]] bool hasIds(Mode mode, const ListView &list);
 /// Whether the list has the columns that the dialog of the mode edits. A drill-down may have others under the
 /// same mode: what a dialog read from those would be saved in the wrong place.
 [[nodiscard]] bool hasEditedColumns(Mode mode, const ListView &list);

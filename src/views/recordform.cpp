@@ -113,7 +113,7 @@ void RecordForm::put(const Field &field, const QString &text)
     else if (auto *combo = qobject_cast<QComboBox *>(field.widget))
         combo->setEditText(text);
     else if (auto *memo = qobject_cast<QPlainTextEdit *>(field.widget))
-        memo->setPlainText(text);
+        setMemoText(*memo, text);
     else
         static_cast<QCheckBox *>(field.widget)->setChecked(text == "1"_L1);
 }
@@ -136,7 +136,7 @@ QString RecordForm::text(QStringView column) const
     if (const auto *combo = qobject_cast<QComboBox *>(field.widget))
         return combo->currentText();
     if (const auto *memo = qobject_cast<QPlainTextEdit *>(field.widget))
-        return memo->toPlainText();
+        return memoText(*memo);
     return QString::number(int(isChecked(column)));
 }
 

@@ -3,6 +3,9 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <initializer_list>
+#include <utility>
+
 class ListView;
 
 /// The row of a list that a dialog keeps in step with what it saved. It finds its row again after a sort,
@@ -19,6 +22,8 @@ public:
 
     /// Puts the texts into sub-items 1, 2, 3 and so on.
     void put(const QStringList &subItems) const;
+    /// Puts each text into the column of its heading; a list without such a column does not show it.
+    void put(std::initializer_list<std::pair<QLatin1StringView, QString>> cells) const;
 
 private:
     QPointer<ListView> m_list;

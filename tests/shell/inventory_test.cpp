@@ -233,6 +233,46 @@ TEST_F(InventoryTest, CataloguesAreAddedAndEdited)
     }
 }
 
+TEST_F(InventoryTest, UsersOfOneIdAreNotEdited)
+{
+    execute(u"INSERT INTO Tbl_Users (UserID,LastName,UserName,ServerName) VALUES (1,'Aal','aal','SRV')"_s);
+    frmDisplay *view = openAll(Mode::Users);
+    expectBox(
+        u"1973\r\n2 users have the UserID 1, so none of them can be edited. Import one of them with another "
+        "UserID first."_s,
+        box::StopIcon);
+    view->run(Op::Edit);
+}
+
+TEST_F(InventoryTest, AnItemKeepsItsTypeWhereTwoReadTheSameAndNeedsOneWhereItIsGone)
+{
+    execute(u"INSERT INTO Tbl_HWType (Type,Manufacturer,Model,TypeNumber) VALUES ('PC M','X','1','')"_s);
+    execute(u"UPDATE Tbl_HWType SET Type='PC', Manufacturer='M X', Model='1', TypeNumber='' WHERE ID=1"_s);
+    execute(u"UPDATE Tbl_HW SET HWTypeID = 2"_s);
+    frmDisplay *view = openAll(Mode::HW);
+    whenShown<frmHW>([](frmHW &dialog) { dialog.cmdOK->click(); });
+    view->run(Op::Edit);
+    EXPECT_EQ(column(u"SELECT HWTypeID FROM Tbl_HW"_s), QStringList{u"2"_s});
+    execute(u"UPDATE Tbl_HW SET HWTypeID = 99"_s);
+    whenShown<frmHW>([this](frmHW &dialog) {
+        expectBox(u"Please select a Hardware Type from the List"_s, box::WarningIcon);
+        dialog.cmdOK->click();
+        verify();
+        dialog.reject();
+    });
+    view->run(Op::Edit);
+}
+
+TEST_F(InventoryTest, AMemoThatNobodyChangedIsSavedAsItWas)
+{
+    const QString comment = u"first\r\nsecond\u00a0line"_s;
+    execute("UPDATE Tbl_HW SET Comments = '"_L1 + comment + u'\'');
+    frmDisplay *view = openAll(Mode::HW);
+    whenShown<frmHW>([](frmHW &dialog) { dialog.cmdOK->click(); });
+    view->run(Op::Edit);
+    EXPECT_EQ(column(u"SELECT Comments FROM Tbl_HW"_s), QStringList{comment});
+}
+
 TEST_F(InventoryTest, AnApostropheThatIsNotEscapedFailsAndLosesNothing)
 {
     frmDisplay *view = openAll(Mode::Rooms);
@@ -344,6 +384,19 @@ TEST_F(InventoryTest, AUserIsAddedAndEditedWithEveryColumn)
     EXPECT_EQ(lastRow(*view), u"0|New||new|SRV"_s);
     EXPECT_EQ(column(u"SELECT FLAGS & AccLocked & UserID FROM Tbl_Users WHERE UserName='new'"_s),
               QStringList{u"513True3"_s});
+
+    whenShown<frmUser>([&](frmUser &dialog) {
+        dialog.form().setText(u"UserName", u"other"_s);
+        dialog.form().setText(u"ServerName", u"SRV"_s);
+        dialog.form().setText(u"UserID", u"1"_s);
+        expectBox(u"The UserID 1 belongs to another user already. 0 asks for the next free one."_s,
+                  box::StopIcon);
+        dialog.cmdSave->click();
+        verify();
+        dialog.cmdClose->click();
+    });
+    view->run(Op::AddNew);
+    EXPECT_EQ(view->listDisplay->rowCount(), 3) << "Two users of one id would be edited as one.";
 
     view->run(Op::ViewRefresh);
     QTest::keyClicks(view->listDisplay, u"k"_s);

@@ -53,10 +53,9 @@ TEST_F(QueriesTest, AreSavedShownInTheMenuAndRun)
         dialog.txtDescription->setText(u"Users by name"_s);
         dialog.txtQRY->setPlainText(u"SELECT UserID, LastName\nFORM Tbl_Users WHERE LastName = 'Keller'"_s);
         answerYes();
-        expectBox(u"-2147217900\r\nSyntax error (missing operator) in query expression 'LastName FORM'. Near "
-                  u"'FORM' at "
-                  "25."_s,
-                  box::StopIcon);
+        expectBox(
+            u"-2147217900\r\nSyntax error (missing operator) in query expression 'LastName  FORM'. Near 'FORM' at 26."_s,
+            box::StopIcon);
         dialog.cmdExecute->click();
         EXPECT_EQ(dialog.txtQRY->textCursor().selectedText(), u"FORM"_s) << "The mistake is selected.";
         dialog.txtQRY->setPlainText(u"SELECT  UserID, LastName  FROM Tbl_Users\nWHERE LastName = 'Keller'"_s);
