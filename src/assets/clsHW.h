@@ -38,7 +38,7 @@ public:
     void addUsers(const QString &connectionString, int id, std::span<const int> users);
     /// The given software becomes the item's only one.
     void addSW(const QString &connectionString, int id, std::span<const int> software);
-    /// The distinct texts in use, behind an id of 0.
+    /// The distinct texts in use, after an id of 0.
     void getSuppliers(const QString &connectionString, jet::Recordset &result);
     void getStatus(const QString &connectionString, jet::Recordset &result);
     void getUsage(const QString &connectionString, jet::Recordset &result);

@@ -25,7 +25,7 @@ public:
               const QString &manufacturer, const QString &model);
     /// The id and the text under which hardware shows its type: four fields, a blank between them.
     void getDisplayList(const QString &connectionString, jet::Recordset &result);
-    /// The distinct texts in use, behind an id of 0.
+    /// The distinct texts in use, after an id of 0.
     void getTypes(const QString &connectionString, jet::Recordset &result);
     void getManufacturers(const QString &connectionString, jet::Recordset &result);
     /// How many items are of the types.

@@ -17,7 +17,7 @@
 class clsSW final : public RecordClass
 {
 public:
-    /// The distinct texts in use, behind an id of 0.
+    /// The distinct texts in use, after an id of 0.
     void getManufacturers(const QString &connectionString, jet::Recordset &result);
     /// Raises RuleViolation when there is such a product.
     void Add(const QString &connectionString, const QString &type, const QString &manufacturer,

@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 
 using namespace Qt::StringLiterals;
@@ -109,8 +110,11 @@ frmHW::frmHW(QWidget *owner, Action action, RowTarget source, Store store)
             fillChoices<&clsHWType::getDisplayList>(combo(u"HWType"));
         });
     });
-    connect(TabStrip, &QTabWidget::currentChanged, this,
-            [this](int tab) { m_form.field(firstFields[tab])->setFocus(); });
+    connect(TabStrip, &QTabWidget::currentChanged, this, [this](int tab) {
+        // The arrow keys walk along the tabs.
+        if (!TabStrip->tabBar()->hasFocus())
+            m_form.field(firstFields[tab])->setFocus();
+    });
     connect(cmdOK, &QPushButton::clicked, this, &frmHW::Save);
     m_form.show(firstFields[0]);
 }
@@ -148,7 +152,7 @@ int frmHW::hardwareType() const
     int entry = types.currentIndex();
     if (entry < 0 || types.itemText(entry) != typed)
         entry = types.findText(typed, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    // What is no entry leaves an item the type that it has.
+    // A text that is not in the list leaves an item the type that it has.
     return entry < 0 ? m_loadedTypeId : types.itemData(entry).toInt();
 }
 
@@ -201,7 +205,8 @@ void frmHW::Save()
 
 void frmHW::UpdateSource() const
 {
-    m_source.put({{"Hardware Type"_L1, m_form.text(u"HWType")},
+    const bool sameType = m_loadedTypeId != 0 && hardwareType() == m_loadedTypeId;
+    m_source.put({{"Hardware Type"_L1, sameType ? m_loadedType : m_form.text(u"HWType")},
                   {"SerialNumber"_L1, m_form.text(u"SerialNumber")},
                   {"CompanyPropertyNumber"_L1, m_form.text(u"CompanyPropertyNumber")},
                   {"Usage"_L1, m_form.text(u"Usage")},

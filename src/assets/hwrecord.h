@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// One row of Tbl_HW without its id. The members stand in the order of the table's columns;
+/// One row of Tbl_HW without its id. The members are in the order of the table's columns;
 /// EUCD and Network are yes (any number) or no (0).
 struct HWRecord
 {

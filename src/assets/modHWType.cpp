@@ -55,7 +55,7 @@ void editRow(const CommandContext &context)
     dialog.exec();
 }
 
-/// What the question before a delete adds: hardware is no relationship of its type and stays.
+/// What the question before a delete adds: the hardware of a type is not deleted with it.
 QString itemsLeftBehind(const CommandContext &context)
 {
     const int items = clsHWType().countItems(getConnectionString(), context.selectedIds());

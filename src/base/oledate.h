@@ -52,7 +52,7 @@ inline constexpr double largest = 2958465.99999999; // 9999-12-31
 /// Reads m/d/yyyy (the day first when the first number is over 12), yyyy-mm-dd, month
 /// names, two-digit years (00-29 is 20xx), each with or without a time; a time alone
 /// is on day 0. Dashes and, with a year of four digits, points separate as slashes do.
-/// Nothing when the text is no date; a date without its year is none.
+/// Nothing when the text is not a date; a date without its year is none.
 [[nodiscard]] std::optional<double> parse(QStringView text);
 
 /// 3/4/2005, 1/15/2005 2:30:00 PM, or the time alone on day 0.

@@ -21,7 +21,7 @@ QString formatSqlDate(const QString &text)
         return text;
     const std::optional<double> date = oledate::parse(text);
     if (!date)
-        throwError(TypeMismatch, "Type mismatch: '"_L1 + text + "' is no date."_L1);
+        throwError(TypeMismatch, "Type mismatch: '"_L1 + text + "' is not a date."_L1);
     const oledate::Parts parts = oledate::toParts(*date);
     return u"%1/%2/%3"_s.arg(parts.month).arg(parts.day).arg(parts.year);
 }

@@ -7,7 +7,7 @@
 [[nodiscard]] QString escapeQuotes(const QString &text);
 
 /// An empty text stays empty; any other is read as a date and rebuilt as
-/// month/day/year without leading zeros. Raises 13 when the text is no date.
+/// month/day/year without leading zeros. Raises 13 when the text is not a date.
 [[nodiscard]] QString formatSqlDate(const QString &text);
 
 /// Splits at the first backslash: what is behind it goes to the names, what is before

@@ -98,9 +98,11 @@ void frmCustomQuery::mark(const QString &statement, const QString &errorText)
     // Each character of the statement as typed: is it one that was run, and one that the edit shows?
     qsizetype run = 0;
     int shown = 0;
-    bool afterBlank = true;
+    bool begun = false;
+    bool afterBlank = false;
     for (const QChar character : statement) {
-        const bool kept = character != u' ' || !afterBlank;
+        begun = begun || !character.isSpace();
+        const bool kept = begun && (character != u' ' || !afterBlank);
         if (kept && run++ == wanted)
             break;
         afterBlank = character == u' ';

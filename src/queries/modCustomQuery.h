@@ -14,7 +14,7 @@ namespace modCustomQuery {
 
 [[nodiscard]] std::span<const OpRow> handlers();
 
-/// The mode of a statement's result: that of the family whose table is behind the first "from ".
+/// The mode of a statement's result: that of the family whose table follows the first "from ".
 [[nodiscard]] Mode modeOfStatement(const QString &statement);
 /// With one blank where there were several.
 [[nodiscard]] QString normalized(QString statement);

@@ -67,7 +67,7 @@ struct SidebarButton
 [[nodiscard]] std::span<const ToolbarButton> mainToolbar();
 [[nodiscard]] std::span<const SidebarButton> sidebar();
 
-// An entry that nobody can do yet is grey and says so as a tool tip.
+// An entry that has no handler yet is grey and says so as a tool tip.
 
 /// Makes the menus of the table and gives those of the menu bar.
 [[nodiscard]] QList<QMenu *> buildMenus(frmMain &window, std::span<const MenuEntry> entries);

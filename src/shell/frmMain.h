@@ -10,7 +10,7 @@ class ViewMenus;
 
 /// The parent window of the application: the menu, the sidebar, the three toolbars, the
 /// main status bar and the area of the object views. Every command is one call into the
-/// module it concerns; which commands there are stands in the tables of shell/commands.h.
+/// module it concerns; the commands are in the tables of shell/commands.h.
 class frmMain final : public QMainWindow, public MainWindowLink
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     ::StatusBar *StatusBar;
     CommonDialog Dialog;
 
-    /// Brings the sidebar and the status bar up to the settings and the session. Yields.
+    /// Brings the sidebar and the status bar up to the settings and the session.
     void prepareMainWindow();
 
     /// None: which toolbar shows is not the user's choice.

@@ -108,7 +108,7 @@ private:
         bool isNumber = true;
         const bool isNew = id.isEmpty() || id.toInt(&isNumber) == 0;
         if (!isNumber)
-            throwError(jet::TypeMismatch, u"'%1' is no UserID."_s.arg(id));
+            throwError(jet::TypeMismatch, u"'%1' is not a UserID."_s.arg(id));
         if (isNew)
             id = QString::number(nextUserId(store));
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// One row of Tbl_Users. The members stand in the order of the table's columns. Those that go
+/// One row of Tbl_Users. The members are in the order of the table's columns. Those that go
 /// into yes/no columns are yes (any number) or no (0). The days of PasswordAge and the three
 /// logon dates are texts, the dates as oledate::toText() gives them; a MaxStorage of -1 is no limit.
 struct UserRecord

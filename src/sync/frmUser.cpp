@@ -1,6 +1,7 @@
 #include "sync/frmUser.h"
 
 #include "base/error.h"
+#include "messages/guard.h"
 #include "platform/jet/errors.h"
 #include "platform/jet/recordset.h"
 #include "session/connectionstring.h"
@@ -211,8 +212,9 @@ void frmUser::Save()
                 requireFreeId(user.UserID);
                 clsUsers().Add(getConnectionString(), user);
             }
-            offerExport();
             UpdateSource();
+            // The user is in the store, whatever becomes of the export.
+            guarded(this, [this] { offerExport(); });
         },
         m_form.field(u"UserName"));
 }

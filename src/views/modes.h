@@ -47,7 +47,7 @@ struct ModeLook
 
 /// A view without a mode has no family and the pictures of an unknown object.
 [[nodiscard]] const ModeLook &lookOf(std::optional<Mode> mode);
-/// Nothing for a text that is no mode; case counts.
+/// Nothing for a text that names no mode; case counts.
 [[nodiscard]] std::optional<Mode> modeOf(QStringView text);
 
 /// Modes as bits.

@@ -123,8 +123,17 @@ void RecordForm::load(jet::Recordset &record)
     for (const Field &field : std::as_const(m_fields)) {
         const int column = record.fields().indexOf(QString(field.row->column));
         const Value value = column < 0 ? Value() : record.value(column);
-        put(field,
-            field.row->kind == FieldKind::Check ? QString::number(int(value.toBoolean())) : value.toText());
+        switch (field.row->kind) {
+        case FieldKind::Check:
+            put(field, QString::number(int(value.toBoolean())));
+            break;
+        case FieldKind::Number:
+            // A row from an import file has no numbers but those in the file; it can be saved all the same.
+            put(field, value.isNull() ? u"0"_s : value.toText());
+            break;
+        default:
+            put(field, value.toText());
+        }
     }
 }
 

@@ -53,7 +53,7 @@ public:
     [[nodiscard]] QString text(QStringView column) const;
     void setText(QStringView column, const QString &text);
     [[nodiscard]] bool isChecked(QStringView column) const;
-    /// Raises TypeMismatch, and shows the field, for a text that is no whole number.
+    /// Raises TypeMismatch, and shows the field, for a text that is not a whole number.
     [[nodiscard]] int number(QStringView column) const;
 
     /// A column that has no field is an error of the program.

@@ -11,7 +11,7 @@ namespace {
 struct Reading
 {
     const char *text;
-    const char *iso; // nothing: it is no date
+    const char *iso; // nothing: it is not a date
 };
 
 // clang-format off

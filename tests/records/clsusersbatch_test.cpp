@@ -130,8 +130,8 @@ TEST_F(UserBatchTest, AnIdIsNewForZeroAndNothingAndRefusedForWhatIsNoId)
                  u"True|fred|S"_s, u"0.4|gina|S"_s});
     expectCounts(3, 0, 4);
     EXPECT_EQ(rows(idsAndNames), (Rows{u"1|anna"_s, u"2|bert"_s, u"3|emil"_s}));
-    EXPECT_EQ(text, "S\\cleo 'abc' is no UserID.\r\nS\\dora '3000000000' is no UserID.\r\n"
-                    "S\\fred 'True' is no UserID.\r\nS\\gina '0.4' is no UserID.\r\n"_L1);
+    EXPECT_EQ(text, "S\\cleo 'abc' is not a UserID.\r\nS\\dora '3000000000' is not a UserID.\r\n"
+                    "S\\fred 'True' is not a UserID.\r\nS\\gina '0.4' is not a UserID.\r\n"_L1);
 }
 
 TEST_F(UserBatchTest, AKnownUserIsPassedOverUncountedOrGetsAGeneratedId)

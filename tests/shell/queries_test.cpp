@@ -51,7 +51,8 @@ TEST_F(QueriesTest, AreSavedShownInTheMenuAndRun)
     whenShown<frmCustomQuery>([this](frmCustomQuery &dialog) {
         dialog.txtName->setText(u"Lost"_s);
         dialog.txtDescription->setText(u"Users by name"_s);
-        dialog.txtQRY->setPlainText(u"SELECT UserID, LastName\nFORM Tbl_Users WHERE LastName = 'Keller'"_s);
+        dialog.txtQRY->setPlainText(
+            u"\n SELECT UserID, LastName\nFORM Tbl_Users WHERE LastName = 'Keller'"_s);
         answerYes();
         expectBox(
             u"-2147217900\r\nSyntax error (missing operator) in query expression 'LastName  FORM'. Near 'FORM' at 26."_s,

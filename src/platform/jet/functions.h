@@ -61,7 +61,7 @@ struct FunctionInfo
 ///   jet_sub, jet_mul     the same for - and *
 ///   jet_product('*/', a, b, c)   a * b / c, as many as there are signs
 ///   jet_div, jet_idiv, jet_mod, jet_pow, jet_bxor   the arithmetic that SQLite lacks
-///   jet_band, jet_bor    of values that are no whole numbers of 32 bits
+///   jet_band, jet_bor    of values that are not whole numbers of 32 bits
 ///   jet_raise(number, text)   raises
 /// The conversions that people may type are used by the emitter, too: jet_cdate, jet_clng, jet_cdbl; and
 /// jet_today.
